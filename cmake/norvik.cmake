@@ -1,0 +1,24 @@
+# Compiler settings that hold for every target of ours.
+add_library(norvik_settings INTERFACE)
+target_compile_options(norvik_settings INTERFACE -Wall -Wextra -Wconversion -Werror)
+target_include_directories(norvik_settings INTERFACE ${CMAKE_CURRENT_LIST_DIR}/..)
+
+# norvik_sources(<variable> <folder>...): the C++ files of the folders, but for the exports, which only the library has.
+function(norvik_sources variable)
+  set(found)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/${folder}/*.h)
+    list(APPEND found ${files})
+  endforeach()
+  list(FILTER found EXCLUDE REGEX "/shell/exports\\.cpp$")
+  set(${variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# norvik_library(<target> <SHARED|STATIC> <folder>...): a library of the files in the folders.
+function(norvik_library target kind)
+  norvik_sources(sources ${ARGN})
+  add_library(${target} ${kind} ${sources})
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(${target} PRIVATE norvik_settings)
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()
