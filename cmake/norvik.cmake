@@ -14,9 +14,13 @@ function(norvik_sources variable)
   set(${variable} ${found} PARENT_SCOPE)
 endfunction()
 
-# norvik_library(<target> <SHARED|STATIC> <folder>...): a library of the files in the folders.
+# norvik_library(<target> <SHARED|STATIC> <folder>...): a library of the files in the folders; empty if they have none.
 function(norvik_library target kind)
   norvik_sources(sources ${ARGN})
+  if(NOT sources)
+    set(sources ${PROJECT_BINARY_DIR}/empty.cpp)
+    file(TOUCH ${sources})
+  endif()
   add_library(${target} ${kind} ${sources})
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(${target} PRIVATE norvik_settings)
