@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/host_api.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* A host written in C: a library of one function, a window, a directory of one bank, each registered and
+   asked through the header. 0, or the number of the first step that went wrong. */
+int c_host_run(void);
+
+#ifdef __cplusplus
+}
+#endif
