@@ -1,0 +1,102 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "toolkit/component.h"
+
+class TControl;
+class TCustomActionList;
+class TMenuItem;
+
+/// A command. Its caption, hint, enabled, visible and checked state show on all controls and menu items bound
+/// to it.
+class TAction : public TComponent {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+  Q_PROPERTY(QString Hint READ PublishedHint WRITE SetPublishedHint)
+
+ public:
+  explicit TAction(TComponent* owner);
+  ~TAction() override;
+
+  std::string Caption() const { return caption_; }
+  void SetCaption(const std::string& caption);
+  std::string Hint() const { return hint_; }
+  void SetHint(const std::string& hint);
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+  bool Checked() const { return checked_; }
+  void SetChecked(bool checked);
+  /// Index of the picture in the action list's images, -1: none.
+  int ImageIndex() const { return image_index_; }
+  void SetImageIndex(int index);
+
+  /// The list that the action belongs to; null takes it out.
+  TCustomActionList* ActionList() const { return list_; }
+  void SetActionList(TCustomActionList* list);
+
+  /// Runs OnExecute when the action is enabled; false when it is disabled or has no OnExecute.
+  bool Execute();
+
+  TNotifyEvent OnExecute;
+
+  QString PublishedCaption() const;
+  void SetPublishedCaption(const QString& caption);
+  QString PublishedHint() const;
+  void SetPublishedHint(const QString& hint);
+
+ private:
+  friend class TControl;
+  friend class TMenuItem;
+  void Changed();
+  void Bind(TControl* control);
+  void Unbind(TControl* control);
+  void Bind(TMenuItem* item);
+  void Unbind(TMenuItem* item);
+
+  std::string caption_;
+  std::string hint_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool checked_ = false;
+  int image_index_ = -1;
+  TCustomActionList* list_ = nullptr;
+  std::vector<TControl*> controls_;
+  std::vector<TMenuItem*> items_;
+};
+
+class TImageList;
+
+/// The actions of a form, in the order in which they came.
+class TCustomActionList : public TComponent {
+  Q_OBJECT
+
+ public:
+  ~TCustomActionList() override;
+  int ActionCount() const { return static_cast<int>(actions_.size()); }
+  TAction* Actions(int index) const { return actions_.at(static_cast<std::size_t>(index)); }
+  /// The pictures of the actions; not owned, null: none.
+  TImageList* Images() const { return images_; }
+  void SetImages(TImageList* images) { images_ = images; }
+  /// Makes an action of the list, owned by the list's owner.
+  TAction* NewAction(const char* name, const std::string& caption = {}, int image_index = -1);
+
+ protected:
+  explicit TCustomActionList(TComponent* owner) : TComponent(owner) {}
+
+ private:
+  friend class TAction;
+  std::vector<TAction*> actions_;
+  TImageList* images_ = nullptr;
+};
+
+class TActionList : public TCustomActionList {
+  Q_OBJECT
+
+ public:
+  explicit TActionList(TComponent* owner) : TCustomActionList(owner) {}
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "toolkit/control.h"
+#include "toolkit/conversion.h"
+
+class TCustomEdit;
+
+/// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when he picks it
+/// twice.
+class TMonthCalendar : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TMonthCalendar(TComponent* owner);
+
+  /// The chosen day; the time of day is 0.
+  TDateTime Date() const;
+  /// Chooses the day of a date-time without running OnClick.
+  void SetDate(TDateTime date);
+
+ protected:
+  bool ClicksByMouse() const override { return false; }
+};
+
+/// Two arrow buttons that count the number in an edit up and down.
+class TUpDown : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TUpDown(TComponent* owner);
+
+  /// The edit that shows the number; not owned. The position is read from it at each press.
+  void SetAssociate(TCustomEdit* edit);
+  int Min() const { return min_; }
+  int Max() const { return max_; }
+  /// Bounds, both included; 0 and 100 at the start.
+  void SetRange(int min, int max);
+  /// The number in the edit, or the last one set when it holds none; within the bounds.
+  int Position() const;
+  /// Sets the number, brought within the bounds, and writes it to the edit.
+  void SetPosition(int position);
+
+ private:
+  void Step(int by);
+
+  QPointer<QObject> edit_;
+  int min_ = 0;
+  int max_ = 100;
+  int position_ = 0;
+};

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/control.h"
+#include "toolkit/string_list.h"
+
+class QComboBox;
+
+namespace corvane {
+class Row;
+}
+
+/// A drop-down list. OnChange runs when the user picks an entry, not for SetItemIndex.
+class TCustomComboBox : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Text READ PublishedText WRITE SetPublishedText)
+  Q_PROPERTY(int ImeMode READ ImeMode WRITE SetImeMode)
+  Q_PROPERTY(QString ImeName READ PublishedImeName WRITE SetPublishedImeName)
+
+ public:
+  /// The visible entries. A changed text keeps the choice; clearing leaves none.
+  TStrings& Items() { return items_; }
+  const TStrings& Items() const { return items_; }
+  /// The chosen entry, -1: none.
+  int ItemIndex() const;
+  /// Chooses an entry without running OnChange; an index out of range chooses none.
+  void SetItemIndex(int index);
+  /// Text of the chosen entry, empty when there is none.
+  std::string Text() const;
+  /// Chooses the first entry of that text; any other text changes nothing.
+  void SetText(const std::string& text);
+  virtual void Clear();
+
+  TNotifyEvent OnChange;
+
+  QString PublishedText() const;
+  void SetPublishedText(const QString& text);
+
+ protected:
+  explicit TCustomComboBox(TComponent* owner);
+  void FontChanged() override;
+  QComboBox* Combo() const;
+
+ private:
+  void ItemsChanged();
+
+  TStrings items_;
+};
+
+/// A drop-down list whose entries have a key and a name: three lists side by side, each with its own
+/// operations.
+class TKVXCustomComboBox : public TCustomComboBox {
+  Q_OBJECT
+
+ public:
+  TStrings& Keys() { return keys_; }
+  const TStrings& Keys() const { return keys_; }
+  TStrings& Names() { return names_; }
+  const TStrings& Names() const { return names_; }
+  /// Text that joins key and name in an entry; "-" at the start.
+  std::string LinkSymbol() const { return link_symbol_; }
+  void SetLinkSymbol(const std::string& symbol) { link_symbol_ = symbol; }
+
+  /// Replaces all three lists by the fields of a row in the row's order: name as key, value as name and
+  /// entry. No entry is chosen.
+  void Init(const corvane::Row& row);
+  /// Index of a key, -1 when absent.
+  int FindKeyIndex(const std::string& key) const;
+  /// Key of the chosen entry, empty when none is chosen or it has no key.
+  std::string GetKey() const;
+  void Clear() override;
+
+ protected:
+  explicit TKVXCustomComboBox(TComponent* owner) : TCustomComboBox(owner) {}
+
+ private:
+  TStrings keys_;
+  TStrings names_;
+  std::string link_symbol_ = "-";
+};
+
+class TKVXComboBox : public TKVXCustomComboBox {
+  Q_OBJECT
+
+ public:
+  explicit TKVXComboBox(TComponent* owner) : TKVXCustomComboBox(owner) {}
+};

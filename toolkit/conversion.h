@@ -1,0 +1,42 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// A text that can't be converted, or numbers that are no date.
+class EConvertError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Days since 1899-12-30; the fraction is the time of day.
+using TDateTime = double;
+
+/// A whole number, decimal or with $ or 0x hexadecimal, blanks in front allowed; EConvertError for all else.
+int StrToInt(std::string_view text);
+/// The same with a result for what isn't a number.
+int StrToIntDef(std::string_view text, int otherwise);
+/// A decimal number with an optional sign, fraction after "." and exponent, blanks around allowed; no
+/// thousands separators. EConvertError for all else.
+double StrToFloat(std::string_view text);
+/// At most 15 significant digits, without trailing zeros, "." as point.
+std::string FloatToStr(double value);
+std::string IntToStr(int value);
+
+/// A date from year 1 to 9999, month and day; EConvertError when the calendar lacks it.
+TDateTime EncodeDate(int year, int month, int day);
+/// A time of day, hour 0 to 23; EConvertError when out of range.
+TDateTime EncodeTime(int hour, int minute, int second, int millisecond = 0);
+void DecodeDate(TDateTime value, int& year, int& month, int& day);
+/// The time of day; rounded to whole milliseconds.
+void DecodeTime(TDateTime value, int& hour, int& minute, int& second, int& millisecond);
+/// Current local date and time.
+TDateTime Now();
+/// The value with one or more seconds more.
+TDateTime IncSecond(TDateTime value, int seconds = 1);
+/// Writes a value by a pattern of yyyy, mm (month; minutes behind h or hh), dd, hh, nn and ss; all else as it
+/// stands.
+std::string FormatDateTime(std::string_view pattern, TDateTime value);
+/// "yyyy-mm-dd hh:nn:ss".
+std::string DateTimeToStr(TDateTime value);

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/component.h"
+
+class TForm;
+
+/// Asks for the name of a file to write. Nothing is written and nothing asked about an existing file.
+class TSaveDialog : public TComponent {
+  Q_OBJECT
+
+ public:
+  explicit TSaveDialog(TComponent* owner) : TComponent(owner) {}
+
+  /// Pairs of text and pattern, all parted by "|": "Text (*.txt)|*.txt|XML (*.xml)|*.xml".
+  std::string Filter() const { return filter_; }
+  void SetFilter(const std::string& filter) { filter_ = filter; }
+  /// The chosen pair, counted from 1.
+  int FilterIndex() const { return filter_index_; }
+  void SetFilterIndex(int index) { filter_index_ = index; }
+  /// Extension, with or without its dot, that a name without one gets.
+  std::string DefaultExt() const { return default_ext_; }
+  void SetDefaultExt(const std::string& extension) { default_ext_ = extension; }
+  std::string FileName() const { return file_name_; }
+  void SetFileName(const std::string& name) { file_name_ = name; }
+  std::string Title() const { return title_; }
+  void SetTitle(const std::string& title) { title_ = title; }
+
+  /// Shows the dialog, a QFileDialog that bears the component's name, over a form or the active window, and
+  /// waits for it. True when the user took a name; it is in FileName with the default extension added where
+  /// it has none.
+  bool Execute(TForm* parent = nullptr);
+
+  /// Runs when the user picks another pair of the filter, after FilterIndex has changed.
+  TNotifyEvent OnTypeChange;
+
+ private:
+  std::string WithExtension(const std::string& name) const;
+
+  std::string filter_;
+  std::string default_ext_;
+  std::string file_name_;
+  std::string title_;
+  int filter_index_ = 1;
+};

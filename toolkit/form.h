@@ -1,0 +1,143 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "toolkit/control.h"
+
+class TbsSkinButton;
+
+/// Messages that reach TForm::Dispatch.
+inline constexpr std::uint32_t WM_ACTIVATE = 6;
+inline constexpr std::uint32_t WM_SYSCOMMAND = 0x112;
+inline constexpr std::uintptr_t SC_RESTORE = 0xF120;
+/// wParam of WM_ACTIVATE.
+inline constexpr std::uintptr_t WA_INACTIVE = 0;
+inline constexpr std::uintptr_t WA_ACTIVE = 1;
+inline constexpr std::uintptr_t WA_CLICKACTIVE = 2;
+
+/// A window. Made by CreateForm, which runs BuildControls, SetCaptions and Construct in this order; deleted
+/// by DestroyForm or by its owner, after FormDestroy has run. It starts hidden; closing hides it.
+class TForm : public TWinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  /// owner: Application, another form, or null.
+  explicit TForm(TComponent* owner);
+  ~TForm() override;
+
+  /// Makes the controls: the form resource. A descendant calls its base's first.
+  virtual void BuildControls() {}
+  /// Gives the controls their caption keys. A descendant calls its base's first.
+  virtual void SetCaptions() {}
+  /// What the original's constructors do behind the form resource. A descendant calls its base's first.
+  virtual void Construct() {}
+  /// Runs once before the form is deleted; here it runs OnDestroy.
+  virtual void FormDestroy();
+
+  /// Shows the form, brings it to the front and runs OnShow; an already visible form only comes to the front.
+  void Show();
+  /// Takes the form away without OnClose.
+  void Hide();
+  /// Runs OnClose and hides the form; in ShowModal the result becomes mrCancel when it is still 0.
+  void Close();
+  /// Shows the form and returns its modal result, not 0, when it has been closed. Until then no other window
+  /// of the process takes input. An exception of OnShow ends it and goes up, with the form hidden.
+  int ShowModal();
+  int ModalResult() const { return modal_result_; }
+  /// A number other than 0 ends ShowModal as soon as the running event is over.
+  void SetModalResult(int result);
+  bool Showing() const;
+  bool Active() const;
+  void BringToFront();
+
+  TFormBorderStyle BorderStyle() const { return border_style_; }
+  void SetBorderStyle(TFormBorderStyle style);
+  TFormStyle FormStyle() const { return form_style_; }
+  void SetFormStyle(TFormStyle style);
+  /// Where the form opens: as designed (the platform chooses), in the middle of the screen, of the host's
+  /// main window, or of the owner form (of the main window when the owner is no form).
+  TPosition Position() const { return position_; }
+  void SetPosition(TPosition position) { position_ = position; }
+  void SetWidth(int width) override;
+  void SetHeight(int height) override;
+  /// Inner size, pixels; the same as Width and Height, which leave the frame out.
+  int ClientWidth() const { return Width(); }
+  int ClientHeight() const { return Height(); }
+
+  /// Whether OnKeyDown of the form sees a key before the control that has the focus.
+  bool KeyPreview() const { return key_preview_; }
+  void SetKeyPreview(bool preview) { key_preview_ = preview; }
+  /// The control that has, or will have, the focus; null when there is none.
+  TWinControl* ActiveControl() const;
+  void SetActiveControl(TWinControl* control);
+  /// Buttons that Return and Escape press, before any other use of these keys; null: none.
+  TbsSkinButton* DefaultButton() const { return default_button_; }
+  void SetDefaultButton(TbsSkinButton* button);
+  TbsSkinButton* CancelButton() const { return cancel_button_; }
+  void SetCancelButton(TbsSkinButton* button) { cancel_button_ = button; }
+
+  /// Handle of the form as a window that takes messages, made at the first call; valid until the form is
+  /// deleted.
+  std::uint32_t Handle();
+  /// Takes a message. Here: WM_SYSCOMMAND with SC_RESTORE shows and activates the window, WM_ACTIVATE (which
+  /// the layer sends when the window becomes active or inactive) runs OnActivate; all else is ignored and
+  /// gives 0.
+  virtual std::intptr_t Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam);
+
+  void BeforeDestruction() override;
+
+  TNotifyEvent OnShow;
+  TNotifyEvent OnClose;
+  TNotifyEvent OnDestroy;
+  TNotifyEvent OnActivate;
+
+ protected:
+  void CaptionChanged() override;
+  bool WidgetEvent(QWidget* widget, QEvent* event) override;
+  QWidget* FocusWidget() const override { return nullptr; }
+
+ private:
+  friend class TWinControl;
+  void ApplyWindowFlags();
+  void PlaceWindow();
+  void RunShow();
+  void WindowActivated(bool active);
+  void FocusMoved(TWinControl* control) { active_control_ = control; }
+
+  QPointer<TWinControl> active_control_;
+  QPointer<TbsSkinButton> default_button_;
+  QPointer<TbsSkinButton> cancel_button_;
+  TFormBorderStyle border_style_ = bsSizeable;
+  TFormStyle form_style_ = fsNormal;
+  TPosition position_ = poDesigned;
+  std::uint32_t handle_ = 0;
+  int modal_result_ = mrNone;
+  bool key_preview_ = false;
+  bool modal_ = false;
+  bool destroying_ = false;
+};
+
+/// Deletes a form: FormDestroy first, whose exceptions go to the application's handler. Null does nothing.
+void DestroyForm(TForm* form);
+
+struct TFormDeleter {
+  void operator()(TForm* form) const { DestroyForm(form); }
+};
+/// A form for one showing, destroyed at the end of its block.
+template <class T>
+using TFormPointer = std::unique_ptr<T, TFormDeleter>;
+
+/// Makes a form of class T; its owner, if any, deletes it at the latest. An exception of a step deletes it
+/// and goes up.
+template <class T, class... Arguments>
+T* CreateForm(TComponent* owner, Arguments&&... arguments) {
+  auto form = std::make_unique<T>(owner, std::forward<Arguments>(arguments)...);
+  form->BuildControls();
+  form->SetCaptions();
+  form->Construct();
+  return form.release();
+}

@@ -1,0 +1,104 @@
+#pragma once
+
+class QBoxLayout;
+class QGridLayout;
+class QLayout;
+class QWidget;
+class TControl;
+class TWinControl;
+
+/// How a control stands in its cell.
+enum TCellAlign { caFill, caLeft, caRight, caCenter, caTop };
+
+class TGridLayout;
+class TRowLayout;
+class TColumnLayout;
+
+/// Handles to layouts of a container's client area. A handle is a small value; Qt owns the layout. Adding a
+/// control makes the container its parent. Sizes follow the controls' fonts, so a form stays readable at any
+/// font size.
+class TLayout {
+ public:
+  /// Room round the layout, pixels.
+  void SetMargins(int left, int top, int right, int bottom);
+  /// Room between controls, pixels.
+  void SetSpacing(int spacing);
+
+ protected:
+  explicit TLayout(TWinControl* parent) : parent_(parent) {}
+  void Init(QLayout* layout);
+  void Adopt(TControl* control);
+
+  TWinControl* parent_;
+  QLayout* layout_ = nullptr;
+};
+
+/// Controls in a row or a column, one behind the other.
+class TBoxLayout : public TLayout {
+ public:
+  /// Adds a control; of the room left over it takes a share by its stretch.
+  void Add(TControl* control, int stretch = 0, TCellAlign align = caFill);
+  /// Adds room of a fixed size, pixels.
+  void AddSpace(int size);
+  /// Adds room that takes a share of what is left over.
+  void AddStretch(int stretch = 1);
+  /// Adds a layout inside this one.
+  TRowLayout AddRow(int stretch = 0);
+  TColumnLayout AddColumn(int stretch = 0);
+  TGridLayout AddGrid(int stretch = 0);
+
+ protected:
+  using TLayout::TLayout;
+  QBoxLayout* Box() const;
+};
+
+/// From left to right.
+class TRowLayout : public TBoxLayout {
+ public:
+  /// Replaces the container's layout; the margins are 0.
+  explicit TRowLayout(TWinControl* container);
+
+ private:
+  friend class TBoxLayout;
+  friend class TGridLayout;
+  TRowLayout(TWinControl* parent, QLayout* layout);
+};
+
+/// From top to bottom.
+class TColumnLayout : public TBoxLayout {
+ public:
+  /// Replaces the container's layout; the margins are 0.
+  explicit TColumnLayout(TWinControl* container);
+
+ private:
+  friend class TBoxLayout;
+  friend class TGridLayout;
+  TColumnLayout(TWinControl* parent, QLayout* layout);
+};
+
+/// Cells in rows and columns, counted from 0.
+class TGridLayout : public TLayout {
+ public:
+  /// Replaces the container's layout; the margins are 0.
+  explicit TGridLayout(TWinControl* container);
+
+  /// Puts a control into a cell, over as many rows and columns as told.
+  void Put(TControl* control, int row, int column, int row_span = 1, int column_span = 1,
+           TCellAlign align = caFill);
+  /// Puts a row of controls into a cell.
+  TRowLayout PutRow(int row, int column, int row_span = 1, int column_span = 1);
+  /// Puts a label, its control and the "*" of a field that must be given (null: none) into three cells from
+  /// column on: the label right-aligned, the control filling.
+  void PutField(int row, int column, TControl* label, TControl* control, TControl* star = nullptr);
+  /// Share of a column or a row in the room left over; 0 at the start.
+  void SetColumnStretch(int column, int stretch);
+  void SetRowStretch(int row, int stretch);
+  /// Least size of a column or a row, pixels.
+  void SetColumnMinimum(int column, int width);
+  void SetRowMinimum(int row, int height);
+
+ private:
+  friend class TBoxLayout;
+  TGridLayout(TWinControl* parent, QLayout* layout);
+  QGridLayout* Grid() const;
+};

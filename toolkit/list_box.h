@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/control.h"
+#include "toolkit/string_list.h"
+
+class QListWidget;
+
+namespace corvane {
+class StringVector;
+}
+
+/// A list of entries of which any number is selected; each has a key and a name in the two lists beside
+/// Items. OnClick runs when the user changes the selection, not for SetSelected.
+class TKVXCustomListBox : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  /// The visible entries. Appending keeps the selection; a changed text keeps it; clearing leaves none.
+  TStrings& Items() { return items_; }
+  const TStrings& Items() const { return items_; }
+  TStrings& Keys() { return keys_; }
+  const TStrings& Keys() const { return keys_; }
+  TStrings& Names() { return names_; }
+  const TStrings& Names() const { return names_; }
+  /// Empties all three lists.
+  void Clear();
+
+  /// Whether the entry at an index is selected; false when there is none.
+  bool Selected(int index) const;
+  void SetSelected(int index, bool selected);
+  int SelCount() const;
+  /// Keys of the selected entries, in list order.
+  corvane::StringVector GetSelectedKeys() const;
+
+ protected:
+  explicit TKVXCustomListBox(TComponent* owner);
+  void FontChanged() override;
+  bool ClicksByMouse() const override { return false; }
+
+ private:
+  QListWidget* List() const;
+  void ItemsChanged();
+
+  TStrings items_;
+  TStrings keys_;
+  TStrings names_;
+};
+
+class TKVXListBox : public TKVXCustomListBox {
+  Q_OBJECT
+
+ public:
+  explicit TKVXListBox(TComponent* owner) : TKVXCustomListBox(owner) {}
+};

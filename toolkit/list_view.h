@@ -1,0 +1,278 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "toolkit/control.h"
+
+class QTreeView;
+class TCustomListView;
+class TListItem;
+class TListItems;
+
+namespace corvane {
+class List;
+class Property;
+class StringVector;
+}  // namespace corvane
+
+/// A column of a list view. MaxWidth 1 hides it from the user; so does width 0.
+class TListColumn : public TObject {
+  Q_OBJECT
+
+ public:
+  std::string Caption() const { return caption_; }
+  void SetCaption(const std::string& caption);
+  /// Width in pixels, brought within MinWidth and MaxWidth where these aren't 0; 50 at the start.
+  int Width() const;
+  void SetWidth(int width);
+  int MinWidth() const { return min_width_; }
+  void SetMinWidth(int width);
+  /// Greatest width, 0: no limit. With 1 the column reads as 1 or 0 wide and can't be dragged open.
+  int MaxWidth() const { return max_width_; }
+  void SetMaxWidth(int width);
+  TAlignment Alignment() const { return alignment_; }
+  void SetAlignment(TAlignment alignment);
+  /// Display format of the cells: 2 amount with thousands separators, 4 whole number, 5 rate; 100 internal;
+  /// others: the text as it stands. The record isn't changed by it.
+  int Tag() const { return tag_; }
+  void SetTag(int tag);
+  /// Position among the columns, from 0.
+  int Index() const;
+  /// Identity in the collection, never given twice while the list view lives.
+  int ID() const { return id_; }
+
+ private:
+  friend class TListColumns;
+  friend class TCustomListView;
+  TListColumn(TCustomListView* view, int id);
+
+  TCustomListView* view_;
+  std::string caption_;
+  int id_;
+  int width_ = 50;
+  int min_width_ = 0;
+  int max_width_ = 0;
+  int tag_ = 0;
+  TAlignment alignment_ = taLeftJustify;
+};
+
+/// The columns of a list view, in their present order.
+class TListColumns {
+ public:
+  int Count() const { return static_cast<int>(columns_.size()); }
+  /// std::out_of_range when there is none.
+  TListColumn* Items(int index) const { return columns_.at(static_cast<std::size_t>(index)).get(); }
+  TListColumn* operator[](int index) const { return Items(index); }
+  /// Appends a column.
+  TListColumn* Add();
+  void Clear();
+  /// The column of an identity, null when it is gone.
+  TListColumn* FindItemID(int id) const;
+
+ private:
+  friend class TCustomListView;
+  explicit TListColumns(TCustomListView* view) : view_(view) {}
+
+  TCustomListView* view_;
+  std::vector<std::unique_ptr<TListColumn>> columns_;
+  int next_id_ = 0;
+};
+
+/// A row of a list view: a small handle that stays the same while the row lives.
+class TListItem {
+ public:
+  /// Text of the first column.
+  std::string Caption() const;
+  void SetCaption(const std::string& caption);
+  /// Texts of the columns behind the first; one that isn't there reads as empty.
+  std::string SubItems(int index) const;
+  void SetSubItems(int index, const std::string& text);
+  int SubItemCount() const;
+  void AddSubItem(const std::string& text);
+  bool Checked() const;
+  /// Ticks or unticks the row without running OnItemCheck.
+  void SetChecked(bool checked);
+  bool Selected() const;
+  void SetSelected(bool selected);
+  bool Focused() const;
+  void SetFocused(bool focused);
+  /// One state by its index: 2 is focused, 3 selected; others have no effect.
+  void SetState(int index, bool on);
+  /// Position in the list, from 0; changes when rows before it go.
+  int Index() const;
+  /// The record of the row in a KVX list view, null elsewhere; the view owns it.
+  corvane::Property* Data() const;
+  /// Takes the row out of the list; the handle is gone afterwards.
+  void Delete();
+
+ private:
+  friend class TCustomListView;
+  friend class TListItems;
+  struct Row;
+  TListItem() = default;
+
+  TCustomListView* view_ = nullptr;
+  Row* row_ = nullptr;
+};
+
+/// The rows of a list view, counted from 0.
+class TListItems {
+ public:
+  int Count() const;
+  /// The row at an index; std::out_of_range when there is none.
+  TListItem* Item(int index) const;
+  TListItem* operator[](int index) const { return Item(index); }
+  TListItem* Add();
+  /// Inserts an empty row before an index, at most Count.
+  TListItem* Insert(int index);
+  void Delete(int index);
+  void Clear();
+
+ private:
+  friend class TCustomListView;
+  explicit TListItems(TCustomListView* view) : view_(view) {}
+  TCustomListView* view_;
+};
+
+enum TViewStyle { vsIcon, vsSmallIcon, vsList, vsReport };
+
+/// A list of rows in columns with a check box for each row. OnSelectItem and OnItemCheck run for the user's
+/// doing; OnSelectItem also when the selection is changed by code, as the original list control reports it.
+class TCustomListView : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  ~TCustomListView() override;
+
+  TListColumns& Columns() { return columns_; }
+  const TListColumns& Columns() const { return columns_; }
+  TListItems& Items() { return items_; }
+  const TListItems& Items() const { return items_; }
+  /// The selected row, null: none.
+  TListItem* Selected() const;
+  void SetSelected(TListItem* item);
+  /// Index of the selected row, -1: none.
+  int ItemIndex() const;
+  void SetItemIndex(int index);
+  /// The row that has the focus rectangle, null: none.
+  TListItem* ItemFocused() const;
+  void SetItemFocused(TListItem* item);
+  /// The row at a point of the control, null: none.
+  TListItem* GetItemAt(int x, int y) const;
+  virtual void Clear();
+
+  /// Only the report style is drawn.
+  TViewStyle ViewStyle() const { return view_style_; }
+  void SetViewStyle(TViewStyle style) { view_style_ = style; }
+  bool Checkboxes() const { return checkboxes_; }
+  void SetCheckboxes(bool on);
+  bool GridLines() const { return grid_lines_; }
+  void SetGridLines(bool on);
+  bool RowSelect() const { return row_select_; }
+  void SetRowSelect(bool on);
+  bool ReadOnly() const { return read_only_; }
+  void SetReadOnly(bool on) { read_only_ = on; }
+  /// Whether the selection shows only with the focus.
+  bool HideSelection() const { return hide_selection_; }
+  void SetHideSelection(bool on);
+  /// Whether the user may drag columns to another place.
+  bool FullDrag() const { return full_drag_; }
+  void SetFullDrag(bool on);
+  bool ShowColumnHeaders() const { return show_column_headers_; }
+  void SetShowColumnHeaders(bool on);
+
+  std::function<void(TObject* sender, TListItem* item, bool selected)> OnSelectItem;
+  std::function<void(TObject* sender, TListItem* item)> OnItemCheck;
+
+ protected:
+  explicit TCustomListView(TComponent* owner);
+  void FontChanged() override;
+  bool WidgetEvent(QWidget* widget, QEvent* event) override;
+  class Model;
+  Model* Rows() const { return model_; }
+  QTreeView* View() const;
+
+ private:
+  friend class TListColumn;
+  friend class TListColumns;
+  friend class TListItem;
+  friend class TListItems;
+
+  Model* model_;
+  TListColumns columns_;
+  TListItems items_;
+  TViewStyle view_style_ = vsReport;
+  bool checkboxes_ = false;
+  bool grid_lines_ = false;
+  bool row_select_ = false;
+  bool read_only_ = false;
+  bool hide_selection_ = true;
+  bool full_drag_ = false;
+  bool show_column_headers_ = true;
+};
+
+class TListView : public TCustomListView {
+  Q_OBJECT
+
+ public:
+  explicit TListView(TComponent* owner) : TCustomListView(owner) {}
+};
+
+/// A list view that owns a record for each row. Cells are read from the record by the column ids when they
+/// are painted; a record whose field Color is a number is drawn in that colour.
+class TKVXCustomListView : public TCustomListView {
+  Q_OBJECT
+
+ public:
+  /// Name of the record's field that each column shows, in the order of Columns.
+  corvane::StringVector& ColumnIds() { return *column_ids_; }
+  const corvane::StringVector& ColumnIds() const { return *column_ids_; }
+
+  /// Appends a row for each record. column_ids are the fields that the columns show, joined with "; ".
+  void Add(const corvane::List& rows, const std::string& column_ids);
+  /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected ones, 0 all, in list order.
+  void GetDataVector(corvane::List& rows, int mode) const;
+  /// Copies the record of a row with all its fields; the column ids choose nothing. False, and an emptied
+  /// record, when there is no such row.
+  bool Get(corvane::Property& row, const corvane::StringVector& column_ids, int index) const;
+  bool Get(corvane::Property& row, const corvane::StringVector& column_ids, const TListItem* item) const;
+  /// Replaces the record of a row and repaints it; a null item changes nothing.
+  void Modify(const corvane::Property& row, const corvane::StringVector& column_ids, TListItem* item);
+  /// The record of a row, null when the item is null; the view owns it.
+  corvane::Property* PropertyOf(const TListItem* item) const;
+  /// Repaints a row whose record was changed in place.
+  void RefreshItem(const TListItem* item);
+
+  /// Ticks or unticks all rows without running OnItemCheck.
+  void CheckAll();
+  void UnCheckAll();
+  int CheckedCount() const;
+  /// Removes a row and its record; std::out_of_range when there is none.
+  void DelItem(int index);
+  /// Removes the rows at ascending indexes in one pass.
+  void DelItems(const std::vector<int>& indexes);
+  /// Sum of a column, counted from 1, over all rows or the ticked ones, with two decimals; cells that are no
+  /// number add nothing. Empty when there is no such column.
+  std::string GetTotalMoney(int column, bool checked_only) const;
+  /// The list view's own sum row, off at the start; on, the sum of each amount column shows below the list.
+  bool ShowSumRow() const { return show_sum_row_; }
+  void SetShowSumRow(bool show);
+
+ protected:
+  explicit TKVXCustomListView(TComponent* owner);
+  ~TKVXCustomListView() override;
+
+ private:
+  std::unique_ptr<corvane::StringVector> column_ids_;
+  bool show_sum_row_ = false;
+};
+
+class TKVXListView : public TKVXCustomListView {
+  Q_OBJECT
+
+ public:
+  explicit TKVXListView(TComponent* owner) : TKVXCustomListView(owner) {}
+};

@@ -1,0 +1,158 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/control.h"
+#include "toolkit/string_list.h"
+
+class QLabel;
+class QScrollArea;
+class QToolButton;
+
+/// A plain container.
+class TPanel : public TWinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TPanel(TComponent* owner);
+
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+};
+
+/// A container that shows its caption, when it has one, as a heading above what it holds.
+class TbsSkinPanel : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TbsSkinPanel(TComponent* owner);
+  QWidget* ClientWidget() const override { return client_; }
+
+  /// Whether a line is drawn round the panel; off at the start.
+  void SetBordered(bool bordered);
+
+ protected:
+  void CaptionChanged() override;
+  void FontChanged() override;
+  QWidget* FocusWidget() const override { return nullptr; }
+
+ private:
+  QLabel* heading_;
+  QPointer<QWidget> client_;
+};
+
+/// A framed group with a caption.
+class TbsSkinGroupBox : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TbsSkinGroupBox(TComponent* owner);
+
+ protected:
+  void CaptionChanged() override;
+  QWidget* FocusWidget() const override { return nullptr; }
+};
+
+/// A panel below a header with its caption. A click on the header rolls it up to the header, or opens it
+/// again; the controls inside keep their own Visible.
+class TbsSkinExPanel : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TbsSkinExPanel(TComponent* owner);
+  QWidget* ClientWidget() const override { return client_; }
+
+  /// True: rolled up.
+  bool RollState() const { return rolled_up_; }
+  /// Rolls up or opens without running OnChangeRollState.
+  void SetRollState(bool rolled_up);
+
+  /// Runs after the user's click on the header.
+  TNotifyEvent OnChangeRollState;
+
+ protected:
+  void CaptionChanged() override;
+  void FontChanged() override;
+  QWidget* FocusWidget() const override { return nullptr; }
+
+ private:
+  QToolButton* header_;
+  QPointer<QWidget> client_;
+  bool rolled_up_ = false;
+};
+
+/// A container that scrolls when what it holds is higher than itself.
+class TbsSkinScrollBox : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TbsSkinScrollBox(TComponent* owner);
+  QWidget* ClientWidget() const override { return client_; }
+
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+
+ private:
+  QPointer<QWidget> client_;
+};
+
+/// A scroll bar for a scrolling control, which shows it when it needs it.
+class TbsSkinScrollBar : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind = sbVertical);
+
+  TScrollBarKind Kind() const { return kind_; }
+  /// Becomes the scroll bar of a list, tree, memo or scroll box; any other control leaves it alone.
+  void AttachTo(TWinControl* control);
+
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+
+ private:
+  TScrollBarKind kind_;
+};
+
+/// A strip for buttons, laid out from left to right in the order in which they come.
+class TbsSkinToolBar : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TbsSkinToolBar(TComponent* owner);
+  /// Appends a button, or a separating line for null.
+  void Add(TControl* control);
+
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+};
+
+/// A strip at the lower edge of a form, for status panels.
+class TbsSkinStatusBar : public TbsSkinControl {
+  Q_OBJECT
+
+ public:
+  explicit TbsSkinStatusBar(TComponent* owner);
+  /// Appends a panel; it takes a share of the width by its stretch.
+  void Add(TControl* panel, int stretch = 1);
+
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+};
+
+/// A text in a status bar; the same object in all respects as a label with a sunken look.
+class TbsSkinStatusPanel : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TbsSkinStatusPanel(TComponent* owner);
+
+ protected:
+  void CaptionChanged() override;
+  QWidget* FocusWidget() const override { return nullptr; }
+};

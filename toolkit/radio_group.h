@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/control.h"
+#include "toolkit/string_list.h"
+
+class QGridLayout;
+class QRadioButton;
+
+/// A framed group of alternatives, of which one or none is chosen. The radio button of item i bears the
+/// group's name,
+/// "_" and i as object name.
+class TbsSkinRadioGroup : public TbsSkinControl {
+  Q_OBJECT
+  Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
+
+ public:
+  explicit TbsSkinRadioGroup(TComponent* owner);
+  ~TbsSkinRadioGroup() override;
+
+  /// The texts, in order. A changed text keeps the choice; a removed choice leaves none.
+  TStrings& Items() { return items_; }
+  const TStrings& Items() const { return items_; }
+  /// Number of columns that the items stand in, 1 or more; filled row by row.
+  int Columns() const { return columns_; }
+  void SetColumns(int columns);
+  /// The chosen item, -1: none.
+  int ItemIndex() const { return item_index_; }
+  /// Chooses an item and runs OnClick when the index is that of an item, also when it was chosen already; an
+  /// index out of range chooses none and runs nothing.
+  void SetItemIndex(int index);
+
+ protected:
+  void CaptionChanged() override;
+  void FontChanged() override;
+  QWidget* FocusWidget() const override;
+  bool ClicksByMouse() const override { return false; }
+
+ private:
+  void Rebuild();
+
+  TStrings items_;
+  std::vector<QRadioButton*> buttons_;
+  QGridLayout* grid_ = nullptr;
+  int columns_ = 1;
+  int item_index_ = -1;
+};

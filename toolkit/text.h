@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+/// Narrow text as Qt's; an undecodable byte becomes one U+FFFD.
+QString ToQt(std::string_view ansi);
+/// Qt's text as narrow text; a character that the code page lacks becomes '?'.
+std::string FromQt(const QString& text);
+/// A UTF-8 literal of the source as narrow text: Ansi("代保管账号").
+std::string Ansi(const char* utf8);
+/// The text with leading and trailing blanks and control characters removed.
+std::string Trim(std::string_view text);
+/// Narrow text as a tool tip that is never read as markup.
+QString ToToolTip(std::string_view ansi);
