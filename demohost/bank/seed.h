@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "demohost/bank/database.h"
+#include "demohost/calendar.h"
+
+namespace demohost {
+
+// The codes of the bank's tables by dictionary name ("AGENTSTT" and its like), in the tables' order.
+using CodeTables = std::map<std::string, std::vector<std::string>>;
+
+// What a bank is made of. The same values make the same bank.
+struct BankPlan {
+  std::int64_t bills = 10000;
+  Day today{};       // the bills' dates lie around this day
+  CodeTables codes;  // each code is borne by some record; "-9999" and "AC00", which mean no choice, by none
+};
+
+inline constexpr int kAccountCount = 45;
+inline constexpr int kInstitutionCount = 30;
+
+// Opens the bank's file. One that isn't there, or was made from another plan, is made anew beside it and put
+// in its place in one step; its folder is made too. Throws DatabaseError, or
+// std::filesystem::filesystem_error.
+Database OpenBank(const std::filesystem::path& file, const BankPlan& plan);
+
+}  // namespace demohost
