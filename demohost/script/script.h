@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <stdexcept>
+#include <vector>
+
+namespace demohost {
+
+// A script that can't be played; what() holds "line N: reason" in UTF-8.
+class ScriptError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// One line of an operator's script: its command and the words behind it.
+struct ScriptStep {
+  int line = 0;
+  QString source;  // the line as it was written, trimmed
+  QString command;
+  QStringList words;
+};
+
+// Reads a script: one step a line, words divided by blanks, "..." around a word with blanks (with \" \\ \n
+// inside), # to the end of the line for a comment. Every command and its number of words are checked here, so
+// that a script that is wrong does nothing at all. Throws ScriptError.
+std::vector<ScriptStep> ParseScript(const QString& text);
+
+// Row numbers from 1, as "3", "1,3-5" or "2-4". Throws std::invalid_argument, also for a range that runs
+// backwards.
+std::vector<int> ParseNumbers(const QString& text);
+
+}  // namespace demohost
