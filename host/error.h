@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/text_service.h"
+
+/// The host's error library: messages for error keys and for the reason codes of an answer.
+///
+/// A refusal throws TIOException with the host's text as its key; a text with a NUL in it throws TException
+/// "CF30005" before anything is sent. All calls: user-interface thread, after Bind.
+class ErrorIntf {
+ public:
+  explicit ErrorIntf(norvik_handle module);
+
+  /// `publicInformation` is what InitModule received. TIOException "CF23001" if there is no library,
+  /// "CF23002" if a function is missing, "CF23003" if the library doesn't start. A second call does nothing.
+  void Bind(norvik_handle publicInformation);
+
+  /// The message for keys joined with "\r\n", as TException::getMessage gives them.
+  std::string GetErrorText(const std::string& keys, std::uint8_t flag = 1) const;
+
+  /// The message for a reason code that stands in a row of an answer.
+  std::string GetReasonText(const std::string& code, std::uint8_t flag = 1) const;
+
+ private:
+  std::string Text(std::uint32_t ordinal, const std::string& codeOrKeys, std::uint8_t flag) const;
+
+  norvik::TextService m_service;
+};
+
+/// Set by InitModule, null after Release.
+extern ErrorIntf* g_pError;

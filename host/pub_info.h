@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "data/corvane.h"
+#include "host/binding.h"
+
+/// The host's public information library: configuration, dictionaries and handles by key.
+///
+/// A read that the host refuses throws TIOException with the host's text as its key; a text from the host
+/// that can't be parsed throws the key of the class that was asked for. A key, block, name or document with a
+/// NUL in it throws TException "CF30005" before anything is sent. All calls: user-interface thread, after
+/// Bind.
+class PubInfoIntf {
+ public:
+  PubInfoIntf() = default;
+  PubInfoIntf(const PubInfoIntf&) = delete;
+  PubInfoIntf& operator=(const PubInfoIntf&) = delete;
+  virtual ~PubInfoIntf() = default;
+
+  /// Binds the 69 functions of the library and starts it; a second call does nothing. TException "CF15001" if
+  /// any function is missing.
+  void Bind(norvik_handle module);
+
+  /// The value under the key; what an unknown key gives is up to the host.
+  std::uint32_t GetHandle(const std::string& key);
+  void SetHandle(const std::string& key, std::uint32_t value);
+
+  corvane::Field GetField(const std::string& block, const std::string& name);
+
+  /// Stores the field in the block under the field's own name. TIOException with the host's text if it
+  /// refuses.
+  void SetField(const std::string& block, const corvane::Field& field);
+
+  corvane::List GetList(const std::string& key);
+
+  corvane::Ini GetIni(const std::string& key);
+
+  /// Puts the document in the place of the old one, which stays if the new one can't be written. The host
+  /// reports no failure.
+  void SetIni(const std::string& key, const corvane::Ini& ini);
+
+  /// One value of an Ini document, byte for byte.
+  std::string GetIniValue(const std::string& key, const std::string& section, const std::string& item);
+
+  corvane::Iniplus GetIniplus(const std::string& key);
+
+  /// As SetIni.
+  void SetIniplus(const std::string& key, const corvane::Iniplus& iniplus);
+
+  /// One row of a section, counted from 0.
+  corvane::Row GetIniplusRow(const std::string& key, const std::string& section, std::int32_t index);
+
+  /// All rows of a section.
+  corvane::List GetIniplusList(const std::string& key, const std::string& section);
+
+ private:
+  template <class Call>
+  std::string Read(Call call) const;
+  template <class... Text>
+  std::string ReadByKeys(std::uint32_t ordinal, const Text&... keys) const;
+  void Replace(std::uint32_t removeOrdinal, std::uint32_t storeOrdinal, const std::string& key,
+               const std::string& document);
+
+  bool m_bound = false;
+  norvik_handle m_module = 0;
+  norvik::FunctionTable m_functions;
+};
+
+/// Set by InitModule, null after Release.
+extern PubInfoIntf* g_pPubInfo;

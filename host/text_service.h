@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "host/binding.h"
+
+namespace norvik {
+
+/// What the translation and the error library have in common: eight functions, ordinal 1 to start, ordinal 3
+/// to take buffers back.
+class TextService {
+ public:
+  /// What tells the two apart.
+  struct Terms {
+    std::span<const std::uint32_t> ordinals;
+    const char* noModuleKey;
+    const char* missingOrdinalKey;
+    /// Null where the result of ordinal 1 doesn't count.
+    const char* refusedKey;
+  };
+
+  /// `terms` lives as long as the service.
+  TextService(const Terms& terms, norvik_handle module) : m_terms(terms), m_module(module) {}
+
+  /// Binds and starts the library; a second call does nothing. TIOException with the key of `terms` on
+  /// failure.
+  void Bind(norvik_handle publicInformation);
+
+  /// As ReadText; buffers go back through ordinal 3.
+  template <class Call>
+  std::string Read(Call call) const {
+    return ReadText(m_functions.Function<ReleaseFunction>(3), call);
+  }
+
+  template <class Signature>
+  Signature* Function(std::uint32_t ordinal) const {
+    return m_functions.Function<Signature>(ordinal);
+  }
+
+ private:
+  const Terms& m_terms;
+  norvik_handle m_module;
+  bool m_bound = false;
+  FunctionTable m_functions;
+};
+
+}  // namespace norvik

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/text_service.h"
+
+/// The host's translation library: texts by key, and the conversion between Simplified and Traditional
+/// Chinese.
+///
+/// A refusal throws TIOException with the host's text as its key; a text with a NUL in it throws TException
+/// "CF30005" before anything is sent. All calls: user-interface thread, after Bind.
+class TranslateIntf {
+ public:
+  enum Direction : std::uint8_t { kRequest = 0, kAnswer = 1 };
+
+  explicit TranslateIntf(norvik_handle module);
+
+  /// `publicInformation` is what InitModule received. TIOException "CF19001" if there is no library,
+  /// "CF19002" if a function is missing. A second call does nothing.
+  void Bind(norvik_handle publicInformation);
+
+  /// The text of a key; its first four bytes are the section. Empty if the host has an empty text.
+  std::string Translate(const std::string& key) const;
+
+  std::string Lookup(const std::string& section, const std::string& key) const;
+
+  /// The text as the other side of an exchange writes it: 0 for a request, 1 for an answer.
+  std::string Convert(const std::string& text, std::uint8_t direction) const;
+
+ private:
+  norvik::TextService m_service;
+};
+
+/// Set by InitModule, null after Release.
+extern TranslateIntf* g_pTranslate;
