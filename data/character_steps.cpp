@@ -1,0 +1,47 @@
+#include "data/character_steps.h"
+
+#include "platform/code_page.h"
+
+namespace corvane {
+namespace {
+
+bool IsAscii(std::string_view text) {
+  for (const char byte : text)
+    if (static_cast<signed char>(byte) < 0) return false;
+  return true;
+}
+
+}  // namespace
+
+std::size_t findText(std::string_view text, std::string_view what, std::size_t from) {
+  if (what.empty() || from > text.size()) return std::string_view::npos;
+  std::size_t hit = text.find(what, from);
+  if (hit == std::string_view::npos || !norvik::IsDoubleByteCodePage()) return hit;
+  std::size_t at = from;
+  while (hit != std::string_view::npos) {
+    if (at == from && IsAscii(text.substr(from, hit - from))) at = hit;
+    while (at < hit) at += norvik::CharacterLength(text, at);
+    if (at == hit) return hit;
+    hit = text.find(what, at);
+  }
+  return hit;
+}
+
+bool isBehindBackslash(std::string_view text, std::size_t at, std::size_t behind) {
+  if (at == 0 || text[at - 1] != '\\') return false;
+  std::size_t last = behind;
+  for (std::size_t next = behind; next < at; next += norvik::CharacterLength(text, next)) last = next;
+  return last == at - 1;
+}
+
+std::string_view cutText(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  std::size_t at = 0;
+  for (;;) {
+    const std::size_t next = at + norvik::CharacterLength(text, at);
+    if (next > bytes) return text.substr(0, at);
+    at = next;
+  }
+}
+
+}  // namespace corvane

@@ -1,0 +1,31 @@
+#include "data/exception.h"
+
+#include <utility>
+
+namespace corvane {
+
+TException::TException(std::string key) { errors_.push_back(std::move(key)); }
+
+TException::TException(StringVector texts) : errors_(std::move(texts)) {}
+
+TException::~TException() = default;
+
+StringVector TException::getErrors() const { return errors_; }
+
+void TException::addErrors(const StringVector& texts) {
+  const StringVector more = texts;  // `texts` may be this exception's own
+  errors_.insert(errors_.end(), more.begin(), more.end());
+}
+
+std::string TException::getMessage(std::string_view separator, bool trailing) const {
+  return errors_.toString(separator, trailing);
+}
+
+TIOException::TIOException(std::string key, std::string detail)
+    : TException(std::move(key)), detail_(std::move(detail)) {}
+
+TIOException::~TIOException() = default;
+
+const std::string& TIOException::getDetail() const { return detail_; }
+
+}  // namespace corvane

@@ -1,0 +1,101 @@
+// Shared immutable parts of documents: counted pointers, labels, attributes.
+//
+// Copies of documents share their parts; a part that is shared is never changed. Counts are atomic, so that copies may
+// be used on different threads; one object is not to be used on two at once.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace corvane {
+
+// The base of a part T that Shared<T> points to.
+template <class T>
+class Counted {
+ public:
+  Counted() = default;
+  Counted(const Counted&) {}
+  Counted& operator=(const Counted&) { return *this; }
+
+  void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
+  void release() const {
+    if (references_.fetch_sub(1, std::memory_order_acq_rel) == 1) T::destroy(static_cast<const T*>(this));
+  }
+  bool unique() const { return references_.load(std::memory_order_acquire) == 1; }
+  static void destroy(const T* part) { delete part; }
+
+ protected:
+  ~Counted() = default;
+
+ private:
+  mutable std::atomic<std::uint32_t> references_{0};
+};
+
+// A pointer that keeps its part alive; null by default and after a move.
+template <class T>
+class Shared {
+ public:
+  Shared() = default;
+  explicit Shared(T* part) : part_(part) {
+    if (part_) part_->retain();
+  }
+  Shared(const Shared& other) : Shared(other.part_) {}
+  Shared(Shared&& other) noexcept : part_(std::exchange(other.part_, nullptr)) {}
+  Shared& operator=(Shared other) noexcept {
+    std::swap(part_, other.part_);
+    return *this;
+  }
+  ~Shared() {
+    if (part_) part_->release();
+  }
+
+  T* get() const { return part_; }
+  T* operator->() const { return part_; }
+  T& operator*() const { return *part_; }
+  explicit operator bool() const { return part_ != nullptr; }
+
+  // The part for changing: made where there is none, copied first where it is shared.
+  T& edit() {
+    if (!part_)
+      *this = Shared(new T);
+    else if (!part_->unique())
+      *this = Shared(new T(*part_));
+    return *part_;
+  }
+
+ private:
+  T* part_ = nullptr;
+};
+
+// A short text that many objects bear: a tag, a column's name, an encoding.
+class Label {
+ public:
+  Label() = default;
+  explicit Label(std::string_view text);
+
+  // The text; empty for a default label.
+  const std::string& text() const;
+  // Takes `text`; costs nothing where it is the text already.
+  void assign(std::string_view text);
+
+ private:
+  struct Text : Counted<Text> {
+    std::string value;
+  };
+  Shared<Text> text_;
+};
+
+// Attributes by name, in byte order.
+using AttributeMap = std::map<std::string, std::string, std::less<>>;
+
+// The attributes of one element; nothing but a null pointer where there are none.
+struct AttributePart : Counted<AttributePart> {
+  AttributeMap map;
+};
+
+}  // namespace corvane

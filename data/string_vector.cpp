@@ -1,0 +1,65 @@
+#include "data/string_vector.h"
+
+#include <algorithm>
+
+#include "data/character_steps.h"
+#include "data/string_buffer.h"
+#include "data/string_functions.h"
+
+namespace corvane {
+namespace {
+
+std::string Unescaped(std::string_view token, std::string_view separator) {
+  return replaceAll(replaceAll(token, "\\\\", "\\"), "\\" + std::string(separator), separator);
+}
+
+// Behind one backslash, but not behind two: only the two bytes before the hit count, whatever stands before them.
+bool IsEscaped(std::string_view text, std::size_t hit, std::size_t start) {
+  return isBehindBackslash(text, hit, start) && !isBehindBackslash(text, hit - 1, start);
+}
+
+}  // namespace
+
+StringVector::StringVector(std::string_view text, std::string_view separator, bool unescape) {
+  fromString(text, separator, unescape);
+}
+
+void StringVector::fromString(std::string_view text, std::string_view separator, bool unescape) {
+  if (text.empty() || separator.empty()) return;
+  const std::string source(text);  // `text` may be one of the entries
+  text = source;
+  clear();
+  const auto push = [&](std::string_view token) {
+    push_back(unescape ? Unescaped(token, separator) : std::string(token));
+  };
+  if (text.size() < separator.size()) {
+    push_back(source);
+    return;
+  }
+  std::size_t start = 0;
+  for (std::size_t hit = findText(text, separator); hit != std::string_view::npos;
+       hit = findText(text, separator, hit + separator.size())) {
+    if (IsEscaped(text, hit, start)) continue;
+    push(text.substr(start, hit - start));
+    start = hit + separator.size();
+  }
+  if (start < text.size()) push(text.substr(start));
+}
+
+std::string StringVector::toString(std::string_view separator, bool trailing) const {
+  StringBuffer buffer(10240, 10240);
+  const std::string escaped = "\\" + std::string(separator);
+  for (const std::string& entry : *this) {
+    buffer.append(replaceAll(replaceAll(entry, "\\", "\\\\"), separator, escaped));
+    if (&entry != &back()) buffer.append(separator);
+  }
+  if (trailing) buffer.append(separator);
+  return buffer.toString();
+}
+
+int StringVector::indexOf(std::string_view text) const {
+  const auto found = std::find(begin(), end(), text);
+  return found == end() ? -1 : static_cast<int>(found - begin());
+}
+
+}  // namespace corvane

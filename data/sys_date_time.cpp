@@ -1,0 +1,59 @@
+#include "data/sys_date_time.h"
+
+#include <chrono>
+
+#include "platform/ticks.h"
+
+namespace corvane {
+namespace {
+
+// `text` in exactly `width` characters: cut behind them, or filled in front, or behind if `right`.
+std::string PadText(const std::string& text, std::size_t width, char fill, bool right) {
+  if (text.size() >= width) return text.substr(0, width);
+  const std::string padding(width - text.size(), fill);
+  return right ? text + padding : padding + text;
+}
+
+std::string TwoDigits(int number) { return PadText(std::to_string(number), 2, '0', false); }
+
+}  // namespace
+
+TSysDateTime::TSysDateTime() {
+  using std::chrono::duration_cast;
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  setTime(duration_cast<std::chrono::milliseconds>(now).count());
+}
+
+void TSysDateTime::setTime(std::int64_t millis) {
+  base_ = millis;
+  tickBase_ = norvik::TickCount();
+}
+
+std::int64_t TSysDateTime::getMillis() const {
+  return base_ + (static_cast<std::int64_t>(norvik::TickCount()) - static_cast<std::int64_t>(tickBase_));
+}
+
+std::tm TSysDateTime::Local() const {
+  const std::time_t seconds = getMillis() / 1000;
+  std::tm parts{};
+  localtime_r(&seconds, &parts);
+  return parts;
+}
+
+int TSysDateTime::getYear() const { return Local().tm_year + 1900; }
+
+int TSysDateTime::getMonth() const { return Local().tm_mon + 1; }
+
+int TSysDateTime::getDay() const { return Local().tm_mday; }
+
+std::string TSysDateTime::getDateTime() const {
+  const std::tm parts = Local();
+  return std::to_string(parts.tm_year + 1900) + TwoDigits(parts.tm_mon + 1) + TwoDigits(parts.tm_mday) +
+         TwoDigits(parts.tm_hour) + TwoDigits(parts.tm_min) + TwoDigits(parts.tm_sec);
+}
+
+std::string TSysDateTime::getDate() const { return getDateTime().substr(0, 8); }
+
+std::string TSysDateTime::getTime() const { return getDateTime().substr(8, 6); }
+
+}  // namespace corvane

@@ -1,0 +1,57 @@
+// Narrow text and its code page.
+//
+// A narrow string is bytes in the process's ANSI code page: 936 unless SetAnsiCodePage names another.
+// Single-byte and double-byte code pages known to iconv as "CP<number>" are served, and 65001 (UTF-8). One
+// rule holds for what a code page lacks: a byte that starts no character of it widens to one U+FFFD and the
+// next byte is looked at afresh; a character that it cannot express (a surrogate pair is one, a lone
+// surrogate too) narrows to one '?'. Byte 0x80 of code page 936 is the euro sign, both ways. In a double-byte
+// code page a second byte may look like an ASCII character: 118 characters of code page 936 end in 0x5C.
+// Whoever searches or cuts narrow text steps by CharacterLength, or uses data/character_steps.h, which does.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace norvik {
+
+// Sets the code page of all narrow text in the process. To be called at start, before any other thread
+// converts text. Throws std::invalid_argument for a code page that is not served, and changes nothing then.
+void SetAnsiCodePage(unsigned codePage);
+
+// The code page of narrow text.
+unsigned AnsiCodePage();
+
+// The UTF-16 form of `text`. Code page 0 stands for AnsiCodePage(). Throws std::invalid_argument as above.
+std::u16string Widen(std::string_view text, unsigned codePage = 0);
+
+// The bytes of `text` in the code page; 0 and failures as for Widen.
+std::string Narrow(std::u16string_view text, unsigned codePage = 0);
+
+// Narrow text to UTF-8 and back, by the rule above.
+std::string Utf8FromAnsi(std::string_view text);
+std::string AnsiFromUtf8(std::string_view utf8);
+
+// Appends the narrow form of `utf8` to `out`.
+void AppendAnsiFromUtf8(std::string_view utf8, std::string& out);
+
+// Turns at most `limit` bytes of `text` from `at` on into UTF-8 and moves `at` behind them; a character is
+// never cut, so one byte more may be taken. Returns the bytes written to `out`, which must have room for 3 *
+// (limit + 1).
+std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t limit, char* out);
+
+// True for a byte that opens a two-byte character of the ANSI code page.
+bool IsLeadByte(unsigned char byte);
+
+// True in a code page with two-byte characters.
+bool IsDoubleByteCodePage();
+
+// Bytes of the character that starts at `at`: 2 for a lead byte with a second byte that makes a character of
+// the code page, the whole sequence in UTF-8, otherwise 1; 0 at or behind the end.
+std::size_t CharacterLength(std::string_view text, std::size_t at);
+
+// The end of the run of bytes of 0x80 and above, together with their second bytes, that starts at `from` and
+// holds only characters that the ANSI code page has; `from` itself where the first is not one.
+std::size_t EndOfValidRun(std::string_view text, std::size_t from);
+
+}  // namespace norvik
