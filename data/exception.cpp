@@ -4,13 +4,17 @@
 
 namespace corvane {
 
-TException::TException(std::string key) { errors_.push_back(std::move(key)); }
+TException::TException(std::string key) {
+  errors_.push_back(std::move(key));
+}
 
 TException::TException(StringVector texts) : errors_(std::move(texts)) {}
 
 TException::~TException() = default;
 
-StringVector TException::getErrors() const { return errors_; }
+StringVector TException::getErrors() const {
+  return errors_;
+}
 
 void TException::addErrors(const StringVector& texts) {
   const StringVector more = texts;  // `texts` may be this exception's own
@@ -26,6 +30,8 @@ TIOException::TIOException(std::string key, std::string detail)
 
 TIOException::~TIOException() = default;
 
-const std::string& TIOException::getDetail() const { return detail_; }
+const std::string& TIOException::getDetail() const {
+  return detail_;
+}
 
 }  // namespace corvane

@@ -8,7 +8,8 @@
 
 namespace corvane {
 
-// A failure: the keys of its texts ("ET10016"), oldest first, as a rule one; an entry may be a line of ready text.
+// A failure: the keys of its texts ("ET10016"), oldest first, as a rule one; an entry may be a line of ready
+// text.
 class TException : public std::exception {
  public:
   explicit TException(std::string key);

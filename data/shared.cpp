@@ -2,7 +2,9 @@
 
 namespace corvane {
 
-Label::Label(std::string_view text) { assign(text); }
+Label::Label(std::string_view text) {
+  assign(text);
+}
 
 const std::string& Label::text() const {
   static const std::string empty;

@@ -1,7 +1,7 @@
 // Shared immutable parts of documents: counted pointers, labels, attributes.
 //
-// Copies of documents share their parts; a part that is shared is never changed. Counts are atomic, so that copies may
-// be used on different threads; one object is not to be used on two at once.
+// Copies of documents share their parts; a part that is shared is never changed. Counts are atomic, so that
+// copies may be used on different threads; one object is not to be used on two at once.
 #pragma once
 
 #include <atomic>

@@ -13,7 +13,9 @@ void StringBuffer::AddChunk(std::size_t capacity) {
   chunks_.push_back({std::make_unique_for_overwrite<char[]>(capacity), capacity});
 }
 
-void StringBuffer::append(char byte) { append(std::string_view(&byte, 1)); }
+void StringBuffer::append(char byte) {
+  append(std::string_view(&byte, 1));
+}
 
 void StringBuffer::append(std::string_view text) {
   while (!text.empty()) {

@@ -10,7 +10,9 @@
 
 namespace corvane {
 
-std::string trim(std::string_view text) { return trimRight(trimLeft(text)); }
+std::string trim(std::string_view text) {
+  return trimRight(trimLeft(text));
+}
 
 std::string trimLeft(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');

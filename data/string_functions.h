@@ -11,12 +11,12 @@ std::string trim(std::string_view text);
 std::string trimLeft(std::string_view text);
 std::string trimRight(std::string_view text);
 
-// `text` with every `from` replaced by `to`, from left to right, by whole characters (data/character_steps.h). What was
-// put in is not looked at again. An empty `from` changes nothing.
+// `text` with every `from` replaced by `to`, from left to right, by whole characters
+// (data/character_steps.h). What was put in is not looked at again. An empty `from` changes nothing.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
-// `value` as a decimal number with `decimals` digits behind the point, rounded: 1234.5 and 2 give "1234.50". A value
-// that is no number gives what the C runtime calls it, such as "nan".
+// `value` as a decimal number with `decimals` digits behind the point, rounded: 1234.5 and 2 give "1234.50".
+// A value that is no number gives what the C runtime calls it, such as "nan".
 std::string doubleToString(double value, int decimals);
 
 }  // namespace corvane

@@ -13,9 +13,10 @@ std::string Unescaped(std::string_view token, std::string_view separator) {
   return replaceAll(replaceAll(token, "\\\\", "\\"), "\\" + std::string(separator), separator);
 }
 
-// Behind one backslash, but not behind two: only the two bytes before the hit count, whatever stands before them.
-bool IsEscaped(std::string_view text, std::size_t hit, std::size_t start) {
-  return isBehindBackslash(text, hit, start) && !isBehindBackslash(text, hit - 1, start);
+// Behind one backslash, but not behind two: only the two characters before the hit count, whatever stands
+// before them. `last` is the end of the hit before this one.
+bool IsEscaped(std::string_view text, std::size_t hit, std::size_t last) {
+  return isBehindBackslash(text, hit, last) && !isBehindBackslash(text, hit - 1, last);
 }
 
 }  // namespace
@@ -37,11 +38,14 @@ void StringVector::fromString(std::string_view text, std::string_view separator,
     return;
   }
   std::size_t start = 0;
+  std::size_t last = 0;
   for (std::size_t hit = findText(text, separator); hit != std::string_view::npos;
-       hit = findText(text, separator, hit + separator.size())) {
-    if (IsEscaped(text, hit, start)) continue;
+       hit = findText(text, separator, last)) {
+    const bool escaped = IsEscaped(text, hit, last);
+    last = hit + separator.size();
+    if (escaped) continue;
     push(text.substr(start, hit - start));
-    start = hit + separator.size();
+    start = last;
   }
   if (start < text.size()) push(text.substr(start));
 }

@@ -7,14 +7,10 @@
 namespace corvane {
 namespace {
 
-// `text` in exactly `width` characters: cut behind them, or filled in front, or behind if `right`.
-std::string PadText(const std::string& text, std::size_t width, char fill, bool right) {
-  if (text.size() >= width) return text.substr(0, width);
-  const std::string padding(width - text.size(), fill);
-  return right ? text + padding : padding + text;
+// A number below 100 in two digits.
+std::string TwoDigits(int number) {
+  return (number < 10 ? "0" : "") + std::to_string(number);
 }
-
-std::string TwoDigits(int number) { return PadText(std::to_string(number), 2, '0', false); }
 
 }  // namespace
 
@@ -30,7 +26,7 @@ void TSysDateTime::setTime(std::int64_t millis) {
 }
 
 std::int64_t TSysDateTime::getMillis() const {
-  return base_ + (static_cast<std::int64_t>(norvik::TickCount()) - static_cast<std::int64_t>(tickBase_));
+  return base_ + static_cast<std::uint32_t>(norvik::TickCount() - tickBase_);
 }
 
 std::tm TSysDateTime::Local() const {
@@ -40,11 +36,17 @@ std::tm TSysDateTime::Local() const {
   return parts;
 }
 
-int TSysDateTime::getYear() const { return Local().tm_year + 1900; }
+int TSysDateTime::getYear() const {
+  return Local().tm_year + 1900;
+}
 
-int TSysDateTime::getMonth() const { return Local().tm_mon + 1; }
+int TSysDateTime::getMonth() const {
+  return Local().tm_mon + 1;
+}
 
-int TSysDateTime::getDay() const { return Local().tm_mday; }
+int TSysDateTime::getDay() const {
+  return Local().tm_mday;
+}
 
 std::string TSysDateTime::getDateTime() const {
   const std::tm parts = Local();
@@ -52,8 +54,12 @@ std::string TSysDateTime::getDateTime() const {
          TwoDigits(parts.tm_hour) + TwoDigits(parts.tm_min) + TwoDigits(parts.tm_sec);
 }
 
-std::string TSysDateTime::getDate() const { return getDateTime().substr(0, 8); }
+std::string TSysDateTime::getDate() const {
+  return getDateTime().substr(0, 8);
+}
 
-std::string TSysDateTime::getTime() const { return getDateTime().substr(8, 6); }
+std::string TSysDateTime::getTime() const {
+  return getDateTime().substr(8, 6);
+}
 
 }  // namespace corvane

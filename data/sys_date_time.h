@@ -7,8 +7,8 @@
 
 namespace corvane {
 
-// Times are milliseconds since 1970-01-01 00:00:00 UTC; dates and times of day are in local time. The running part is
-// the 32-bit millisecond counter, so a reading is exact within 49.7 days of setTime.
+// Times are milliseconds since 1970-01-01 00:00:00 UTC; dates and times of day are in local time. The running
+// part is the 32-bit millisecond counter, so a reading is exact within 49.7 days of setTime.
 class TSysDateTime {
  public:
   // Starts from the system clock.
@@ -33,7 +33,7 @@ class TSysDateTime {
   std::tm Local() const;
 
   std::int64_t base_ = 0;
-  std::uint64_t tickBase_ = 0;
+  std::uint32_t tickBase_ = 0;
 };
 
 }  // namespace corvane

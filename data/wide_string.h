@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-// UTF-16 units with all that a standard string offers. Code page 0 is the ANSI code page; what a code page lacks is
-// told in platform/code_page.h, which also names the failure for an unknown one.
+// UTF-16 units with all that a standard string offers. Code page 0 is the ANSI code page; what a code page
+// lacks is told in platform/code_page.h, which also names the failure for an unknown one.
 class WideString : public std::u16string {
  public:
   WideString() = default;

@@ -1,0 +1,117 @@
+#include "data/corvane_stream.h"
+
+#include <utility>
+
+#include "data/exception.h"
+
+namespace corvane {
+namespace {
+
+const Label& StreamTag() {
+  static const Label label("stream");
+  return label;
+}
+
+// The attributes of a row whose only attribute is an empty "name", as every row of a list in a stream has it.
+const Shared<AttributePart>& EmptyName() {
+  static const Shared<AttributePart> part = [] {
+    Shared<AttributePart> made;
+    made.edit().map["name"];
+    return made;
+  }();
+  return part;
+}
+
+}  // namespace
+
+CorvaneStream::CorvaneStream() : Element(StreamTag()) {}
+
+CorvaneStream::~CorvaneStream() = default;
+
+CorvaneStream& CorvaneStream::operator=(const CorvaneStream& other) {
+  if (this != &other) *this = CorvaneStream(other);
+  return *this;
+}
+
+CorvaneStream& CorvaneStream::operator=(CorvaneStream&& other) noexcept {
+  if (this == &other) return *this;
+  attributes_ = std::move(other.attributes_);
+  fields_ = std::move(other.fields_);
+  rows_ = std::move(other.rows_);
+  lists_ = std::move(other.lists_);
+  return *this;
+}
+
+void CorvaneStream::clear() {
+  fields_.clear();
+  rows_.clear();
+  lists_.clear();
+}
+
+void CorvaneStream::addField(const Field& field) {
+  fields_.insert_or_assign(field.name(), field);
+}
+
+void CorvaneStream::addFields(const Row& row) {
+  for (const auto& [key, field] : row) addField(field);
+}
+
+std::string CorvaneStream::getValue(std::string_view key) const {
+  const auto found = fields_.find(key);
+  return found == fields_.end() ? std::string() : found->second.getValue();
+}
+
+Field CorvaneStream::getField(std::string_view key) {
+  return fields_[std::string(key)];
+}
+
+Row CorvaneStream::getFieldsRow() const {
+  Row row;
+  for (const auto& [key, field] : fields_) row.addField(field);
+  return row;
+}
+
+void CorvaneStream::addRow(Row& row) {
+  row.setName("row");
+  rows_.push_back(row);
+}
+
+void CorvaneStream::addRow(Row&& row) {
+  row.setName("row");
+  rows_.push_back(std::move(row));
+}
+
+Row CorvaneStream::getRow(int index) const {
+  if (index < 0 || index >= getRowCount()) throw TException("ET10040");
+  return rows_[static_cast<std::size_t>(index)];
+}
+
+std::string CorvaneStream::Prepare(List& list) {
+  list.setName("list");
+  std::string name = list.getAttribute("name");
+  if (name.empty()) throw TException("ET10043");
+  const Row plain;
+  for (Row& row : list.rows_) {
+    if (row.name() != "row") row.name_ = plain.name_;
+    if (row.attributes_)
+      row.setAttribute("name", "");
+    else
+      row.attributes_ = EmptyName();
+  }
+  return name;
+}
+
+void CorvaneStream::addList(List& list) {
+  lists_[Prepare(list)] = list;
+}
+
+void CorvaneStream::addList(List&& list) {
+  lists_[Prepare(list)] = std::move(list);
+}
+
+List& CorvaneStream::getList(std::string_view name) {
+  const auto found = lists_.find(name);
+  return found == lists_.end() ? emptyList_ : found->second;
+}
+
+}  // namespace corvane

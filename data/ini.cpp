@@ -1,0 +1,63 @@
+#include "data/ini.h"
+
+#include <utility>
+
+namespace corvane {
+namespace {
+
+const Label& SectionTag() {
+  static const Label label("section");
+  return label;
+}
+
+const Label& IniTag() {
+  static const Label label("ini");
+  return label;
+}
+
+}  // namespace
+
+IniSection::IniSection() : Row(SectionTag()) {}
+
+IniSection::IniSection(std::string_view sectionName, const Row& row) : Row(SectionTag()) {
+  copyContent(row);
+  setAttribute("name", sectionName);
+}
+
+Ini::Ini() : Element(IniTag()) {}
+
+Ini::~Ini() = default;
+
+Ini& Ini::operator=(const Ini& other) {
+  if (this == &other) return *this;
+  const MapIniSection sections = other.sections_;
+  sections_.clear();
+  for (const auto& [name, section] : sections) addSection(IniSection(section));
+  return *this;
+}
+
+void Ini::clear() {
+  Element::clear();
+  sections_.clear();
+}
+
+void Ini::addSection(IniSection& section) {
+  sections_[section.getAttribute("name")] = section;
+}
+
+void Ini::addSection(IniSection&& section) {
+  const std::string name = section.getAttribute("name");
+  sections_[name] = std::move(section);
+}
+
+void Ini::addSection(std::string_view sectionName, const Row& row) {
+  addSection(IniSection(sectionName, row));
+}
+
+Row Ini::getSection(std::string_view sectionName) const {
+  Row row;
+  if (const auto found = sections_.find(sectionName); found != sections_.end()) row = found->second;
+  return row;
+}
+
+}  // namespace corvane

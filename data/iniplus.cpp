@@ -1,0 +1,72 @@
+#include "data/iniplus.h"
+
+#include <utility>
+
+namespace corvane {
+namespace {
+
+const Label& SectionTag() {
+  static const Label label("section");
+  return label;
+}
+
+const Label& IniplusTag() {
+  static const Label label("iniplus");
+  return label;
+}
+
+}  // namespace
+
+IniplusSection::IniplusSection() : List(SectionTag()) {}
+
+IniplusSection::IniplusSection(std::string_view sectionName, const List& list) : List(SectionTag()) {
+  copyAttributes(list);
+  setAttribute("name", sectionName);
+  for (const Row& row : list) addRow(row);
+}
+
+Iniplus::Iniplus() : Element(IniplusTag()) {}
+
+Iniplus::~Iniplus() = default;
+
+Iniplus& Iniplus::operator=(const Iniplus& other) {
+  if (this == &other) return *this;
+  MapIpSection sections = other.sections_;
+  sections_.swap(sections);
+  copyAttributes(other);
+  return *this;
+}
+
+void Iniplus::clear() {
+  Element::clear();
+  sections_.clear();
+}
+
+void Iniplus::addSection(IniplusSection& section) {
+  sections_[section.getAttribute("name")] = section;
+}
+
+void Iniplus::addSection(IniplusSection&& section) {
+  const std::string name = section.getAttribute("name");
+  sections_[name] = std::move(section);
+}
+
+void Iniplus::addSection(std::string_view sectionName, const List& list) {
+  addSection(IniplusSection(sectionName, list));
+}
+
+void Iniplus::setSection(std::string_view sectionName, const List& list) {
+  addSection(sectionName, list);
+}
+
+List Iniplus::getSection(std::string_view sectionName) const {
+  List list;
+  if (const auto found = sections_.find(sectionName); found != sections_.end()) list = found->second;
+  return list;
+}
+
+PropertyVector Iniplus::getPropertyVector(std::string_view sectionName) const {
+  return PropertyVector(getSection(sectionName));
+}
+
+}  // namespace corvane

@@ -1,0 +1,70 @@
+// Configuration documents whose sections are lists.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "data/list.h"
+
+namespace corvane {
+
+// A list of settings under the tag "section"; its key is its attribute "name".
+class IniplusSection : public List {
+ public:
+  IniplusSection();
+  // Attributes and rows of `list`, and the attribute "name" set to `sectionName`; ET10101 where the rows
+  // differ in their columns.
+  IniplusSection(std::string_view sectionName, const List& list);
+};
+
+// Sections by name, in byte order.
+using MapIpSection = std::map<std::string, IniplusSection, std::less<>>;
+
+// Named sections of one list each. The tag in the text form is always "iniplus".
+class Iniplus : public Element {
+ public:
+  Iniplus();
+  Iniplus(const Iniplus&) = default;
+  Iniplus(Iniplus&&) noexcept = default;
+  // As fromString.
+  explicit Iniplus(std::string_view xml);
+  ~Iniplus() override;
+
+  // Takes sections and attributes; tag and encoding of this document stay.
+  Iniplus& operator=(const Iniplus& other);
+
+  // Reads a text of the elements "iniplus", "section", "row" and fields; the encoding becomes the prolog's,
+  // "" without one. ET10049 where it cannot be parsed, an element has another name or rows of a section
+  // differ in their columns; what was read up to there stays. ET10050 is kept for a root of another name.
+  void fromString(std::string_view xml);
+  // Prolog and element; ET10051 where a name is no XML name or a character is forbidden in XML.
+  std::string toString() const override;
+  // Empties attributes and sections; tag and encoding stay.
+  void clear() override;
+
+  // Stores rows and attributes under the section's attribute "name", which is made empty if it is missing, in
+  // place of a section of that name.
+  void addSection(IniplusSection& section);
+  void addSection(IniplusSection&& section);
+  void addSection(std::string_view sectionName, const List& list);
+  void setSection(std::string_view sectionName, const List& list);
+  // A new list with the rows and attributes of the section; an empty one for a missing name.
+  List getSection(std::string_view sectionName) const;
+  PropertyVector getPropertyVector(std::string_view sectionName) const;
+
+  // The sections in byte order of their names; find gives end() for a missing one.
+  MapIpSection::iterator begin() { return sections_.begin(); }
+  MapIpSection::iterator end() { return sections_.end(); }
+  MapIpSection::const_iterator begin() const { return sections_.begin(); }
+  MapIpSection::const_iterator end() const { return sections_.end(); }
+  MapIpSection::iterator find(std::string_view sectionName) { return sections_.find(sectionName); }
+  MapIpSection::const_iterator find(std::string_view sectionName) const {
+    return sections_.find(sectionName);
+  }
+
+ private:
+  MapIpSection sections_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,162 @@
+#include "data/row.h"
+
+#include "data/exception.h"
+
+namespace corvane {
+namespace {
+
+const Label& RowTag() {
+  static const Label label("row");
+  return label;
+}
+
+const Label& PropertyTag() {
+  static const Label label("property");
+  return label;
+}
+
+}  // namespace
+
+Row::Row() : Element(RowTag()) {}
+
+Row::Row(const Label& tag) : Element(tag) {}
+
+Row::~Row() = default;
+
+Row& Row::operator=(const Row& other) {
+  if (this != &other) copyContent(other);
+  return *this;
+}
+
+Row& Row::operator=(Row&& other) noexcept {
+  if (this == &other) return *this;
+  attributes_ = std::move(other.attributes_);
+  shape_ = std::move(other.shape_);
+  cells_ = std::move(other.cells_);
+  extras_ = std::move(other.extras_);
+  return *this;
+}
+
+std::string& Row::operator[](std::string_view key) {
+  if (key.empty()) throw TException("ET10080");
+  const std::uint32_t slot = Find(key);
+  return cells_.open(slot == RowShape::kNoSlot ? Add(key) : slot);
+}
+
+std::string Row::getValue(std::string_view key) const {
+  const std::uint32_t slot = Find(key);
+  return slot == RowShape::kNoSlot ? std::string() : std::string(cells_.value(slot));
+}
+
+void Row::addField(const Field& field) {
+  const Field source = field;  // the field may be made of this row's own parts
+  std::uint32_t slot = Find(source.name());
+  if (slot == RowShape::kNoSlot) slot = Add(source.name());
+  cells_.open(slot) = source.value_;
+  if (source.hasExtra())
+    extras_.edit().bySlot[slot] = {source.attributes_, source.encoding_};
+  else if (extras_)
+    extras_.edit().bySlot.erase(slot);
+}
+
+Field Row::getField(std::string_view key) const {
+  const std::uint32_t slot = Find(key);
+  return slot == RowShape::kNoSlot ? Field() : FieldIn(slot);
+}
+
+bool Row::hasField(std::string_view key) const {
+  return Find(key) != RowShape::kNoSlot;
+}
+
+int Row::countField(std::string_view key) const {
+  return hasField(key) ? 1 : 0;
+}
+
+bool Row::containsField(const Field& field) const {
+  const std::uint32_t slot = Find(field.name());
+  return slot != RowShape::kNoSlot && cells_.value(slot) == field.value_;
+}
+
+void Row::removeField(std::string_view key) {
+  const std::uint32_t slot = Find(key);
+  if (slot == RowShape::kNoSlot) return;
+  shape_.edit().remove(slot);
+  if (extras_) extras_.edit().bySlot.erase(slot);
+}
+
+RowIterator Row::begin() const {
+  return {this, 0};
+}
+
+RowIterator Row::end() const {
+  return {this, size()};
+}
+
+bool Row::sameColumns(const Row& other) const {
+  if (shape_.get() == other.shape_.get()) return true;
+  if (shape_ && other.shape_) return shape_->sameColumns(*other.shape_);
+  return size() == other.size();
+}
+
+void Row::clear() {
+  Element::clear();
+  shape_ = {};
+  cells_ = {};
+  extras_ = {};
+}
+
+void Row::copyContent(const Row& other) {
+  copyAttributes(other);
+  shape_ = other.shape_;
+  cells_ = other.cells_;
+  extras_ = other.extras_;
+}
+
+std::uint32_t Row::Find(std::string_view key) const {
+  return shape_ ? shape_->find(key) : RowShape::kNoSlot;
+}
+
+std::uint32_t Row::Add(std::string_view key) {
+  const std::uint32_t before = shape_ ? shape_->slots() : 0;
+  const std::uint32_t slot = shape_.edit().add(key);
+  if (slot < before) cells_.open(slot).clear();  // what a removed column left
+  return slot;
+}
+
+Field Row::FieldIn(std::uint32_t slot) const {
+  Field field;
+  field.name_ = shape_->label(slot);
+  field.value_ = cells_.value(slot);
+  if (!extras_) return field;
+  const auto extra = extras_->bySlot.find(slot);
+  if (extra == extras_->bySlot.end()) return field;
+  field.attributes_ = extra->second.attributes;
+  field.encoding_ = extra->second.encoding;
+  return field;
+}
+
+void Row::Swap(Row& other) noexcept {
+  swapElement(other);
+  std::swap(shape_, other.shape_);
+  std::swap(cells_, other.cells_);
+  std::swap(extras_, other.extras_);
+}
+
+RowIterator::value_type RowIterator::operator*() const {
+  const std::uint32_t slot = row_->shape_->order()[at_];
+  return {row_->shape_->name(slot), row_->FieldIn(slot)};
+}
+
+Property::Property() : Row(PropertyTag()) {}
+
+Property::Property(const Row& row) : Row(PropertyTag()) {
+  copyContent(row);
+}
+
+Property::Property(const Property& other) : Row() {
+  copyContent(other);
+}
+
+Property::~Property() = default;
+
+}  // namespace corvane

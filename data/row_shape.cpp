@@ -1,0 +1,87 @@
+#include "data/row_shape.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace corvane {
+namespace {
+
+// A quick mix of length, beginning and end: names of columns are short.
+std::size_t Hash(std::string_view key) {
+  std::uint64_t head = 0;
+  std::uint64_t tail = 0;
+  if (key.size() >= 8) {
+    std::memcpy(&head, key.data(), 8);
+    std::memcpy(&tail, key.data() + key.size() - 8, 8);
+  } else {
+    std::memcpy(&head, key.data(), key.size());
+  }
+  std::uint64_t mixed = (head ^ key.size()) * 0x9E3779B97F4A7C15U;
+  mixed = (mixed ^ mixed >> 29 ^ tail) * 0xBF58476D1CE4E5B9U;
+  return static_cast<std::size_t>(mixed ^ mixed >> 32);
+}
+
+}  // namespace
+
+std::uint32_t RowShape::find(std::string_view key) const {
+  if (table_.empty()) return kNoSlot;
+  const std::size_t mask = table_.size() - 1;
+  for (std::size_t at = Hash(key) & mask; table_[at] != 0; at = (at + 1) & mask) {
+    const std::uint32_t slot = table_[at] - 1;
+    if (name(slot) == key) return slot;
+  }
+  return kNoSlot;
+}
+
+std::uint32_t RowShape::add(std::string_view key) {
+  std::uint32_t slot = slots();
+  if (free_.empty()) {
+    names_.emplace_back(key);
+  } else {
+    slot = free_.back();
+    free_.pop_back();
+    names_[slot].assign(key);
+  }
+  const auto before = [this](std::uint32_t left, std::string_view right) { return name(left) < right; };
+  order_.insert(std::lower_bound(order_.begin(), order_.end(), key, before), slot);
+  if (table_.size() < 2 * order_.size())
+    Index();
+  else
+    Enter(slot);
+  return slot;
+}
+
+void RowShape::remove(std::uint32_t slot) {
+  order_.erase(std::find(order_.begin(), order_.end(), slot));
+  names_[slot].assign({});
+  free_.push_back(slot);
+  Index();
+}
+
+bool RowShape::sameColumns(const RowShape& other) const {
+  if (this == &other) return true;
+  if (columns() != other.columns()) return false;
+  for (std::size_t at = 0; at < order_.size(); ++at)
+    if (name(order_[at]) != other.name(other.order_[at])) return false;
+  return true;
+}
+
+bool RowShape::sameSlots(const RowShape& other) const {
+  return order_ == other.order_ && slots() == other.slots() && sameColumns(other);
+}
+
+void RowShape::Enter(std::uint32_t slot) {
+  const std::size_t mask = table_.size() - 1;
+  std::size_t at = Hash(name(slot)) & mask;
+  while (table_[at] != 0) at = (at + 1) & mask;
+  table_[at] = slot + 1;
+}
+
+void RowShape::Index() {
+  std::size_t size = 8;
+  while (size < 4 * order_.size()) size *= 2;
+  table_.assign(size, 0);
+  for (const std::uint32_t slot : order_) Enter(slot);
+}
+
+}  // namespace corvane

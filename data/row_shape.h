@@ -1,0 +1,48 @@
+// The column names of a row.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/shared.h"
+
+namespace corvane {
+
+// Which columns a row has, and in which slot of its cells each value lies. Rows of one list share a shape,
+// and so their names. A slot never changes while its column lives; the slot of a removed column serves the
+// next new one.
+class RowShape : public Counted<RowShape> {
+ public:
+  static constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
+
+  // The slot of a column, or kNoSlot.
+  std::uint32_t find(std::string_view key) const;
+  // Adds a column that is not there; returns its slot.
+  std::uint32_t add(std::string_view key);
+  void remove(std::uint32_t slot);
+
+  // Number of columns, and of slots.
+  std::uint32_t columns() const { return static_cast<std::uint32_t>(order_.size()); }
+  std::uint32_t slots() const { return static_cast<std::uint32_t>(names_.size()); }
+  // The slots in byte order of their columns' names.
+  const std::vector<std::uint32_t>& order() const { return order_; }
+  const Label& label(std::uint32_t slot) const { return names_[slot]; }
+  const std::string& name(std::uint32_t slot) const { return names_[slot].text(); }
+
+  // The same names; the same names in the same slots.
+  bool sameColumns(const RowShape& other) const;
+  bool sameSlots(const RowShape& other) const;
+
+ private:
+  void Enter(std::uint32_t slot);
+  void Index();
+
+  std::vector<Label> names_;          // by slot
+  std::vector<std::uint32_t> order_;  // slots by name
+  std::vector<std::uint32_t> free_;   // slots without a column
+  std::vector<std::uint32_t> table_;  // open addressing by hash of the name: slot + 1, 0 for none
+};
+
+}  // namespace corvane

@@ -1,0 +1,175 @@
+// What each handler does with an element at each level. An element that ends at a level has been opened
+// there.
+#include <utility>
+
+#include "data/xml_reader.h"
+
+namespace corvane {
+
+SAXContentHandlerImpl::~SAXContentHandlerImpl() = default;
+
+bool SAXContentHandlerImpl::startDocument() {
+  return true;
+}
+
+bool SAXContentHandlerImpl::startElement(std::string_view, const AttributeMap&) {
+  chars.clear();
+  return true;
+}
+
+bool SAXContentHandlerImpl::endElement(std::string_view) {
+  field.setValue(chars);
+  chars.clear();
+  return true;
+}
+
+bool SAXContentHandlerImpl::characters(std::string_view piece) {
+  chars += piece;
+  return true;
+}
+
+void SAXContentHandlerImpl::reset(Element& element, std::string_view localName,
+                                  const AttributeMap& attributes) {
+  element.clear();
+  element.setAttributes(attributes);
+  element.setName(localName);
+}
+
+bool DocumentSAXHandler::startDocument() {
+  if (!target_) return false;
+  prepare();
+  depth_ = 0;
+  return true;
+}
+
+bool DocumentSAXHandler::startElement(std::string_view localName, const AttributeMap& attributes) {
+  SAXContentHandlerImpl::startElement(localName, attributes);
+  return target_ && open(++depth_, localName, attributes);
+}
+
+bool DocumentSAXHandler::endElement(std::string_view localName) {
+  SAXContentHandlerImpl::endElement(localName);
+  return target_ && close(depth_--, localName);
+}
+
+bool FieldSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  if (level != 1) return false;
+  target_->setAttributes(attributes);
+  target_->setName(localName);
+  return true;
+}
+
+bool FieldSAXHandler::close(int level, std::string_view) {
+  if (level != 1) return false;
+  target_->setValue(field.getValue());
+  return true;
+}
+
+bool RowSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  if (level > 2) return false;
+  level == 1 ? reset(*target_, localName, attributes) : resetField(localName, attributes);
+  return true;
+}
+
+bool RowSAXHandler::close(int level, std::string_view) {
+  if (level == 2) target_->addField(field);
+  return level <= 2;
+}
+
+bool ListSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  switch (level) {
+    case 1:
+      reset(*target_, localName, attributes);
+      return true;
+    case 2:
+      row_.reset(localName, attributes);
+      return true;
+    case 3:
+      resetField(localName, attributes);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool ListSAXHandler::close(int level, std::string_view) {
+  if (level == 2) target_->addRow(row_.build());
+  if (level == 3) row_.addField(field);
+  return level <= 3;
+}
+
+bool CorvaneStreamSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  if (level > 4) return false;
+  if (level == 1)
+    reset(*target_, localName, attributes);
+  else if (level == 2 && localName == "list")
+    reset(list_, localName, attributes);
+  else if (level <= 3 && localName == "row")
+    row_.reset(localName, attributes);
+  else
+    resetField(localName, attributes);
+  return true;
+}
+
+bool CorvaneStreamSAXHandler::close(int level, std::string_view localName) {
+  if (level == 2 && localName == "list")
+    closeList();
+  else if (level == 2 && localName == "row")
+    target_->addRow(row_.build());
+  else if (level == 2)
+    target_->addField(field);
+  else if (level == 3 && localName == "row")
+    list_.addRow(row_.build());
+  else if (level == 3 || level == 4)
+    row_.addField(field);
+  return level <= 4;
+}
+
+// The first row stays: a row inside a top-level row goes to the last list and has to have its columns.
+void CorvaneStreamSAXHandler::closeList() {
+  List first;
+  if (list_.size() != 0) first.addRow(list_[0]);
+  target_->addList(std::move(list_));
+  list_ = std::move(first);
+}
+
+bool IniSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  if (level == 1 && localName == "ini")
+    reset(*target_, localName, attributes);
+  else if (level == 2 && localName == "section")
+    reset(section_, localName, attributes);
+  else if (level == 3)
+    resetField(localName, attributes);
+  else
+    return false;
+  return true;
+}
+
+bool IniSAXHandler::close(int level, std::string_view) {
+  if (level == 2) target_->addSection(std::move(section_));
+  if (level == 3) section_.addField(field);
+  return level <= 3;
+}
+
+bool IniplusSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
+  if (level == 1 && localName == "iniplus")
+    reset(*target_, localName, attributes);
+  else if (level == 2 && localName == "section")
+    reset(section_, localName, attributes);
+  else if (level == 3 && localName == "row")
+    row_.reset(localName, attributes);
+  else if (level == 4)
+    resetField(localName, attributes);
+  else
+    return false;
+  return true;
+}
+
+bool IniplusSAXHandler::close(int level, std::string_view) {
+  if (level == 2) target_->addSection(std::move(section_));
+  if (level == 3) section_.addRow(row_.build());
+  if (level == 4) row_.addField(field);
+  return level <= 4;
+}
+
+}  // namespace corvane

@@ -1,0 +1,87 @@
+#include "data/xml_reader.h"
+
+#include "data/exception.h"
+#include "data/string_functions.h"
+#include "platform/code_page.h"
+#include "platform/xml_events.h"
+
+namespace corvane {
+namespace {
+
+bool IsAscii(std::string_view text) {
+  for (const char byte : text)
+    if (byte < 0) return false;
+  return true;
+}
+
+// Turns the reader's events into narrow text for a handler.
+class NarrowEvents : public norvik::XmlEvents {
+ public:
+  explicit NarrowEvents(SAXContentHandlerImpl& handler) : handler_(handler) {}
+
+  bool StartElement(std::string_view localName, const norvik::XmlAttributes& attributes) override {
+    if (!attributes_.empty()) attributes_.clear();
+    for (std::size_t at = 0; at < attributes.size(); ++at) {
+      const std::string_view name = attributes.QualifiedName(at, space_);
+      attributes_[norvik::AnsiFromUtf8(name)] = norvik::AnsiFromUtf8(attributes.Value(at));
+    }
+    return handler_.startElement(Narrow(localName), attributes_);
+  }
+  bool EndElement(std::string_view localName) override { return handler_.endElement(Narrow(localName)); }
+  bool Characters(std::string_view piece) override { return handler_.characters(Narrow(piece)); }
+
+ private:
+  std::string_view Narrow(std::string_view text) {
+    if (IsAscii(text)) return text;
+    narrow_.clear();
+    norvik::AppendAnsiFromUtf8(text, narrow_);
+    return narrow_;
+  }
+
+  SAXContentHandlerImpl& handler_;
+  AttributeMap attributes_;
+  std::string space_;
+  std::string narrow_;
+};
+
+}  // namespace
+
+ParseResult parseXml(std::string_view text, SAXContentHandlerImpl& handler) {
+  if (text.empty()) return {.key = "ET10078", .reason = "the text is empty"};
+  NarrowEvents events(handler);
+  try {
+    if (!handler.startDocument()) return {.key = "ET10079", .reason = "the handler takes no document"};
+    norvik::XmlResult result = norvik::ReadXml(text, events);
+    if (result.read) return {};
+    return {
+        .key = "ET10079", .line = result.line, .column = result.column, .reason = std::move(result.reason)};
+  } catch (const TException& failure) {
+    return {.key = failure.getMessage("\r\n"), .reason = "the document refuses what was read"};
+  }
+}
+
+bool parseXml(std::string_view text, SAXContentHandlerImpl* handler, std::string& error) {
+  const ParseResult result =
+      handler ? parseXml(text, *handler) : ParseResult{.key = "ET10077", .reason = "no handler"};
+  if (!result) error = result.key;
+  return static_cast<bool>(result);
+}
+
+std::string xmlEncoding(std::string_view text) {
+  constexpr std::string_view kLabel = "encoding=";
+  const std::size_t end = text.find("?>");
+  const std::size_t last = end == std::string_view::npos ? text.size() : end;
+  const std::string header = trim(last < 5 ? std::string_view() : text.substr(5, last - 5));
+  const std::size_t found = header.find(kLabel);
+  if (found == std::string::npos || found == 0) return {};
+  std::string value = header.substr(found + kLabel.size());
+  const std::size_t blank = value.find(' ');
+  if (blank != std::string::npos && blank > 0) value.resize(blank);
+  if (value.starts_with('"')) {
+    value.erase(0, 1);
+    if (value.ends_with('"')) value.pop_back();
+  }
+  return value;
+}
+
+}  // namespace corvane

@@ -1,0 +1,257 @@
+#include "data/xml_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "data/exception.h"
+#include "platform/code_page.h"
+#include "platform/xml_events.h"
+
+namespace corvane {
+namespace {
+
+enum class Kind : unsigned char { kPlain, kMarkup, kControl, kForeign };
+
+// What a byte is in a text: copied as it is, escaped at least somewhere, forbidden, or part of a foreign
+// character.
+constexpr std::array<Kind, 256> kKinds = [] {
+  std::array<Kind, 256> kinds{};
+  for (unsigned byte = 0; byte < 0x20; ++byte) kinds[byte] = Kind::kControl;
+  for (unsigned byte = 0x80; byte < 0x100; ++byte) kinds[byte] = Kind::kForeign;
+  for (const char byte : {'&', '<', '>', '"', '\t', '\n', '\r'})
+    kinds[static_cast<unsigned char>(byte)] = Kind::kMarkup;
+  return kinds;
+}();
+
+std::string_view Escaped(char byte, bool inAttribute) {
+  switch (byte) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '\r':
+      return "&#13;";
+    case '>':
+      return inAttribute ? ">" : "&gt;";
+    case '"':
+      return inAttribute ? "&quot;" : "\"";
+    case '\t':
+      return inAttribute ? "&#9;" : "\t";
+    default:
+      return inAttribute ? "&#10;" : "\n";
+  }
+}
+
+constexpr std::string_view kDeclaration = "xmlns";
+
+// U+FFFE and U+FFFF, which only UTF-8 can hold of all code pages.
+bool HoldsNoncharacter(std::string_view run) {
+  if (norvik::IsDoubleByteCodePage()) return false;
+  const std::u16string wide = norvik::Widen(run);
+  return wide.find(u'\xFFFE') != std::u16string::npos || wide.find(u'\xFFFF') != std::u16string::npos;
+}
+
+}  // namespace
+
+XmlWriter::XmlWriter(std::string_view encoding) {
+  out_.append("<?xml version=\"1.0\" encoding=\"").append(encoding).append("\"?>");
+}
+
+void XmlWriter::field(const Field& field) {
+  CheckName(field.name(), "ET10062");
+  CheckPrefix(field.name(), "ET10062");
+  const std::string& name = field.name();
+  Leaf({0, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"}, field.getValue());
+}
+
+void XmlWriter::row(const Row& row) {
+  if (row.shape_ && row.shape_.get() != shape_.get()) Prepare(row.shape_);
+  Write(row, row.name(), row.size() != 0, [&] {
+    for (const ColumnTags& column : columns_) {
+      if (prefixed_) CheckPrefix(column.name, "ET10062");
+      Leaf(column, row.cells_.value(column.slot));
+    }
+  });
+}
+
+void XmlWriter::list(const List& list) {
+  Write(list, list.name(), list.size() != 0, [&] { Rows(list); });
+}
+
+void XmlWriter::stream(const CorvaneStream& stream) {
+  const bool hasContent = !stream.fields_.empty() || !stream.rows_.empty() || !stream.lists_.empty();
+  Write(stream, stream.name(), hasContent, [&] {
+    for (const auto& [key, one] : stream.fields_) field(one);
+    for (const Row& one : stream.rows_) row(one);
+    for (const auto& [key, one] : stream.lists_) list(one);
+  });
+}
+
+void XmlWriter::ini(const Ini& ini) {
+  Write(ini, "ini", ini.begin() != ini.end(), [&] {
+    for (const auto& [key, section] : ini) row(section);
+  });
+}
+
+void XmlWriter::iniplus(const Iniplus& iniplus) {
+  Write(iniplus, "iniplus", iniplus.begin() != iniplus.end(), [&] {
+    for (const auto& [key, section] : iniplus) list(section);
+  });
+}
+
+template <class Content>
+void XmlWriter::Write(const Element& element, std::string_view tag, bool hasContent, Content content) {
+  const std::size_t outer = prefixes_.size();
+  const AttributeMap& attributes = element.attributes();
+  if (!attributes.empty()) Declare(attributes);
+  CheckName(tag, "ET10062");
+  CheckPrefix(tag, "ET10062");
+  out_.append(1, '<').append(tag);
+  if (!attributes.empty()) Attributes(attributes);
+  if (hasContent) {
+    out_ += '>';
+    content();
+    out_.append("</").append(tag).append(1, '>');
+  } else {
+    out_ += "/>";
+  }
+  prefixes_.resize(outer);
+}
+
+void XmlWriter::Attributes(const AttributeMap& attributes) {
+  for (const auto& [name, value] : attributes) {
+    if (value.empty()) continue;
+    CheckName(name, "ET10072");
+    CheckPrefix(name, "ET10072");
+    out_.append(1, ' ').append(name).append("=\"");
+    Value(value, true, "ET10073");
+    out_ += '"';
+  }
+}
+
+void XmlWriter::Declare(const AttributeMap& attributes) {
+  const std::string prefixed = std::string(kDeclaration) + ":";
+  for (const auto& [name, value] : attributes)
+    if (!value.empty() && name.starts_with(prefixed)) prefixes_.push_back(name.substr(prefixed.size()));
+}
+
+void XmlWriter::CheckName(std::string_view name, const char* key) {
+  const bool ascii = std::none_of(name.begin(), name.end(), [](char byte) { return byte < 0; });
+  if (!norvik::IsXmlName(ascii ? name : norvik::Utf8FromAnsi(name))) throw TException(key);
+}
+
+void XmlWriter::CheckPrefix(std::string_view name, const char* key) const {
+  const std::size_t colon = name.find(':');
+  if (colon == std::string_view::npos) return;
+  const std::string_view prefix = name.substr(0, colon);
+  const bool known = prefix == kDeclaration || prefix == "xml" ||
+                     std::find(prefixes_.begin(), prefixes_.end(), prefix) != prefixes_.end();
+  if (!known) throw TException(key);
+}
+
+void XmlWriter::Leaf(const ColumnTags& tags, std::string_view value) {
+  if (value.empty()) {
+    out_ += tags.empty;
+    return;
+  }
+  out_ += tags.open;
+  Value(value, false, "ET10071");
+  out_ += tags.close;
+}
+
+void XmlWriter::Rows(const List& list) {
+  std::size_t more = 0;
+  for (const Row& row : list) more += row.cells_.bytes();
+  if (list.size() != 0 && list[0].shape_) {
+    Prepare(list[0].shape_);
+    more += list.size() * (tagBytes_ + 2 * list[0].name().size() + 5);
+  }
+  Reserve(more);
+  for (const Row& one : list) row(one);
+}
+
+void XmlWriter::Prepare(const Shared<RowShape>& shape) {
+  shape_ = {};
+  columns_.clear();
+  tagBytes_ = 0;
+  prefixed_ = false;
+  for (const std::uint32_t slot : shape->order()) {
+    const std::string& name = shape->name(slot);
+    CheckName(name, "ET10062");
+    columns_.push_back({slot, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"});
+    prefixed_ = prefixed_ || name.find(':') != std::string::npos;
+    tagBytes_ += 2 * name.size() + 5;
+  }
+  shape_ = shape;
+}
+
+void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key) {
+  const auto kindAt = [&](std::size_t at) { return kKinds[static_cast<unsigned char>(value[at])]; };
+  for (std::size_t at = 0; at < value.size();) {
+    std::size_t end = at;
+    while (end < value.size() && kindAt(end) == Kind::kPlain) ++end;
+    out_.append(value, at, end - at);
+    at = end;
+    if (at == value.size()) return;
+    if (kindAt(at) == Kind::kControl) throw TException(key);
+    if (kindAt(at) == Kind::kMarkup) {
+      out_ += Escaped(value[at++], inAttribute);
+      continue;
+    }
+    end = norvik::EndOfValidRun(value, at);
+    if (HoldsNoncharacter(value.substr(at, end - at))) throw TException(key);
+    out_.append(value, at, end - at);
+    at = end;
+    if (at == value.size() || kindAt(at) != Kind::kForeign) continue;
+    out_ += '?';  // a byte that starts no character of the code page
+    ++at;
+  }
+}
+
+void XmlWriter::Reserve(std::size_t more) {
+  const std::size_t wanted = out_.size() + more + more / 64 + 256;
+  if (wanted > out_.capacity()) out_.reserve(wanted);
+}
+
+namespace {
+
+template <class Document, class Content>
+bool Step(const Document& document, std::string& text, Content content) {
+  try {
+    XmlWriter writer(document.encoding());
+    (writer.*content)(document);
+    text = writer.take();
+    return true;
+  } catch (const TException&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool writeXml(const Field& field, std::string& text) {
+  return Step(field, text, &XmlWriter::field);
+}
+
+bool writeXml(const Row& row, std::string& text) {
+  return Step(row, text, &XmlWriter::row);
+}
+
+bool writeXml(const List& list, std::string& text) {
+  return Step(list, text, &XmlWriter::list);
+}
+
+bool writeXml(const CorvaneStream& stream, std::string& text) {
+  return Step(stream, text, &XmlWriter::stream);
+}
+
+bool writeXml(const Ini& ini, std::string& text) {
+  return Step(ini, text, &XmlWriter::ini);
+}
+
+bool writeXml(const Iniplus& iniplus, std::string& text) {
+  return Step(iniplus, text, &XmlWriter::iniplus);
+}
+
+}  // namespace corvane

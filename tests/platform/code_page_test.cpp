@@ -1,0 +1,122 @@
+#include "platform/code_page.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+using norvik::AnsiFromUtf8;
+using norvik::Narrow;
+using norvik::Utf8FromAnsi;
+using norvik::Widen;
+
+// Another code page for one test.
+class InCodePage {
+ public:
+  explicit InCodePage(unsigned codePage) { norvik::SetAnsiCodePage(codePage); }
+  ~InCodePage() { norvik::SetAnsiCodePage(936); }
+};
+
+struct Case {
+  unsigned codePage;
+  std::string narrow;
+  std::u16string wide;
+};
+
+TEST(CodePage, WidensAndNarrows) {
+  const std::vector<Case> cases = {
+      {936, "A1", u"A1"},
+      {936, "\xC4\xE3\xBA\xC3", u"你好"},
+      {936, "\x80", u"€"},
+      {936, "\x81\x5C", u"乗"},
+      {950, "\xA7\x41", u"你"},
+      {1252, "\x80\xE9", u"€é"},
+      {65001, "€\xF0\x9F\x98\x80", u"€😀"},
+      {936, std::string(1, '\0'), std::u16string(1, u'\0')},
+  };
+  for (const Case& one : cases) {
+    EXPECT_EQ(Widen(one.narrow, one.codePage), one.wide) << one.codePage << " " << one.narrow;
+    EXPECT_EQ(Narrow(one.wide, one.codePage), one.narrow) << one.codePage << " " << one.narrow;
+  }
+}
+
+TEST(CodePage, HasOneRuleForWhatItLacks) {
+  const std::vector<Case> widened = {
+      {936, "\xFF", u"\xFFFD"},
+      {936, "a\x81", u"a\xFFFD"},
+      {936, "\x81<", u"\xFFFD<"},
+      {936, "\xFE\x5C", u"\xFFFD\\"},
+      {1252, "\x81", u"\xFFFD"},
+      {65001, "\xE4\xBD", u"\xFFFD\xFFFD"},
+      {65001, "\xC0\x80", u"\xFFFD\xFFFD"},
+      {65001, "\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"},
+  };
+  for (const Case& one : widened) EXPECT_EQ(Widen(one.narrow, one.codePage), one.wide) << one.codePage;
+  const std::vector<Case> narrowed = {
+      {936, "?", u"é\u0301"},
+      {936, "?", u"😀"},
+      {936, "a?b",
+       u"a\xD83D"
+       u"b"},
+      {65001, "?", u"\xDE00"},
+      {1252, "?", u"你"},
+  };
+  for (const Case& one : narrowed) {
+    const std::u16string last = one.wide.size() == 2 && one.wide[1] == 0x301 ? one.wide.substr(1) : one.wide;
+    EXPECT_EQ(Narrow(last, one.codePage), one.narrow) << one.codePage;
+  }
+}
+
+TEST(CodePage, BringsEveryCharacterOf936BackByteForByte) {
+  int pairs = 0;
+  int backslashes = 0;
+  for (int first = 0x81; first <= 0xFE; ++first) {
+    for (int second = 0x40; second <= 0xFE; ++second) {
+      const std::string pair{static_cast<char>(first), static_cast<char>(second)};
+      if (norvik::CharacterLength(pair, 0) != 2) continue;
+      ++pairs;
+      backslashes += second == '\\' ? 1 : 0;
+      ASSERT_EQ(Narrow(Widen(pair)), pair);
+      ASSERT_EQ(AnsiFromUtf8(Utf8FromAnsi(pair)), pair);
+    }
+  }
+  EXPECT_EQ(pairs, 21791);
+  EXPECT_EQ(backslashes, 118);
+}
+
+TEST(CodePage, DecodesInPiecesWithoutCuttingACharacter) {
+  const std::string text = "a\xC4\xE3\xBA\xC3\x80z\x81";
+  for (std::size_t limit = 1; limit < 9; ++limit) {
+    std::string all;
+    for (std::size_t at = 0; at < text.size();) {
+      std::string piece(3 * (limit + 1), '\0');
+      piece.resize(norvik::DecodeToUtf8(text, at, limit, piece.data()));
+      all += piece;
+    }
+    EXPECT_EQ(all, "a你好€z\xEF\xBF\xBD") << limit;
+  }
+}
+
+TEST(CodePage, StepsByCharacter) {
+  const std::string text = "\x81\x5C\\\x81";
+  EXPECT_EQ(norvik::CharacterLength(text, 0), 2U);
+  EXPECT_EQ(norvik::CharacterLength(text, 2), 1U);
+  EXPECT_EQ(norvik::CharacterLength(text, 3), 1U);
+  EXPECT_EQ(norvik::CharacterLength(text, 4), 0U);
+  EXPECT_TRUE(norvik::IsLeadByte(0x81));
+  EXPECT_FALSE(norvik::IsLeadByte('a') || norvik::IsLeadByte(0x80) || norvik::IsLeadByte(0xFF));
+  const InCodePage utf8(65001);
+  EXPECT_EQ(norvik::CharacterLength("你", 0), 3U);
+  EXPECT_FALSE(norvik::IsLeadByte(0xE4));
+}
+
+TEST(CodePage, RefusesAnUnknownCodePage) {
+  EXPECT_THROW(norvik::SetAnsiCodePage(7), std::invalid_argument);
+  EXPECT_THROW(Widen("a", 7), std::invalid_argument);
+  EXPECT_EQ(norvik::AnsiCodePage(), 936U);
+}
+
+}  // namespace
