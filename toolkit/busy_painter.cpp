@@ -1,0 +1,124 @@
+#include "toolkit/busy_painter.h"
+
+#include <QByteArray>
+#include <QGuiApplication>
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include "toolkit/x11_picture.h"
+
+namespace {
+
+constexpr int kShortestInterval = 10;  // milliseconds
+
+// Has the server take in all that the toolkit has sent, so that the window is there for another connection;
+// null where the toolkit does not run on X11.
+QNativeInterface::QX11Application* SettledX11() {
+  if (qGuiApp == nullptr) return nullptr;
+  auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
+  std::free(xcb_get_input_focus_reply(x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
+  return x11;
+}
+
+}  // namespace
+
+class TBusyPainter::Worker {
+ public:
+  Worker(xcb_window_t window, std::vector<QImage> frames, int interval)
+      : m_window(window),
+        m_display(qgetenv("DISPLAY")),
+        m_frames(std::move(frames)),
+        m_interval(std::max(interval, kShortestInterval)),
+        m_thread([this] { Run(); }) {}
+
+  ~Worker() {
+    {
+      const std::lock_guard lock(m_lock);
+      m_stop = true;
+    }
+    m_wake.notify_all();
+    m_thread.join();
+  }
+
+  Worker(const Worker&) = delete;
+  Worker& operator=(const Worker&) = delete;
+
+ private:
+  // What goes wrong between painter and display ends the moving, never the process.
+  void Run() noexcept {
+    xcb_connection_t* connection =
+        xcb_connect(m_display.isEmpty() ? nullptr : m_display.constData(), nullptr);
+    try {
+      if (xcb_connection_has_error(connection) == 0) Show(connection);
+    } catch (const std::exception&) {
+      m_pictures.clear();
+    }
+    xcb_disconnect(connection);
+  }
+
+  void Show(xcb_connection_t* connection) {
+    const auto format = norvik::FindPixelFormat(connection, m_window);
+    if (!format) return;
+    m_pictures.resize(m_frames.size());
+    const xcb_gcontext_t context = xcb_generate_id(connection);
+    xcb_create_gc(connection, context, m_window, 0, nullptr);
+    for (std::size_t turn = 0; Alive(connection); turn = (turn + 1) % m_pictures.size()) {
+      norvik::X11Picture& picture = m_pictures[turn];
+      if (picture.pixels.empty()) picture = norvik::MakePicture(m_frames[turn], *format);
+      norvik::PutPicture(connection, m_window, context, format->depth, picture);
+      xcb_flush(connection);
+      if (!Wait()) return;
+    }
+  }
+
+  // False once the server has refused a request, as it does when the window is gone.
+  static bool Alive(xcb_connection_t* connection) {
+    while (xcb_generic_event_t* event = xcb_poll_for_event(connection)) {
+      const bool refused = event->response_type == 0;
+      std::free(event);
+      if (refused) return false;
+    }
+    return xcb_connection_has_error(connection) == 0;
+  }
+
+  // Waits for the next frame's time; false if the painter is to stop.
+  bool Wait() {
+    std::unique_lock lock(m_lock);
+    return !m_wake.wait_for(lock, m_interval, [this] { return m_stop; });
+  }
+
+  const xcb_window_t m_window;
+  const QByteArray
+      m_display;  // read before the thread starts: the environment belongs to the starting thread
+  const std::vector<QImage> m_frames;
+  const std::chrono::milliseconds m_interval;
+  std::vector<norvik::X11Picture> m_pictures;
+  std::mutex m_lock;
+  std::condition_variable m_wake;
+  bool m_stop = false;
+  std::thread m_thread;  // last: it uses all the others
+};
+
+TBusyPainter::TBusyPainter() = default;
+
+TBusyPainter::~TBusyPainter() {
+  Stop();
+}
+
+bool TBusyPainter::Start(WId window, std::vector<QImage> frames, int interval) {
+  Stop();
+  std::erase_if(frames, [](const QImage& frame) { return frame.isNull(); });
+  if (frames.empty() || window == 0 || SettledX11() == nullptr) return false;
+  m_worker = std::make_unique<Worker>(static_cast<xcb_window_t>(window), std::move(frames), interval);
+  return true;
+}
+
+void TBusyPainter::Stop() {
+  m_worker.reset();
+}
