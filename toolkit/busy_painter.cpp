@@ -16,14 +16,16 @@ namespace {
 
 constexpr int kShortestInterval = 10;  // milliseconds
 
-// Has the server take in all that the toolkit has sent, so that the window is there for another connection;
-// null where the toolkit does not run on X11.
-QNativeInterface::QX11Application* SettledX11() {
+// The connection that the toolkit speaks to its X server through, null where it does not run on X11.
+xcb_connection_t* ToolkitConnection() {
   if (qGuiApp == nullptr) return nullptr;
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
-  std::free(xcb_get_input_focus_reply(x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
-  return x11;
+  return x11 != nullptr ? x11->connection() : nullptr;
+}
+
+// Has the server take in all that the toolkit has sent, so that the window is there for another connection.
+void Settle(xcb_connection_t* connection) {
+  std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
 }  // namespace
@@ -111,10 +113,15 @@ TBusyPainter::~TBusyPainter() {
   Stop();
 }
 
+bool TBusyPainter::Available() {
+  return ToolkitConnection() != nullptr;
+}
+
 bool TBusyPainter::Start(WId window, std::vector<QImage> frames, int interval) {
   Stop();
   std::erase_if(frames, [](const QImage& frame) { return frame.isNull(); });
-  if (frames.empty() || window == 0 || SettledX11() == nullptr) return false;
+  if (frames.empty() || window == 0 || !Available()) return false;
+  Settle(ToolkitConnection());
   m_worker = std::make_unique<Worker>(static_cast<xcb_window_t>(window), std::move(frames), interval);
   return true;
 }

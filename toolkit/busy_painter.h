@@ -21,6 +21,9 @@ class TBusyPainter {
   TBusyPainter(const TBusyPainter&) = delete;
   TBusyPainter& operator=(const TBusyPainter&) = delete;
 
+  // Whether there is a display that the painter serves.
+  static bool Available();
+
   // Starts showing the frames in the window, round and round, each for `interval` milliseconds (at least 10);
   // a painter that runs is stopped first. A frame is as large as the window in device pixels: its device
   // pixel ratio is not looked at, and what lies outside the window is not seen. False, with nothing running,
