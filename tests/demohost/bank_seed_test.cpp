@@ -3,22 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/demohost/folder.h"
+#include "tests/demohost/test_plan.h"
 
 namespace demohost {
 namespace {
-
-BankPlan Plan(std::int64_t bills) {
-  return {bills,
-          *DayOf("20260615"),
-          {{"AGENTSTT", {"01", "02", "03", "C0", "D0"}},
-           {"BILLTYPE", {"-9999", "AC01", "AC02"}},
-           {"YESORNO", {"0", "1"}},
-           {"BANKRMK", {"-9999", "01", "02"}},
-           {"LOANRESULT", {"01", "02"}},
-           {"LOANTYPEAPP", {"01", "02", "03"}},
-           {"BUSITYPE", {"01", "02"}},
-           {"TRANSMK", {"EM00", "EM01"}}}};
-}
 
 std::int64_t Count(Database& bank, const std::string& sql) {
   Statement statement = bank.Prepare(sql);
@@ -27,7 +15,7 @@ std::int64_t Count(Database& bank, const std::string& sql) {
 
 TEST(BankSeed, HoldsEveryKindOfBill) {
   const Folder folder;
-  Database bank = OpenBank(folder / "data/bank.sqlite", Plan(2000));
+  Database bank = OpenBank(folder / "data/bank.sqlite", TestPlan(2000));
   const struct {
     const char* sql;
     std::int64_t least, most;
@@ -78,28 +66,28 @@ TEST(BankSeed, IsTheSameFromTheSamePlanAndAnotherFromAnother) {
     return Count(bank, "SELECT sum(CENTS * ID) FROM bill") +
            Count(bank, "SELECT sum(length(DRWRNAM)) FROM bill");
   };
-  Database one = OpenBank(folder / "one.sqlite", Plan(300));
-  Database two = OpenBank(folder / "two.sqlite", Plan(300));
+  Database one = OpenBank(folder / "one.sqlite", TestPlan(300));
+  Database two = OpenBank(folder / "two.sqlite", TestPlan(300));
   EXPECT_EQ(sum(one), sum(two));
 
   // A second start keeps the file; another plan under the same name makes it anew.
   one.Run("UPDATE bill SET CENTS = 1");
-  Database kept = OpenBank(folder / "one.sqlite", Plan(300));
+  Database kept = OpenBank(folder / "one.sqlite", TestPlan(300));
   EXPECT_EQ(Count(kept, "SELECT max(CENTS) FROM bill"), 1);
-  Database other = OpenBank(folder / "one.sqlite", Plan(301));
+  Database other = OpenBank(folder / "one.sqlite", TestPlan(301));
   EXPECT_EQ(Count(other, "SELECT count(*) FROM bill"), 301);
 }
 
 TEST(BankSeed, ReplacesAFileThatIsNoBank) {
   const Folder folder;
   Database bank = OpenBank(
-      folder.Write("bank.sqlite", "not a database at all, but long enough to be looked at"), Plan(10));
+      folder.Write("bank.sqlite", "not a database at all, but long enough to be looked at"), TestPlan(10));
   EXPECT_EQ(Count(bank, "SELECT count(*) FROM bill"), 10);
 }
 
 TEST(Transaction, IsUndoneWithoutCommit) {
   const Folder folder;
-  Database bank = OpenBank(folder / "bank.sqlite", Plan(10));
+  Database bank = OpenBank(folder / "bank.sqlite", TestPlan(10));
   {
     Transaction transaction(bank);
     bank.Run("DELETE FROM bill");

@@ -1,0 +1,113 @@
+#include "demohost/bank/bank.h"
+
+#include "demohost/bank/answer.h"
+#include "demohost/bank/refuse.h"
+#include "demohost/refusals.h"
+#include "demohost/words.h"
+#include "platform/code_page.h"
+
+namespace demohost {
+namespace {
+
+// A row of a request's account list names this many accounts at most.
+constexpr std::size_t kAccountsInRow = 20;
+
+// The top-level fields of a request, in UTF-8.
+std::map<std::string, std::string> FieldsOf(const corvane::CorvaneStream& request) {
+  std::map<std::string, std::string> fields;
+  for (const auto& [name, field] : request.getFields()) {
+    fields[norvik::Utf8FromAnsi(name)] = norvik::Utf8FromAnsi(field.getValue());
+  }
+  return fields;
+}
+
+}  // namespace
+
+Bank::Bank(Database database) : database_(std::move(database)) {
+  for (const BankAccount& account : Accounts()) accounts_.insert(account.number);
+  Statement codes = database_.Prepare("SELECT DICTIONARY, CODE FROM code");
+  while (codes.Step()) codes_.emplace(codes.Text(0), codes.Text(1));
+}
+
+const std::map<std::string, Bank::Handler>& Bank::Handlers() {
+  static const std::map<std::string, Handler> kHandlers = {
+      {"EBBADQDB", &Bank::QueryRecords},
+      {"EBBADQAH", &Bank::QueryInstitutions},
+  };
+  return kHandlers;
+}
+
+std::string Bank::Exchange(const std::string& transaction, const std::string& request) {
+  const auto handler = Handlers().find(transaction);
+  if (handler == Handlers().end())
+    throw Refused(refusal::kUnknownTransaction, norvik::Utf8FromAnsi(transaction));
+  corvane::CorvaneStream stream;
+  try {
+    stream.fromString(request);
+  } catch (const corvane::TException&) {
+    throw Refused(refusal::kBadRequest);
+  }
+  try {
+    return (this->*handler->second)(stream).toString();
+  } catch (const DatabaseError& error) {
+    throw Refused(refusal::kBankFailure, error.what());
+  }
+}
+
+std::vector<BankAccount> Bank::Accounts() {
+  std::vector<BankAccount> accounts;
+  Statement statement = database_.Prepare("SELECT ACCNO, ACCNM FROM account ORDER BY POSITION");
+  while (statement.Step())
+    accounts.push_back({std::string(statement.Text(0)), std::string(statement.Text(1))});
+  return accounts;
+}
+
+bool Bank::IsCode(std::string_view dictionary, std::string_view code) const {
+  return codes_.count({std::string(dictionary), std::string(code)}) != 0;
+}
+
+std::vector<std::string> Bank::RequestedAccounts(corvane::CorvaneStream& request, const std::string& list) {
+  std::vector<std::string> accounts;
+  for (const corvane::Row& row : std::as_const(request.getList(list))) {
+    const std::vector<std::string> group = Split(norvik::Utf8FromAnsi(row.getValue("CUSTACC")), '|');
+    if (group.size() > kAccountsInRow) throw Refused(refusal::kTooManyAccounts);
+    for (const std::string& account : group) {
+      if (accounts_.count(account) == 0) throw Refused(refusal::kUnknownAccount, account);
+      accounts.push_back(account);
+    }
+  }
+  if (accounts.empty()) throw Refused(refusal::kNoAccount);
+  return accounts;
+}
+
+corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
+  const std::map<std::string, std::string> fields = FieldsOf(request);
+  const auto code = fields.find("BSNCODE");
+  if (code == fields.end()) throw Refused(refusal::kMissingField, "BSNCODE");
+  const Business* business = FindBusiness(code->second);
+  if (business == nullptr) throw Refused(refusal::kUnknownBusiness, code->second);
+  const std::vector<std::string> accounts = RequestedAccounts(request, "resultList");
+  Where where = BuildWhere(*business, fields,
+                           [this](auto dictionary, auto code_) { return IsCode(dictionary, code_); });
+  AddOneOf(where, "b.CUSTACC", accounts);
+  Statement statement =
+      database_.Prepare("SELECT " + business->columns + " FROM " + business->tables + " WHERE 1" + where.sql +
+                        " ORDER BY " + std::string(business->order));
+  BindValues(statement, where);
+  corvane::List list = ResultList(statement);
+  return Answer(list);
+}
+
+corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) {
+  if (FieldsOf(request).count("SRC") == 0) throw Refused(refusal::kMissingField, "SRC");
+  const std::vector<std::string> accounts = RequestedAccounts(request, "userDataList");
+  Where where;
+  AddOneOf(where, "ACCNO", accounts);
+  Statement statement =
+      database_.Prepare("SELECT DISTINCT AGTBHNM FROM custody WHERE 1" + where.sql + " ORDER BY AGTBHNM");
+  BindValues(statement, where);
+  corvane::List list = ResultList(statement);
+  return Answer(list);
+}
+
+}  // namespace demohost

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "data/corvane.h"
+#include "demohost/bank/conditions.h"
+#include "demohost/bank/database.h"
+
+namespace demohost {
+
+// One of the customer's accounts with the bank. UTF-8.
+struct BankAccount {
+  std::string number;
+  std::string name;
+};
+
+// The bank's server behind the secure communication: answers requests from its database. To be used by one
+// thread.
+class Bank {
+ public:
+  explicit Bank(Database database);
+
+  // The answer stream to a request stream, both as text in the code page. Throws Refused for whatever the
+  // bank turns down, a failure of its own included.
+  std::string Exchange(const std::string& transaction, const std::string& request);
+
+  // The customer's accounts in the bank's order.
+  std::vector<BankAccount> Accounts();
+
+ private:
+  using Handler = corvane::CorvaneStream (Bank::*)(corvane::CorvaneStream&);
+  static const std::map<std::string, Handler>& Handlers();
+
+  corvane::CorvaneStream QueryRecords(corvane::CorvaneStream& request);
+  corvane::CorvaneStream QueryInstitutions(corvane::CorvaneStream& request);
+
+  std::vector<std::string> RequestedAccounts(corvane::CorvaneStream& request, const std::string& list);
+  bool IsCode(std::string_view dictionary, std::string_view code) const;
+
+  Database database_;
+  std::set<std::string> accounts_;
+  std::set<std::pair<std::string, std::string>> codes_;
+};
+
+}  // namespace demohost

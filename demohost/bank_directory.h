@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <thread>
+
+#include "platform/host_api.h"
+
+namespace demohost {
+
+// The bank directory behind "BANK_PDATA" and the thread that fills it from the bank's file. The thread makes
+// and holds the mutex "_BankInfoLoader_" until the directory is full; a reader waits for the mutex. Numbers
+// and names are narrow text.
+class BankDirectory {
+ public:
+  // Starts the loader, and returns once it holds the mutex. delay_milliseconds: how much longer it takes than
+  // it must.
+  explicit BankDirectory(const std::filesystem::path& bank, int delay_milliseconds = 0);
+  // Waits for the loader.
+  ~BankDirectory();
+  BankDirectory(const BankDirectory&) = delete;
+  BankDirectory& operator=(const BankDirectory&) = delete;
+
+  norvik_handle Handle() const { return handle_; }
+
+ private:
+  // top-level code, area, kind, number
+  using Banks = std::map<std::string, std::string>;
+  using Kinds = std::map<std::string, Banks>;
+  using Areas = std::map<std::string, Kinds>;
+
+  static const char* TopCode(void* context, std::uint32_t index);
+  static int HasArea(void* context, const char* top_code, const char* area);
+  static const char* BankName(void* context, const char* top_code, const char* area, const char* type,
+                              const char* number);
+  void Load(const std::filesystem::path& bank);
+
+  std::map<std::string, Areas> regions_;
+  norvik_handle mutex_;
+  norvik_handle handle_;
+  std::thread loader_;
+};
+
+}  // namespace demohost
