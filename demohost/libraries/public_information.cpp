@@ -1,0 +1,122 @@
+#include "demohost/bank/refuse.h"
+#include "demohost/libraries/libraries.h"
+#include "demohost/refusals.h"
+#include "platform/code_page.h"
+
+namespace demohost {
+namespace {
+
+InfoStore& Store() {
+  return *CurrentServices().store;
+}
+
+// Runs a function whose failure the caller isn't told about.
+template <class Body>
+std::int32_t Reported(Body&& body) noexcept {
+  char error[kLongError] = {};
+  if (Guarded(error, sizeof error, std::forward<Body>(body)) != 0) return 0;
+  const Services& services = CurrentServices();
+  if (services.report) services.report(norvik::Utf8FromAnsi(error));
+  return -1;
+}
+
+// A document of the caller. Throws Refused where its text isn't one.
+template <class Document>
+Document Parsed(const char* xml) {
+  try {
+    return Document(Text(xml));
+  } catch (const corvane::TException&) {
+    throw Refused(refusal::kUnreadableText);
+  }
+}
+
+std::int32_t Initialize(std::uint32_t) {
+  return 0;
+}
+
+void Release(char* buffer) {
+  ReleaseBuffer(buffer);
+}
+
+std::uint8_t SetField(const char* block, const char* xml, char* error) {
+  return Guarded(error, kShortError, [&] { Store().SetField(Text(block), Parsed<corvane::Field>(xml)); });
+}
+
+std::uint8_t GetField(char** buffer, std::int32_t* length, const char* block, const char* name, char* error) {
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return Store().GetField(Text(block), Text(name)).toString(); });
+}
+
+std::uint8_t GetList(char** buffer, std::int32_t* length, const char* key, char* error) {
+  return Answered(buffer, length, error, kShortError, [&] { return Store().GetList(Text(key)).toString(); });
+}
+
+std::int32_t SetIni(const char* key, const char* xml) {
+  return Reported([&] { Store().SetIni(Text(key), Parsed<corvane::Ini>(xml)); });
+}
+
+std::int32_t RemoveIni(const char* key) {
+  return Reported([&] { Store().RemoveIni(Text(key)); });
+}
+
+std::uint8_t GetIni(char** buffer, std::int32_t* length, const char* key, char* error) {
+  return Answered(buffer, length, error, kShortError, [&] { return Store().GetIni(Text(key)).toString(); });
+}
+
+std::uint8_t GetIniValue(char** buffer, std::int32_t* length, const char* key, const char* section,
+                         const char* item, char* error) {
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return Store().GetIniValue(Text(key), Text(section), Text(item)); });
+}
+
+std::int32_t SetIniplus(const char* key, const char* xml) {
+  return Reported([&] { Store().SetIniplus(Text(key), Parsed<corvane::Iniplus>(xml)); });
+}
+
+std::int32_t RemoveIniplus(const char* key) {
+  return Reported([&] { Store().RemoveIniplus(Text(key)); });
+}
+
+std::uint8_t GetIniplus(char** buffer, std::int32_t* length, const char* key, char* error) {
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return Store().GetIniplus(Text(key)).toString(); });
+}
+
+std::uint8_t GetIniplusRow(char** buffer, std::int32_t* length, const char* key, const char* section,
+                           char* error, std::int32_t index) {
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return Store().GetIniplusRow(Text(key), Text(section), index).toString(); });
+}
+
+std::uint8_t GetIniplusList(char** buffer, std::int32_t* length, const char* key, const char* section,
+                            char* error) {
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return Store().GetIniplusList(Text(key), Text(section)).toString(); });
+}
+
+std::int32_t SetHandle(const char* key, std::uint32_t value) {
+  return Reported([&] { Store().SetHandle(Text(key), value); });
+}
+
+std::uint32_t GetHandle(const char* key) {
+  return Store().Handle(Text(key));
+}
+
+}  // namespace
+
+std::vector<norvik_ordinal> PublicInformationTable() {
+  std::vector<norvik_ordinal> table = {
+      Entry(1, &Initialize),     Entry(3, &Release),         Entry(23, &SetField),
+      Entry(24, &GetField),      Entry(40, &GetList),        Entry(58, &SetIni),
+      Entry(59, &RemoveIni),     Entry(60, &GetIni),         Entry(68, &GetIniValue),
+      Entry(80, &SetIniplus),    Entry(81, &RemoveIniplus),  Entry(82, &GetIniplus),
+      Entry(87, &GetIniplusRow), Entry(90, &GetIniplusList), Entry(122, &SetHandle),
+      Entry(123, &GetHandle),
+  };
+  constexpr std::pair<std::uint32_t, std::uint32_t> kRanges[] = {
+      {1, 10}, {20, 27}, {38, 47}, {58, 69}, {80, 93}, {104, 111}, {122, 127}, {184, 184}};
+  for (const auto& [first, last] : kRanges) AddIdle(table, first, last);
+  return table;
+}
+
+}  // namespace demohost

@@ -1,0 +1,35 @@
+#include <chrono>
+#include <thread>
+
+#include "demohost/libraries/libraries.h"
+
+namespace demohost {
+namespace {
+
+void Release(char* buffer) {
+  ReleaseBuffer(buffer);
+}
+
+std::uint8_t Exchange(const char* code, const char* request, std::int32_t, char** answer,
+                      std::int32_t* length, char* error) {
+  return Answered(answer, length, error, kLongError, [&] {
+    const Services& services = CurrentServices();
+    // The line to the bank is slow; the caller waits, as it would for a real one.
+    std::this_thread::sleep_for(std::chrono::milliseconds(services.delay_milliseconds));
+    return services.bank->Exchange(Text(code), Text(request));
+  });
+}
+
+void ServerTime(std::int64_t* milliseconds) {
+  *milliseconds = CurrentServices().clock->Milliseconds();
+}
+
+}  // namespace
+
+std::vector<norvik_ordinal> SecureCommunicationTable() {
+  std::vector<norvik_ordinal> table = {Entry(4, &Release), Entry(5, &Exchange), Entry(8, &ServerTime)};
+  AddIdle(table, 1, 12);
+  return table;
+}
+
+}  // namespace demohost

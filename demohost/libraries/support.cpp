@@ -1,0 +1,91 @@
+#include "demohost/libraries/support.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+
+#include "demohost/bank/refuse.h"
+#include "demohost/refusals.h"
+#include "platform/code_page.h"
+
+namespace demohost {
+namespace {
+
+std::atomic<std::size_t> g_outstanding{0};
+
+std::int32_t Idle() {
+  return 0;
+}
+
+std::string Lines(std::string_view key, std::string_view detail) {
+  return Refused(key, std::string(detail)).Lines();
+}
+
+}  // namespace
+
+Services& CurrentServices() {
+  static Services services;
+  return services;
+}
+
+std::string CurrentLanguage() {
+  return CurrentServices().store->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language");
+}
+
+std::string CurrentText(std::string_view key) {
+  return std::string(CurrentServices().texts->Find(CurrentLanguage(), key));
+}
+
+char* NewBuffer(const std::string& text) {
+  char* buffer = new char[text.size() + 1];
+  std::memcpy(buffer, text.c_str(), text.size() + 1);
+  ++g_outstanding;
+  return buffer;
+}
+
+void ReleaseBuffer(char* buffer) {
+  if (buffer == nullptr) return;
+  --g_outstanding;
+  delete[] buffer;
+}
+
+std::size_t OutstandingBuffers() {
+  return g_outstanding;
+}
+
+void WriteError(char* error, std::size_t size, std::string_view text) {
+  if (error == nullptr) return;
+  std::size_t length = 0;
+  while (length < text.size()) {
+    const std::size_t character = norvik::CharacterLength(text, length);
+    if (length + character >= size) break;
+    length += character;
+  }
+  std::memcpy(error, text.data(), length);
+  error[length] = '\0';
+}
+
+std::string ErrorLines() {
+  try {
+    throw;
+  } catch (const Refused& refused) {
+    return norvik::AnsiFromUtf8(refused.Lines());
+  } catch (const corvane::TException& exception) {
+    return exception.getMessage("\r\n");
+  } catch (const std::exception& exception) {
+    return norvik::AnsiFromUtf8(Lines(refusal::kHostFailure, exception.what()));
+  } catch (...) {
+    return std::string(refusal::kHostFailure);
+  }
+}
+
+void AddIdle(std::vector<norvik_ordinal>& table, std::uint32_t first, std::uint32_t last) {
+  for (std::uint32_t ordinal = first; ordinal <= last; ++ordinal) {
+    const bool known = std::any_of(table.begin(), table.end(), [ordinal](const norvik_ordinal& entry) {
+      return entry.ordinal == ordinal;
+    });
+    if (!known) table.push_back(Entry(ordinal, &Idle));
+  }
+}
+
+}  // namespace demohost

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace demohost {
+
+// Where the client's printed reports go, and who is told.
+struct Output {
+  std::filesystem::path print_folder;
+  // Tells the operator of a file that was made.
+  std::function<void(const std::filesystem::path& file)> made;
+  // Opens the print settings for the report of that name; null where there is no window to open them in.
+  std::function<void(const std::string& report)> print_settings;
+};
+
+}  // namespace demohost

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "demohost/output/export.h"
+
+namespace demohost {
+
+// The paper of a report.
+struct ReportPaper {
+  bool landscape = true;
+  bool a3 = false;  // else A4
+};
+
+// Lays a sheet out as a PDF: on each page the title, the head, the captions and a page number, and as many
+// rows as fit. Columns that don't fit on the page's width follow on pages of their own behind all rows of
+// those before. The font is the application's; needs a QGuiApplication. In one step, as an export. Throws
+// Refused with kNotPrinted.
+void WriteReport(const std::filesystem::path& path, const ExportSheet& sheet, const ReportPaper& paper);
+
+}  // namespace demohost
