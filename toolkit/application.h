@@ -41,7 +41,7 @@ class TApplication : public TComponent {
   std::function<void(TObject* sender, std::exception_ptr error)> OnException;
 
  private:
-  void PostQueue();
+  friend class TTimer;
   void RunQueued();
 
   struct QueuedCall;

@@ -18,7 +18,6 @@ class TPanel : public TWinControl {
   explicit TPanel(TComponent* owner);
 
  protected:
-  bool EndsMouseEvents() const override { return true; }
   QWidget* FocusWidget() const override { return nullptr; }
 };
 
@@ -35,7 +34,6 @@ class TbsSkinPanel : public TbsSkinControl {
   void SetBordered(bool bordered);
 
  protected:
-  bool EndsMouseEvents() const override { return true; }
   void CaptionChanged() override;
   void FontChanged() override;
   QWidget* FocusWidget() const override { return nullptr; }
@@ -82,8 +80,6 @@ class TbsSkinExPanel : public TbsSkinControl {
   QWidget* FocusWidget() const override { return nullptr; }
 
  private:
-  void ShowState();
-
   QToolButton* header_;
   QPointer<QWidget> client_;
   bool rolled_up_ = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "toolkit/control.h"
 
@@ -24,8 +25,8 @@ class TCustomTabControl : public TbsSkinControl {
   Q_OBJECT
 
  public:
-  int PageCount() const;
-  TTabSheet* Pages(int index) const;
+  int PageCount() const { return static_cast<int>(pages_.size()); }
+  TTabSheet* Pages(int index) const { return pages_.at(static_cast<std::size_t>(index)); }
   /// Appends a page; the tab shows its caption.
   void AddPage(TTabSheet* page);
   int ActivePageIndex() const;
@@ -39,6 +40,7 @@ class TCustomTabControl : public TbsSkinControl {
  private:
   friend class TTabSheet;
   QTabWidget* Tabs() const;
+  std::vector<TTabSheet*> pages_;
 };
 
 class TPageControl : public TCustomTabControl {

@@ -23,6 +23,7 @@ const QHash<QString, CommandRule>& Commands() {
       {"row", {1, 2, "row NUMBER [LIST]"}},
       {"press", {1, 1, "press BUTTON"}},
       {"start", {1, 1, "start ACTION"}},
+      {"menu", {1, 1, "menu ENTRY"}},
       {"key", {1, 1, "key KEYS"}},
       {"type", {1, 1, "type TEXT"}},
       {"answer", {0, 2, "answer [BUTTON] [TEXT]"}},
@@ -142,7 +143,8 @@ void CheckNumbers(const ScriptStep& step) {
   } else if (step.command == QLatin1String("font")) {
     good = step.words[1].toInt() > 0;
   } else if (step.command == QLatin1String("tick")) {
-    good = step.words[0] == QLatin1String("all") || step.words[0] == QLatin1String("none") || IsRowList(step.words[0]);
+    good = step.words[0] == QLatin1String("all") || step.words[0] == QLatin1String("none") ||
+           IsRowList(step.words[0]);
   }
   if (!good) Fail(step.line, QStringLiteral("a number is wrong"));
 }
@@ -159,6 +161,11 @@ std::vector<ScriptStep> ParseScript(const QString& text) {
     step.words = std::move(words);
     CheckWords(step);
     CheckNumbers(step);
+    if (step.command == QLatin1String("export")) {
+      // An export is the action and the answer to its file dialog.
+      steps.push_back({step.line, step.source, QStringLiteral("start"), {QStringLiteral("m_actOutput")}});
+      step.command = QStringLiteral("choose");
+    }
     steps.push_back(std::move(step));
   }
   return steps;
@@ -173,8 +180,7 @@ std::vector<int> ParseNumbers(const QString& text) {
     bool last_good = false;
     const int first = ends.first().toInt(&first_good);
     const int last = ends.last().toInt(&last_good);
-    if (!first_good || !last_good || ends.size() > 2 || first < 1 || last < first ||
-        last > kMostRows) {
+    if (!first_good || !last_good || ends.size() > 2 || first < 1 || last < first || last > kMostRows) {
       throw std::invalid_argument("not row numbers");
     }
     for (int number = first; number <= last; ++number) numbers.push_back(number);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <functional>
+#include <vector>
+
+#include "demohost/script/operator.h"
+#include "demohost/script/script.h"
+
+namespace demohost {
+
+// How a script ended, which is also the exit status of the program.
+enum class ScriptEnd { kPlayed = 0, kFailed = 1, kWrong = 2 };
+
+// Plays an operator's script from a timer, so that it goes on inside the nested loop of a dialog that a step
+// has opened. A step that can't be done is tried again until its patience is over; then the script has
+// failed, with the text of whatever dialog is in the way.
+class Player : public QObject {
+ public:
+  Player(std::vector<ScriptStep> steps, Operator& hand) : steps_(std::move(steps)), operator_(hand) {}
+
+  // Begins with the next turn of the event loop. on_end runs once; reason is empty where all was played.
+  void Start();
+  std::function<void(ScriptEnd end, const QString& reason)> on_end;
+
+  // How long a step may take to become possible, milliseconds; 5000 at the start. The script may change it.
+  void SetPatience(int milliseconds) { patience_ = milliseconds; }
+
+ private:
+  void Turn();
+  void PlayNext();
+  void End(ScriptEnd end, const QString& reason);
+  // Ends where the patience is over.
+  void Lose(const QString& what, const QString& reason);
+
+  std::vector<ScriptStep> steps_;
+  Operator& operator_;
+  std::size_t next_ = 0;
+  int running_ = 0;  // steps that have begun and not returned
+  int patience_ = 5000;
+  int pause_ = 0;
+  bool ended_ = false;
+  QElapsedTimer waiting_;
+};
+
+}  // namespace demohost
