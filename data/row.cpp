@@ -117,7 +117,7 @@ std::uint32_t Row::Find(std::string_view key) const {
 }
 
 std::uint32_t Row::Add(std::string_view key) {
-  const std::uint32_t before = shape_ ? shape_->slots() : 0;
+  const std::uint32_t before = shape_ ? shape_->slotCount() : 0;
   const std::uint32_t slot = shape_.edit().add(key);
   if (slot < before) cells_.open(slot).clear();  // what a removed column left
   return slot;

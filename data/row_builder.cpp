@@ -25,7 +25,7 @@ void RowBuilder::addField(const Field& field) {
 
 Row RowBuilder::build() {
   Row built = row_;
-  if (!general_ && expected_ && ends_.size() == expected_->slots()) {
+  if (!general_ && expected_ && ends_.size() == expected_->slotCount()) {
     built.shape_ = expected_;
     built.cells_ = RowCells(PackedCells::make(ends_, bytes_));
     return built;
@@ -40,7 +40,7 @@ Row RowBuilder::build() {
 
 bool RowBuilder::IsNext(const Field& field) const {
   const std::size_t slot = ends_.size();
-  return expected_ && slot < expected_->slots() && !field.hasExtra() &&
+  return expected_ && slot < expected_->slotCount() && !field.hasExtra() &&
          expected_->name(static_cast<std::uint32_t>(slot)) == field.name();
 }
 

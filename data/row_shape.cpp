@@ -34,7 +34,7 @@ std::uint32_t RowShape::find(std::string_view key) const {
 }
 
 std::uint32_t RowShape::add(std::string_view key) {
-  std::uint32_t slot = slots();
+  std::uint32_t slot = slotCount();
   if (free_.empty()) {
     names_.emplace_back(key);
   } else {
@@ -67,7 +67,7 @@ bool RowShape::sameColumns(const RowShape& other) const {
 }
 
 bool RowShape::sameSlots(const RowShape& other) const {
-  return order_ == other.order_ && slots() == other.slots() && sameColumns(other);
+  return order_ == other.order_ && slotCount() == other.slotCount() && sameColumns(other);
 }
 
 void RowShape::Enter(std::uint32_t slot) {

@@ -25,7 +25,7 @@ class RowShape : public Counted<RowShape> {
 
   // Number of columns, and of slots.
   std::uint32_t columns() const { return static_cast<std::uint32_t>(order_.size()); }
-  std::uint32_t slots() const { return static_cast<std::uint32_t>(names_.size()); }
+  std::uint32_t slotCount() const { return static_cast<std::uint32_t>(names_.size()); }
   // The slots in byte order of their columns' names.
   const std::vector<std::uint32_t>& order() const { return order_; }
   const Label& label(std::uint32_t slot) const { return names_[slot]; }

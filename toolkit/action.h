@@ -51,6 +51,7 @@ class TAction : public TComponent {
 
  private:
   friend class TControl;
+  friend class TCustomActionList;
   friend class TMenuItem;
   void Changed();
   void Bind(TControl* control);

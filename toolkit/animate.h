@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QImage>
 #include <string>
+#include <vector>
 
 #include "toolkit/control.h"
 
@@ -27,6 +29,10 @@ class TAnimate : public TWinControl {
   bool Active() const { return active_; }
   void SetActive(bool active);
 
+  /// The frames of one round at a size in pixels, for a painter that has no event loop.
+  std::vector<QImage> Frames(QSize size) const;
+  /// Time that each frame stands, milliseconds.
+  static constexpr int kFrameTime = 80;
   /// Paints a frame of the built-in animation into a rectangle; step counts on without end. Safe on any
   /// thread.
   static void PaintBuiltIn(class QPainter& painter, const class QRectF& area, TCommonAVI animation, int step);
@@ -36,7 +42,8 @@ class TAnimate : public TWinControl {
 
  private:
   class Canvas;
-  Canvas* canvas_;
+  Canvas* ShownOn() const;
+
   std::string file_name_;
   TCommonAVI common_ = aviNone;
   int stop_frame_ = 0;

@@ -41,7 +41,7 @@ class TApplication : public TComponent {
   std::function<void(TObject* sender, std::exception_ptr error)> OnException;
 
  private:
-  friend class TTimer;
+  void PostQueue();
   void RunQueued();
 
   struct QueuedCall;

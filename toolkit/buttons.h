@@ -44,9 +44,11 @@ class TbsSkinButton : public TbsSkinCustomButton {
   int ModalResult() const { return modal_result_; }
   void SetModalResult(int result) { modal_result_ = result; }
   void Click() override;
+  /// Draws the button as the one that Return presses; TForm::SetDefaultButton calls it.
+  void MarkDefault();
 
  protected:
-  explicit TbsSkinButton(TComponent* owner, QAbstractButton* button);
+  void ReturnPressed() override { Click(); }
 
  private:
   int modal_result_ = 0;

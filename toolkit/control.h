@@ -8,6 +8,8 @@
 #include "toolkit/component.h"
 #include "toolkit/font.h"
 
+class QMouseEvent;
+class QKeyEvent;
 class TAction;
 class TForm;
 class TPopupMenu;
@@ -103,14 +105,17 @@ class TControl : public TComponent {
   virtual bool WidgetEvent(QWidget* widget, QEvent* event);
   /// Whether a click of the left button is the control's Click (buttons report theirs by themselves).
   virtual bool ClicksByMouse() const { return true; }
+  /// Whether mouse events end here instead of going on to what lies behind the control.
+  virtual bool EndsMouseEvents() const { return false; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   friend class TAction;
   friend class TWinControl;
-  bool MouseEvent(QEvent* event);
+  bool MouseEvent(QWidget* widget, QMouseEvent* event);
 
   QPointer<QWidget> widget_;
+  std::vector<QPointer<QWidget>> watched_;
   TWinControl* parent_ = nullptr;
   TFont* font_;
   QPointer<QObject> action_;
@@ -121,6 +126,7 @@ class TControl : public TComponent {
   bool visible_ = true;
   bool enabled_ = true;
   bool show_hint_ = false;
+  bool pressed_ = false;
 };
 
 /// A control that takes no focus and holds no others: labels, pictures, lines.
@@ -129,6 +135,7 @@ class TGraphicControl : public TControl {
 
  protected:
   explicit TGraphicControl(TComponent* owner) : TControl(owner) {}
+  bool EndsMouseEvents() const override { return true; }
 };
 
 /// A control that can hold others or take the focus.
@@ -174,6 +181,10 @@ class TWinControl : public TControl {
 
  protected:
   explicit TWinControl(TComponent* owner) : TControl(owner) {}
+  /// Whether Return belongs to the control itself, so that it presses no default button.
+  virtual bool WantsReturn() const { return false; }
+  /// What Return does when no handler took it; a button clicks.
+  virtual void ReturnPressed() {}
   /// The widget that takes the focus, null when the control takes none.
   virtual QWidget* FocusWidget() const { return Widget(); }
   bool WidgetEvent(QWidget* widget, QEvent* event) override;
@@ -183,7 +194,7 @@ class TWinControl : public TControl {
  private:
   friend class TControl;
   friend class TForm;
-  bool KeyEvent(QEvent* event);
+  bool KeyEvent(QKeyEvent* event);
   void TabOrderList(std::vector<TWinControl*>& list) const;
 
   std::vector<TControl*> controls_;

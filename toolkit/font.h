@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QObject>
 #include <cstdint>
@@ -38,6 +39,8 @@ class TFont : public QObject {
   void SetStyle(unsigned style);
   /// Takes all values of another font.
   void Assign(const TFont& other);
+  /// The colour as Qt's; an invalid one when the choice is left to the skin.
+  QColor ToQColor() const;
   /// The same as Qt's font, over the application's defaults.
   QFont ToQFont() const;
 

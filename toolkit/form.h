@@ -7,6 +7,7 @@
 
 #include "toolkit/control.h"
 
+class QEventLoop;
 class TbsSkinButton;
 
 /// Messages that reach TForm::Dispatch.
@@ -38,11 +39,13 @@ class TForm : public TWinControl {
   /// Runs once before the form is deleted; here it runs OnDestroy.
   virtual void FormDestroy();
 
-  /// Shows the form, brings it to the front and runs OnShow; an already visible form only comes to the front.
+  /// Runs OnShow, shows the form and brings it to the front; an already visible form only comes to the front.
+  /// A failing OnShow is reported like that of any event, and the form shows all the same.
   void Show();
   /// Takes the form away without OnClose.
   void Hide();
-  /// Runs OnClose and hides the form; in ShowModal the result becomes mrCancel when it is still 0.
+  /// Runs OnClose and hides the form. In ShowModal the result becomes mrCancel when it is still 0, and
+  /// OnClose runs once, at the end of the loop.
   void Close();
   /// Shows the form and returns its modal result, not 0, when it has been closed. Until then no other window
   /// of the process takes input. An exception of OnShow ends it and goes up, with the form hidden.
@@ -75,10 +78,10 @@ class TForm : public TWinControl {
   TWinControl* ActiveControl() const;
   void SetActiveControl(TWinControl* control);
   /// Buttons that Return and Escape press, before any other use of these keys; null: none.
-  TbsSkinButton* DefaultButton() const { return default_button_; }
+  TbsSkinButton* DefaultButton() const;
   void SetDefaultButton(TbsSkinButton* button);
-  TbsSkinButton* CancelButton() const { return cancel_button_; }
-  void SetCancelButton(TbsSkinButton* button) { cancel_button_ = button; }
+  TbsSkinButton* CancelButton() const;
+  void SetCancelButton(TbsSkinButton* button);
 
   /// Handle of the form as a window that takes messages, made at the first call; valid until the form is
   /// deleted.
@@ -89,6 +92,8 @@ class TForm : public TWinControl {
   virtual std::intptr_t Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam);
 
   void BeforeDestruction() override;
+  /// Gives the window the form's class name as object name; CreateForm and each show do it.
+  void NameWindow();
 
   TNotifyEvent OnShow;
   TNotifyEvent OnClose;
@@ -102,23 +107,27 @@ class TForm : public TWinControl {
 
  private:
   friend class TWinControl;
+  bool PressDialogButton(std::uint16_t key, bool control_wants_return);
   void ApplyWindowFlags();
-  void PlaceWindow();
-  void RunShow();
+  void OpenWindow();
+  QPoint OpeningPlace() const;
+  void FinishModal();
   void WindowActivated(bool active);
   void FocusMoved(TWinControl* control) { active_control_ = control; }
 
   QPointer<TWinControl> active_control_;
-  QPointer<TbsSkinButton> default_button_;
-  QPointer<TbsSkinButton> cancel_button_;
+  QPointer<QObject> default_button_;
+  QPointer<QObject> cancel_button_;
   TFormBorderStyle border_style_ = bsSizeable;
   TFormStyle form_style_ = fsNormal;
   TPosition position_ = poDesigned;
   std::uint32_t handle_ = 0;
   int modal_result_ = mrNone;
+  QEventLoop* loop_ = nullptr;
   bool key_preview_ = false;
-  bool modal_ = false;
-  bool destroying_ = false;
+  bool width_set_ = false;
+  bool height_set_ = false;
+  bool destroyed_ = false;
 };
 
 /// Deletes a form: FormDestroy first, whose exceptions go to the application's handler. Null does nothing.
@@ -136,6 +145,7 @@ using TFormPointer = std::unique_ptr<T, TFormDeleter>;
 template <class T, class... Arguments>
 T* CreateForm(TComponent* owner, Arguments&&... arguments) {
   auto form = std::make_unique<T>(owner, std::forward<Arguments>(arguments)...);
+  form->NameWindow();
   form->BuildControls();
   form->SetCaptions();
   form->Construct();

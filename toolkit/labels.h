@@ -31,11 +31,13 @@ class TLabel : public TGraphicControl {
  protected:
   void CaptionChanged() override;
   void FontChanged() override;
+  bool EndsMouseEvents() const override { return !selectable_; }
 
  private:
   QLabel* Label() const;
   void ApplyAlignment();
 
+  bool selectable_ = false;
   bool word_wrap_ = false;
   bool transparent_ = true;
   TAlignment alignment_ = taLeftJustify;
@@ -60,6 +62,9 @@ class TImage : public TGraphicControl {
 
  private:
   QLabel* Label() const;
+  void Show(const QPixmap& picture);
+
+  QPixmap picture_;
 };
 
 enum TBevelShape { bsBox, bsTopLine, bsBottomLine, bsLeftLine, bsRightLine };

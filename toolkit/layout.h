@@ -5,6 +5,7 @@ class QGridLayout;
 class QLayout;
 class QWidget;
 class TControl;
+class TLabel;
 class TWinControl;
 
 /// How a control stands in its cell.
@@ -89,7 +90,7 @@ class TGridLayout : public TLayout {
   TRowLayout PutRow(int row, int column, int row_span = 1, int column_span = 1);
   /// Puts a label, its control and the "*" of a field that must be given (null: none) into three cells from
   /// column on: the label right-aligned, the control filling.
-  void PutField(int row, int column, TControl* label, TControl* control, TControl* star = nullptr);
+  void PutField(int row, int column, TLabel* label, TControl* control, TLabel* star = nullptr);
   /// Share of a column or a row in the room left over; 0 at the start.
   void SetColumnStretch(int column, int stretch);
   void SetRowStretch(int row, int stretch);

@@ -18,6 +18,7 @@ class TPanel : public TWinControl {
   explicit TPanel(TComponent* owner);
 
  protected:
+  bool EndsMouseEvents() const override { return true; }
   QWidget* FocusWidget() const override { return nullptr; }
 };
 
@@ -34,6 +35,7 @@ class TbsSkinPanel : public TbsSkinControl {
   void SetBordered(bool bordered);
 
  protected:
+  bool EndsMouseEvents() const override { return true; }
   void CaptionChanged() override;
   void FontChanged() override;
   QWidget* FocusWidget() const override { return nullptr; }
@@ -80,6 +82,8 @@ class TbsSkinExPanel : public TbsSkinControl {
   QWidget* FocusWidget() const override { return nullptr; }
 
  private:
+  void ShowState();
+
   QToolButton* header_;
   QPointer<QWidget> client_;
   bool rolled_up_ = false;

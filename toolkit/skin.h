@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPointer>
 #include <functional>
 #include <string>
 #include <vector>
@@ -16,6 +15,7 @@ class TbsSkinData : public TComponent {
 
  public:
   explicit TbsSkinData(TComponent* owner) : TComponent(owner) {}
+  ~TbsSkinData() override;
 
   /// Loads a skin file: a style sheet in UTF-8, compressed as qCompress does. A file that is missing, isn't
   /// such a file, or would unpack to more than 4 MiB changes nothing and gives false.
@@ -41,6 +41,8 @@ class TbsBusinessSkinForm : public TComponent {
   /// form: the form that the frame skins.
   explicit TbsBusinessSkinForm(TForm* form);
   ~TbsBusinessSkinForm() override;
+  /// The skin frame of a form, null when it has none.
+  static TbsBusinessSkinForm* Of(const TForm* form);
 
   TbsSkinData* SkinData() const { return skin_data_; }
   /// Takes a skin; its present and every later content goes to the form.
@@ -66,7 +68,7 @@ class TbsBusinessSkinForm : public TComponent {
   void Apply();
 
   TForm* form_;
-  QPointer<TbsSkinData> skin_data_;
+  TbsSkinData* skin_data_ = nullptr;
   TFont* caption_font_;
   TFont* inactive_caption_font_;
   TFont* menu_font_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "toolkit/control.h"
 
@@ -25,8 +24,8 @@ class TCustomTabControl : public TbsSkinControl {
   Q_OBJECT
 
  public:
-  int PageCount() const { return static_cast<int>(pages_.size()); }
-  TTabSheet* Pages(int index) const { return pages_.at(static_cast<std::size_t>(index)); }
+  int PageCount() const;
+  TTabSheet* Pages(int index) const;
   /// Appends a page; the tab shows its caption.
   void AddPage(TTabSheet* page);
   int ActivePageIndex() const;
@@ -40,7 +39,6 @@ class TCustomTabControl : public TbsSkinControl {
  private:
   friend class TTabSheet;
   QTabWidget* Tabs() const;
-  std::vector<TTabSheet*> pages_;
 };
 
 class TPageControl : public TCustomTabControl {

@@ -22,8 +22,10 @@ class TTimer : public TComponent {
 
  private:
   void Apply();
+  void Tick();
 
   QTimer* timer_;
   bool enabled_ = false;
+  bool late_ = false;
   int interval_ = 1000;
 };

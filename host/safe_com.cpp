@@ -1,0 +1,56 @@
+#include "host/safe_com.h"
+
+#include "host/keys.h"
+#include "host/ordinals.h"
+#include "host/pub_info.h"
+#include "host/translate.h"
+
+namespace {
+
+constexpr const char* kConvertedLanguage = "Traditional Chinese";
+constexpr std::int64_t kEndOfYear9999 = 253402300799999;  // milliseconds since 1970-01-01 00:00:00 UTC
+
+}  // namespace
+
+SafeComIntf::SafeComIntf(norvik_handle module) : m_module(module) {
+  if (!m_functions.Resolve(m_module, norvik::ordinals::kSafeCom)) throw corvane::TException("ET16024");
+  m_language = g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language");
+}
+
+corvane::CorvaneStream SafeComIntf::SendStream(const std::string& code, corvane::CorvaneStream& request) {
+  std::string answer;
+  try {
+    request.setEncoding("GBK");
+    answer = SendText(code, request.toString(), 1);
+  } catch (const corvane::TException& failure) {
+    // Callers see one class of failure, whatever it was below.
+    throw corvane::TException(failure);
+  }
+  return corvane::CorvaneStream(answer);
+}
+
+std::string SafeComIntf::SendText(const std::string& code, const std::string& text, std::int32_t flag) {
+  if (m_language != kConvertedLanguage) return Exchange(code, text, flag);
+  const std::string request = g_pTranslate->Convert(text, TranslateIntf::kRequest);
+  return g_pTranslate->Convert(Exchange(code, request, flag), TranslateIntf::kAnswer);
+}
+
+std::string SafeComIntf::Exchange(const std::string& code, const std::string& text, std::int32_t flag) const {
+  using Send = std::uint8_t(const char*, const char*, std::int32_t, char**, std::int32_t*, char*);
+  const auto send = m_functions.Function<Send>(5);
+  const char* const name = norvik::Outgoing(code);
+  const char* const request = norvik::Outgoing(text);
+  norvik::ErrorText error(256);
+  norvik::ResultPair answer(m_functions.Function<norvik::ReleaseFunction>(4),
+                            norvik::ResultPair::OnNull::kSkip);
+  if (send(name, request, flag, answer.Buffer(), answer.Length(), error.Buffer()) == 0) error.ThrowLines();
+  return answer.Text();
+}
+
+corvane::TSysDateTime& SafeComIntf::GetServerTime() {
+  std::int64_t milliseconds = 0;
+  m_functions.Function<void(std::int64_t*)>(8)(&milliseconds);
+  if (milliseconds < 0 || milliseconds > kEndOfYear9999) throw corvane::TException(norvik::key::kAbsurdTime);
+  m_serverTime.setTime(milliseconds);
+  return m_serverTime;
+}

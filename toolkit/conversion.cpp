@@ -1,0 +1,196 @@
+#include "toolkit/conversion.h"
+
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <ctime>
+#include <limits>
+
+namespace {
+
+using std::chrono::day;
+using std::chrono::days;
+using std::chrono::month;
+using std::chrono::sys_days;
+using std::chrono::year;
+using std::chrono::year_month_day;
+
+const sys_days kDayZero = year(1899) / 12 / 30;
+constexpr std::int64_t kMillisecondsInDay = 86'400'000;
+
+[[noreturn]] void Refuse(std::string_view text, const char* what) {
+  throw EConvertError("'" + std::string(text) + "' is not a valid " + what);
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+
+bool ParseInt(std::string_view text, int& value) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  const bool negative = !text.empty() && text.front() == '-';
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  int base = 10;
+  if (text.starts_with('$')) {
+    base = 16, text.remove_prefix(1);
+  } else if (text.starts_with("0x") || text.starts_with("0X")) {
+    base = 16, text.remove_prefix(2);
+  }
+  if (text.empty() || text.front() == '-') return false;
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+  if (error != std::errc() || end != text.data() + text.size()) return false;
+  if (negative) number = -number;
+  // Hexadecimal digits give the bits of the number, decimal ones its value.
+  const std::int64_t largest =
+      base == 16 ? std::numeric_limits<std::uint32_t>::max() : std::numeric_limits<int>::max();
+  if (number < std::numeric_limits<int>::min() || number > largest) return false;
+  value = static_cast<int>(number);
+  return true;
+}
+
+std::int64_t Milliseconds(TDateTime value) {
+  return static_cast<std::int64_t>(std::llround(value * static_cast<double>(kMillisecondsInDay)));
+}
+
+std::int64_t FloorDays(std::int64_t milliseconds) {
+  return (milliseconds - (milliseconds < 0 ? kMillisecondsInDay - 1 : 0)) / kMillisecondsInDay;
+}
+
+void AppendPadded(std::string& text, int number, std::size_t digits) {
+  char buffer[16];
+  std::snprintf(buffer, sizeof buffer, "%0*d", static_cast<int>(digits), number);
+  text += buffer;
+}
+
+}  // namespace
+
+int StrToInt(std::string_view text) {
+  int value = 0;
+  if (!ParseInt(text, value)) Refuse(text, "integer value");
+  return value;
+}
+
+int StrToIntDef(std::string_view text, int otherwise) {
+  int value = 0;
+  return ParseInt(text, value) ? value : otherwise;
+}
+
+double StrToFloat(std::string_view text) {
+  std::string_view number = TrimBlanks(text);
+  if (number.starts_with('+')) number.remove_prefix(1);
+  const bool plain = number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+  double value = 0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (!plain || number.empty() || error != std::errc() || end != number.data() + number.size()) {
+    Refuse(text, "floating point value");
+  }
+  return value;
+}
+
+std::string FloatToStr(double value) {
+  char buffer[40];
+  std::snprintf(buffer, sizeof buffer, "%.15G", value);
+  return buffer;
+}
+
+std::string IntToStr(int value) {
+  return std::to_string(value);
+}
+
+TDateTime EncodeDate(int y, int m, int d) {
+  const year_month_day date(year(y), month(static_cast<unsigned>(m)), day(static_cast<unsigned>(d)));
+  if (y < 1 || y > 9999 || m < 1 || d < 1 || d > 31 || !date.ok()) {
+    throw EConvertError("year " + IntToStr(y) + ", month " + IntToStr(m) + ", day " + IntToStr(d) +
+                        " is not a date");
+  }
+  return static_cast<double>((sys_days(date) - kDayZero).count());
+}
+
+TDateTime EncodeTime(int hour, int minute, int second, int millisecond) {
+  const auto within = [](int value, int limit) { return value >= 0 && value < limit; };
+  if (!within(hour, 24) || !within(minute, 60) || !within(second, 60) || !within(millisecond, 1000)) {
+    throw EConvertError("hour " + IntToStr(hour) + ", minute " + IntToStr(minute) + ", second " +
+                        IntToStr(second) + " is not a time");
+  }
+  const std::int64_t total = ((hour * 60LL + minute) * 60 + second) * 1000 + millisecond;
+  return static_cast<double>(total) / static_cast<double>(kMillisecondsInDay);
+}
+
+void DecodeDate(TDateTime value, int& y, int& m, int& d) {
+  const year_month_day date(kDayZero + days(FloorDays(Milliseconds(value))));
+  y = static_cast<int>(date.year());
+  m = static_cast<int>(static_cast<unsigned>(date.month()));
+  d = static_cast<int>(static_cast<unsigned>(date.day()));
+}
+
+void DecodeTime(TDateTime value, int& hour, int& minute, int& second, int& millisecond) {
+  const std::int64_t total = Milliseconds(value);
+  const std::int64_t rest = total - FloorDays(total) * kMillisecondsInDay;
+  hour = static_cast<int>(rest / 3'600'000);
+  minute = static_cast<int>(rest / 60'000 % 60);
+  second = static_cast<int>(rest / 1000 % 60);
+  millisecond = static_cast<int>(rest % 1000);
+}
+
+TDateTime Now() {
+  std::timespec now{};
+  std::timespec_get(&now, TIME_UTC);
+  std::tm local{};
+  localtime_r(&now.tv_sec, &local);
+  // A leap second counts as the one before it.
+  const int second = local.tm_sec > 59 ? 59 : local.tm_sec;
+  return EncodeDate(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+         EncodeTime(local.tm_hour, local.tm_min, second, static_cast<int>(now.tv_nsec / 1'000'000));
+}
+
+TDateTime IncSecond(TDateTime value, int seconds) {
+  return static_cast<double>(Milliseconds(value) + seconds * 1000LL) /
+         static_cast<double>(kMillisecondsInDay);
+}
+
+std::string FormatDateTime(std::string_view pattern, TDateTime value) {
+  int y = 0, m = 0, d = 0, hour = 0, minute = 0, second = 0, millisecond = 0;
+  DecodeDate(value, y, m, d);
+  DecodeTime(value, hour, minute, second, millisecond);
+  std::string text;
+  bool after_hour = false;
+  for (std::size_t i = 0; i < pattern.size();) {
+    const char letter = pattern[i];
+    std::size_t run = 1;
+    while (i + run < pattern.size() && pattern[i + run] == letter) ++run;
+    switch (letter) {
+      case 'y':
+        AppendPadded(text, run <= 2 ? y % 100 : y, run);
+        break;
+      case 'm':
+        AppendPadded(text, after_hour ? minute : m, run);
+        break;
+      case 'd':
+        AppendPadded(text, d, run);
+        break;
+      case 'h':
+        AppendPadded(text, hour, run);
+        break;
+      case 'n':
+        AppendPadded(text, minute, run);
+        break;
+      case 's':
+        AppendPadded(text, second, run);
+        break;
+      default:
+        text.append(pattern.substr(i, run));
+    }
+    if (std::string_view("ymdhns").find(letter) != std::string_view::npos) after_hour = letter == 'h';
+    i += run;
+  }
+  return text;
+}
+
+std::string DateTimeToStr(TDateTime value) {
+  return FormatDateTime("yyyy-mm-dd hh:nn:ss", value);
+}

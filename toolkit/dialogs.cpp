@@ -1,0 +1,60 @@
+#include "toolkit/dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+
+#include "toolkit/application.h"
+#include "toolkit/form.h"
+#include "toolkit/text.h"
+
+namespace {
+
+/// The texts of a filter as the file dialog takes them: the pattern in brackets behind each text that lacks
+/// it.
+QStringList NameFilters(const QString& filter) {
+  const QStringList parts = filter.split(QLatin1Char('|'));
+  QStringList names;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString text = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+    QString pattern = parts[i + 1];
+    names << text + QLatin1String(" (") + pattern.replace(QLatin1Char(';'), QLatin1Char(' ')) +
+                 QLatin1Char(')');
+  }
+  return names;
+}
+
+}  // namespace
+
+std::string TSaveDialog::WithExtension(const std::string& name) const {
+  if (default_ext_.empty() || !QFileInfo(ToQt(name)).suffix().isEmpty()) return name;
+  return name + (default_ext_[0] == '.' ? "" : ".") + default_ext_;
+}
+
+bool TSaveDialog::Execute(TForm* parent) {
+  const QPointer<TSaveDialog> self(this);
+  const QPointer<QFileDialog> dialog(
+      new QFileDialog(parent == nullptr ? QApplication::activeWindow() : parent->Widget()));
+  const QStringList names = NameFilters(ToQt(filter_));
+  dialog->setObjectName(objectName());
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  // Whether a file may be replaced is the caller's question.
+  dialog->setOption(QFileDialog::DontConfirmOverwrite);
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  if (!title_.empty()) dialog->setWindowTitle(ToQt(title_));
+  dialog->setNameFilters(names);
+  if (filter_index_ >= 1 && filter_index_ <= names.size()) dialog->selectNameFilter(names[filter_index_ - 1]);
+  if (!file_name_.empty()) dialog->selectFile(ToQt(file_name_));
+  QObject::connect(dialog, &QFileDialog::filterSelected, this, [this, names](const QString& name) {
+    filter_index_ = static_cast<int>(names.indexOf(name)) + 1;
+    FireEvent(OnTypeChange, this);
+  });
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (dialog == nullptr || self == nullptr) return false;
+  if (accepted) file_name_ = WithExtension(FromQt(dialog->selectedFiles().value(0)));
+  delete dialog.data();
+  return accepted;
+}

@@ -1,0 +1,320 @@
+#include "toolkit/form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLayout>
+#include <QScreen>
+
+#include "platform/host_api.h"
+#include "toolkit/application.h"
+#include "toolkit/buttons.h"
+#include "toolkit/text.h"
+
+namespace {
+
+/// The window of a form. The Tab key goes by the form's own tab order.
+class FormWindow : public QWidget {
+ public:
+  FormWindow(TForm* form, QWidget* parent) : QWidget(parent, Qt::Window), form_(form) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_StyledBackground);
+  }
+
+ protected:
+  bool focusNextPrevChild(bool next) override {
+    return form_->SelectNext(form_->ActiveControl(), next, true);
+  }
+
+ private:
+  TForm* form_;
+};
+
+/// An owner form's window; without one, that of the modal form on top, so that a message stays above what
+/// caused it.
+QWidget* ParentWindow(const TComponent* owner) {
+  if (const auto* form = qobject_cast<const TForm*>(owner)) return form->Widget();
+  if (owner == nullptr && QApplication::activeModalWidget() != nullptr)
+    return QApplication::activeModalWidget();
+  return Application == nullptr ? nullptr : Application->MainWidget();
+}
+
+std::intptr_t FormProcedure(void* context, std::uint32_t message, std::uintptr_t wparam,
+                            std::intptr_t lparam) {
+  auto* form = static_cast<TForm*>(context);
+  std::intptr_t result = 0;
+  RunGuarded(form, [&] { result = form->Dispatch(message, wparam, lparam); });
+  return result;
+}
+
+}  // namespace
+
+TForm::TForm(TComponent* owner) : TWinControl(owner) {
+  SetWidget(new FormWindow(this, ParentWindow(owner)));
+  if (Screen != nullptr) Screen->forms_.push_back(this);
+}
+
+TForm::~TForm() {
+  if (loop_ != nullptr) loop_->quit();
+  if (Screen != nullptr) std::erase(Screen->forms_, this);
+  if (handle_ != 0) norvik_window_unregister(handle_);
+  if (Widget() != nullptr) {
+    Widget()->removeEventFilter(this);
+    Widget()->hide();
+  }
+  DestroyComponents();
+}
+
+void TForm::NameWindow() {
+  if (Widget() != nullptr) Widget()->setObjectName(ToQt(ClassName()));
+}
+
+void TForm::FormDestroy() {
+  FireEvent(OnDestroy, this);
+}
+
+void TForm::BeforeDestruction() {
+  if (destroyed_) return;
+  destroyed_ = true;
+  RunGuarded(this, [this] { FormDestroy(); });
+}
+
+void DestroyForm(TForm* form) {
+  if (form == nullptr) return;
+  form->BeforeDestruction();
+  delete form;
+}
+
+bool TForm::Showing() const {
+  return Widget() != nullptr && Widget()->isVisible();
+}
+
+bool TForm::Active() const {
+  return Widget() != nullptr && Widget()->isActiveWindow();
+}
+
+void TForm::BringToFront() {
+  if (Widget() == nullptr) return;
+  Widget()->raise();
+  Widget()->activateWindow();
+}
+
+void TForm::Show() {
+  if (Showing()) {
+    BringToFront();
+    return;
+  }
+  OpenWindow();
+}
+
+void TForm::OpenWindow() {
+  const QPointer<TForm> self(this);
+  NameWindow();
+  FireEvent(OnShow, this);
+  if (!self || Widget() == nullptr) return;
+  QWidget* window = Widget();
+  window->ensurePolished();
+  const QSize wanted = window->layout() == nullptr ? window->size() : window->sizeHint();
+  window->resize(width_set_ ? window->width() : wanted.width(),
+                 height_set_ ? window->height() : wanted.height());
+  if (position_ != poDesigned) window->move(OpeningPlace());
+  if (!active_control_ || !active_control_->CanFocus()) active_control_ = nullptr;
+  window->show();
+  BringToFront();
+  if (active_control_) {
+    active_control_->SetFocus();
+  } else {
+    SelectNext(nullptr, true, true);
+  }
+}
+
+QPoint TForm::OpeningPlace() const {
+  const QWidget* window = Widget();
+  const QWidget* centre = nullptr;
+  if (position_ == poOwnerFormCenter) {
+    const auto* owner = qobject_cast<const TForm*>(Owner());
+    if (owner != nullptr && owner->Showing()) centre = owner->Widget();
+  }
+  if (centre == nullptr && position_ != poScreenCenter && Application != nullptr)
+    centre = Application->MainWidget();
+  const QRect screen = (centre == nullptr ? window : centre)->screen()->availableGeometry();
+  const QRect room = centre == nullptr || !centre->isVisible() ? screen : centre->window()->frameGeometry();
+  QRect at(QPoint(0, 0), window->size());
+  at.moveCenter(room.center());
+  // A form larger than the screen keeps its upper left corner in sight.
+  const int left = std::max(screen.left(), std::min(at.left(), screen.right() - at.width() + 1));
+  const int top = std::max(screen.top(), std::min(at.top(), screen.bottom() - at.height() + 1));
+  return {left, top};
+}
+
+void TForm::Hide() {
+  if (Widget() != nullptr) Widget()->hide();
+}
+
+void TForm::Close() {
+  if (loop_ != nullptr) {
+    SetModalResult(modal_result_ == mrNone ? mrCancel : modal_result_);
+    return;
+  }
+  if (!Showing()) return;
+  const QPointer<TForm> self(this);
+  FireEvent(OnClose, this);
+  if (self) Hide();
+}
+
+void TForm::SetModalResult(int result) {
+  modal_result_ = result;
+  if (result != mrNone && loop_ != nullptr) loop_->quit();
+}
+
+int TForm::ShowModal() {
+  if (loop_ != nullptr || Widget() == nullptr) return mrCancel;
+  const QPointer<TForm> self(this);
+  const QPointer<QWidget> before(QApplication::activeWindow());
+  QEventLoop loop;
+  loop_ = &loop;
+  modal_result_ = mrNone;
+  Widget()->hide();
+  Widget()->setWindowModality(Qt::ApplicationModal);
+  OpenWindow();
+  if (!self) return mrCancel;
+  if (modal_result_ == mrNone) loop.exec();
+  if (!self) return mrCancel;
+  if (modal_result_ == mrNone) modal_result_ = mrCancel;
+  loop_ = nullptr;
+  FinishModal();
+  if (before && before->isVisible()) before->activateWindow();
+  return self ? modal_result_ : mrCancel;
+}
+
+void TForm::FinishModal() {
+  const QPointer<TForm> self(this);
+  FireEvent(OnClose, this);
+  if (!self || Widget() == nullptr) return;
+  Widget()->hide();
+  Widget()->setWindowModality(Qt::NonModal);
+}
+
+void TForm::SetBorderStyle(TFormBorderStyle style) {
+  border_style_ = style;
+  ApplyWindowFlags();
+}
+
+void TForm::SetFormStyle(TFormStyle style) {
+  form_style_ = style;
+  ApplyWindowFlags();
+}
+
+void TForm::ApplyWindowFlags() {
+  if (Widget() == nullptr) return;
+  Qt::WindowFlags flags = border_style_ == bsDialog ? Qt::Dialog : Qt::Window;
+  if (border_style_ == bsNone) flags |= Qt::FramelessWindowHint;
+  if (border_style_ == bsDialog) {
+    flags |=
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  }
+  if (border_style_ == bsSingle) {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+             Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+  }
+  if (form_style_ == fsStayOnTop) flags |= Qt::WindowStaysOnTopHint;
+  if (Widget()->windowFlags() == flags) return;
+  const bool showing = Showing();
+  Widget()->setWindowFlags(flags);
+  if (showing) Widget()->show();
+}
+
+void TForm::SetWidth(int width) {
+  width_set_ = true;
+  if (Widget() != nullptr) Widget()->resize(width, Height());
+}
+
+void TForm::SetHeight(int height) {
+  height_set_ = true;
+  if (Widget() != nullptr) Widget()->resize(Width(), height);
+}
+
+TWinControl* TForm::ActiveControl() const {
+  return active_control_;
+}
+
+void TForm::SetActiveControl(TWinControl* control) {
+  if (control == nullptr) {
+    active_control_ = nullptr;
+  } else if (Showing()) {
+    control->SetFocus();
+  } else {
+    active_control_ = control;
+  }
+}
+
+TbsSkinButton* TForm::DefaultButton() const {
+  return static_cast<TbsSkinButton*>(default_button_.data());
+}
+
+TbsSkinButton* TForm::CancelButton() const {
+  return static_cast<TbsSkinButton*>(cancel_button_.data());
+}
+
+void TForm::SetCancelButton(TbsSkinButton* button) {
+  cancel_button_ = button;
+}
+
+void TForm::SetDefaultButton(TbsSkinButton* button) {
+  default_button_ = button;
+  if (button != nullptr) button->MarkDefault();
+}
+
+bool TForm::PressDialogButton(std::uint16_t key, bool control_wants_return) {
+  TbsSkinButton* button = nullptr;
+  if (key == VK_RETURN && !control_wants_return) {
+    // A focused button is the one that Return means, whichever is marked as default.
+    auto* focused = qobject_cast<TbsSkinButton*>(active_control_.data());
+    button = default_button_ && focused != nullptr ? focused : DefaultButton();
+  }
+  if (key == VK_ESCAPE) button = CancelButton();
+  if (button == nullptr || !button->Enabled() || !button->Visible()) return false;
+  button->Click();
+  return true;
+}
+
+std::uint32_t TForm::Handle() {
+  if (handle_ == 0) handle_ = norvik_window_register(&FormProcedure, this, Widget());
+  return handle_;
+}
+
+std::intptr_t TForm::Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t) {
+  if (message == WM_ACTIVATE && wparam != WA_INACTIVE) FireEvent(OnActivate, this);
+  if (message == WM_SYSCOMMAND && (wparam & 0xFFF0) == SC_RESTORE && Widget() != nullptr && Showing()) {
+    Widget()->setWindowState(Widget()->windowState() & ~Qt::WindowMinimized);
+    BringToFront();
+  }
+  return 0;
+}
+
+void TForm::CaptionChanged() {
+  if (Widget() != nullptr) Widget()->setWindowTitle(ToQt(Caption()));
+}
+
+void TForm::WindowActivated(bool active) {
+  const bool clicked = QGuiApplication::mouseButtons() != Qt::NoButton;
+  const std::uintptr_t state = !active ? WA_INACTIVE : clicked ? WA_CLICKACTIVE : WA_ACTIVE;
+  RunGuarded(this, [&] { Dispatch(WM_ACTIVATE, state, 0); });
+}
+
+bool TForm::WidgetEvent(QWidget* widget, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Close:
+      event->ignore();
+      Close();
+      return true;
+    case QEvent::WindowActivate:
+      WindowActivated(true);
+      return false;
+    case QEvent::WindowDeactivate:
+      WindowActivated(false);
+      return false;
+    default:
+      return TWinControl::WidgetEvent(widget, event);
+  }
+}

@@ -1,0 +1,200 @@
+#include "toolkit/panels.h"
+
+#include <QAbstractScrollArea>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "toolkit/application.h"
+#include "toolkit/text.h"
+
+namespace {
+
+/// Marks a widget for the skin's selectors.
+void SetSkinRole(QWidget* widget, const char* role) {
+  widget->setProperty("skin", QString::fromLatin1(role));
+}
+
+/// A column without room of its own round or between its parts.
+QVBoxLayout* BareColumn(QWidget* widget) {
+  auto* column = new QVBoxLayout(widget);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  return column;
+}
+
+}  // namespace
+
+TPanel::TPanel(TComponent* owner) : TWinControl(owner) {
+  SetWidget(new QFrame);
+}
+
+TbsSkinPanel::TbsSkinPanel(TComponent* owner)
+    : TbsSkinControl(owner), heading_(new QLabel), client_(new QWidget) {
+  auto* frame = new QFrame;
+  QVBoxLayout* column = BareColumn(frame);
+  column->addWidget(heading_);
+  column->addWidget(client_, 1);
+  heading_->setTextFormat(Qt::PlainText);
+  heading_->hide();
+  SetSkinRole(frame, "panel");
+  SetSkinRole(heading_, "heading");
+  SetWidget(frame);
+  client_->installEventFilter(this);
+}
+
+void TbsSkinPanel::SetBordered(bool bordered) {
+  auto* frame = static_cast<QFrame*>(Widget());
+  if (frame == nullptr) return;
+  frame->setFrameShape(bordered ? QFrame::StyledPanel : QFrame::NoFrame);
+  SetSkinRole(frame, bordered ? "bordered" : "panel");
+}
+
+void TbsSkinPanel::CaptionChanged() {
+  if (!client_) return;
+  heading_->setText(ToQt(Caption()));
+  heading_->setVisible(!Caption().empty());
+}
+
+void TbsSkinPanel::FontChanged() {
+  TControl::FontChanged();
+  if (client_) heading_->setFont(Font()->ToQFont());
+}
+
+TbsSkinGroupBox::TbsSkinGroupBox(TComponent* owner) : TbsSkinControl(owner) {
+  SetWidget(new QGroupBox);
+}
+
+void TbsSkinGroupBox::CaptionChanged() {
+  if (Widget() != nullptr) static_cast<QGroupBox*>(Widget())->setTitle(ToQt(Caption()));
+}
+
+TbsSkinExPanel::TbsSkinExPanel(TComponent* owner)
+    : TbsSkinControl(owner), header_(new QToolButton), client_(new QFrame) {
+  auto* frame = new QFrame;
+  QVBoxLayout* column = BareColumn(frame);
+  column->addWidget(header_);
+  column->addWidget(client_, 1);
+  header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  header_->setAutoRaise(true);
+  header_->setFocusPolicy(Qt::NoFocus);
+  header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  SetSkinRole(frame, "roll");
+  SetSkinRole(header_, "roll-header");
+  SetSkinRole(client_, "roll-client");
+  SetWidget(frame);
+  client_->installEventFilter(this);
+  ShowState();
+  QObject::connect(header_, &QToolButton::clicked, this, [this] {
+    SetRollState(!rolled_up_);
+    FireEvent(OnChangeRollState, this);
+  });
+}
+
+void TbsSkinExPanel::ShowState() {
+  header_->setArrowType(rolled_up_ ? Qt::RightArrow : Qt::DownArrow);
+  client_->setVisible(!rolled_up_);
+}
+
+void TbsSkinExPanel::SetRollState(bool rolled_up) {
+  rolled_up_ = rolled_up;
+  if (client_) ShowState();
+}
+
+void TbsSkinExPanel::CaptionChanged() {
+  if (client_) header_->setText(ToQt(Caption()));
+}
+
+void TbsSkinExPanel::FontChanged() {
+  TControl::FontChanged();
+  if (!client_) return;
+  QFont font = Font()->ToQFont();
+  font.setBold(true);
+  header_->setFont(font);
+}
+
+TbsSkinScrollBox::TbsSkinScrollBox(TComponent* owner) : TbsSkinControl(owner), client_(new QWidget) {
+  auto* area = new QScrollArea;
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(client_);
+  SetSkinRole(area, "scroll");
+  SetSkinRole(client_, "scroll-client");
+  SetWidget(area);
+  client_->installEventFilter(this);
+}
+
+TbsSkinScrollBar::TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind)
+    : TbsSkinControl(owner), kind_(kind) {
+  SetWidget(new QScrollBar(kind == sbHorizontal ? Qt::Horizontal : Qt::Vertical));
+}
+
+void TbsSkinScrollBar::AttachTo(TWinControl* control) {
+  auto* area = qobject_cast<QAbstractScrollArea*>(control->Widget());
+  auto* bar = static_cast<QScrollBar*>(Widget());
+  if (area == nullptr || bar == nullptr) return;
+  if (kind_ == sbHorizontal) {
+    area->setHorizontalScrollBar(bar);
+  } else {
+    area->setVerticalScrollBar(bar);
+  }
+}
+
+TbsSkinToolBar::TbsSkinToolBar(TComponent* owner) : TbsSkinControl(owner) {
+  auto* frame = new QFrame;
+  auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(4, 2, 4, 2);
+  row->setSpacing(2);
+  row->addStretch(1);
+  SetSkinRole(frame, "toolbar");
+  SetWidget(frame);
+}
+
+void TbsSkinToolBar::Add(TControl* control) {
+  auto* row = static_cast<QHBoxLayout*>(Widget()->layout());
+  QWidget* part = nullptr;
+  if (control == nullptr) {
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    part = line;
+  } else {
+    control->SetParent(this);
+    part = control->Widget();
+  }
+  row->insertWidget(row->count() - 1, part);
+}
+
+TbsSkinStatusBar::TbsSkinStatusBar(TComponent* owner) : TbsSkinControl(owner) {
+  auto* frame = new QFrame;
+  auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(4, 2, 4, 2);
+  row->setSpacing(2);
+  SetSkinRole(frame, "status");
+  SetWidget(frame);
+}
+
+void TbsSkinStatusBar::Add(TControl* panel, int stretch) {
+  panel->SetParent(this);
+  static_cast<QHBoxLayout*>(Widget()->layout())->addWidget(panel->Widget(), stretch);
+}
+
+TbsSkinStatusPanel::TbsSkinStatusPanel(TComponent* owner) : TbsSkinControl(owner) {
+  auto* label = new QLabel;
+  label->setTextFormat(Qt::PlainText);
+  // A long text is cut at the edge instead of widening the form.
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  SetSkinRole(label, "status");
+  SetWidget(label);
+}
+
+void TbsSkinStatusPanel::CaptionChanged() {
+  if (auto* label = static_cast<QLabel*>(Widget())) label->setText(ToQt(Caption()));
+}
