@@ -6,12 +6,14 @@
 #include "toolkit/string_list.h"
 
 class QComboBox;
+class TStringsModel;
 
 namespace corvane {
 class Row;
 }
 
-/// A drop-down list. OnChange runs when the user picks an entry, not for SetItemIndex.
+/// A drop-down list. OnChange runs when the user picks an entry, also the one that was chosen already, not
+/// for SetItemIndex. An entry that is too long for the box is cut with "..." and shown whole in a tool tip.
 class TCustomComboBox : public TbsSkinControl {
   Q_OBJECT
   Q_PROPERTY(QString Text READ PublishedText WRITE SetPublishedText)
@@ -19,7 +21,8 @@ class TCustomComboBox : public TbsSkinControl {
   Q_PROPERTY(QString ImeName READ PublishedImeName WRITE SetPublishedImeName)
 
  public:
-  /// The visible entries. A changed text keeps the choice; clearing leaves none.
+  /// The visible entries. The choice stays with its entry when others come and go or texts change; removing
+  /// the chosen entry leaves none.
   TStrings& Items() { return items_; }
   const TStrings& Items() const { return items_; }
   /// The chosen entry, -1: none.
@@ -39,13 +42,18 @@ class TCustomComboBox : public TbsSkinControl {
 
  protected:
   explicit TCustomComboBox(TComponent* owner);
-  void FontChanged() override;
+  bool ClicksByMouse() const override { return false; }
   QComboBox* Combo() const;
 
  private:
+  class Box;
   void ItemsChanged();
+  void Picked();
 
   TStrings items_;
+  TStringsModel* model_ = nullptr;
+  bool setting_ = false;
+  bool reported_ = false;
 };
 
 /// A drop-down list whose entries have a key and a name: three lists side by side, each with its own

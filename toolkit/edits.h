@@ -3,11 +3,13 @@
 #include <string>
 
 #include "toolkit/control.h"
+#include "toolkit/input_limits.h"
 
 class QLineEdit;
 class QPlainTextEdit;
 
-/// A line of text. OnChange runs after each change by the user, not for SetText.
+/// A line of text. OnChange runs after each change by the user, not for SetText. What the limits of the edit
+/// don't let in is left out while the user types and pastes; SetText is not limited.
 class TCustomEdit : public TbsSkinControl {
   Q_OBJECT
   Q_PROPERTY(QString Text READ PublishedText WRITE SetPublishedText)
@@ -21,8 +23,8 @@ class TCustomEdit : public TbsSkinControl {
   bool ReadOnly() const;
   void SetReadOnly(bool read_only);
   /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
-  int MaxLength() const { return max_length_; }
-  void SetMaxLength(int bytes) { max_length_ = bytes; }
+  int MaxLength() const { return limits_.max_length; }
+  void SetMaxLength(int bytes) { limits_.max_length = bytes; }
   TAlignment Alignment() const;
   void SetAlignment(TAlignment alignment);
   void SelectAll();
@@ -34,17 +36,17 @@ class TCustomEdit : public TbsSkinControl {
 
  protected:
   explicit TCustomEdit(TComponent* owner);
-  /// Whether a text may stand in the edit while the user types or pastes; here: within MaxLength.
-  virtual bool Accepts(const std::string& text) const;
+  TInputLimits& Limits() { return limits_; }
   /// The user changed the text.
-  virtual void UserChanged();
-  bool ClicksByMouse() const override { return true; }
-  void FontChanged() override;
+  void UserChanged();
   QLineEdit* Edit() const;
 
  private:
   class Validator;
-  int max_length_ = 0;
+
+  TInputLimits limits_;
+  QString text_;
+  bool setting_ = false;
 };
 
 class TEdit : public TCustomEdit {
@@ -55,6 +57,8 @@ class TEdit : public TCustomEdit {
 };
 
 /// Kinds of characters that a KVX edit takes.
+/// Chinese: what takes two bytes in the code page, so also its full-width punctuation. Currency: digits and
+/// one point.
 enum TKVXInputKind { ikAny, ikDigits, ikLettersDigitsChinese, ikCurrency };
 
 /// What may be typed into a KVX edit.
@@ -67,7 +71,7 @@ struct TKVXInputRule {
   int decimal_digits = 0;
 };
 
-/// A line of text with an input rule, enforced while the user types and pastes: what breaks it doesn't go in.
+/// A line of text with an input rule, what breaks it doesn't go in.
 class TKVXEdit : public TCustomEdit {
   Q_OBJECT
 
@@ -77,9 +81,6 @@ class TKVXEdit : public TCustomEdit {
   const TKVXInputRule& InputRule() const { return rule_; }
   /// Sets the rule and its length limit; a currency edit becomes right-aligned.
   void SetInputRule(const TKVXInputRule& rule);
-
- protected:
-  bool Accepts(const std::string& text) const override;
 
  private:
   TKVXInputRule rule_;
@@ -100,20 +101,20 @@ class TMemo : public TWinControl {
   bool ReadOnly() const;
   void SetReadOnly(bool read_only);
   /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
-  int MaxLength() const { return max_length_; }
-  void SetMaxLength(int bytes) { max_length_ = bytes; }
+  /// A line end counts as two.
+  int MaxLength() const { return limits_.max_length; }
+  void SetMaxLength(int bytes) { limits_.max_length = bytes; }
   /// Which scroll bars may appear; without a horizontal one the lines wrap.
   void SetScrollBars(TScrollStyle style);
 
   TNotifyEvent OnChange;
 
- protected:
-  void FontChanged() override;
-
  private:
   QPlainTextEdit* Edit() const;
-  void UserChanged();
+  void TextChanged();
+  void Replace(const QString& text, int cursor);
 
-  int max_length_ = 0;
-  QString accepted_;
+  TInputLimits limits_;
+  QString text_;
+  bool setting_ = false;
 };

@@ -5,19 +5,21 @@
 #include "toolkit/control.h"
 #include "toolkit/string_list.h"
 
-class QListWidget;
+class QListView;
+class TStringsModel;
 
 namespace corvane {
 class StringVector;
 }
 
 /// A list of entries of which any number is selected; each has a key and a name in the two lists beside
-/// Items. OnClick runs when the user changes the selection, not for SetSelected.
+/// Items. A click, or the space key, turns the selection of one entry round. OnClick runs when the user
+/// changes the selection, not for SetSelected.
 class TKVXCustomListBox : public TbsSkinControl {
   Q_OBJECT
 
  public:
-  /// The visible entries. Appending keeps the selection; a changed text keeps it; clearing leaves none.
+  /// The visible entries. An entry stays selected when others come and go and when its text changes.
   TStrings& Items() { return items_; }
   const TStrings& Items() const { return items_; }
   TStrings& Keys() { return keys_; }
@@ -36,16 +38,17 @@ class TKVXCustomListBox : public TbsSkinControl {
 
  protected:
   explicit TKVXCustomListBox(TComponent* owner);
-  void FontChanged() override;
   bool ClicksByMouse() const override { return false; }
 
  private:
-  QListWidget* List() const;
+  QListView* List() const;
   void ItemsChanged();
 
   TStrings items_;
   TStrings keys_;
   TStrings names_;
+  TStringsModel* model_ = nullptr;
+  bool setting_ = false;
 };
 
 class TKVXListBox : public TKVXCustomListBox {

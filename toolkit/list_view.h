@@ -7,10 +7,12 @@
 
 #include "toolkit/control.h"
 
-class QTreeView;
+class QMouseEvent;
 class TCustomListView;
-class TListItem;
 class TListItems;
+class TListModel;
+class TListTree;
+struct TListRow;
 
 namespace corvane {
 class List;
@@ -18,7 +20,8 @@ class Property;
 class StringVector;
 }  // namespace corvane
 
-/// A column of a list view. MaxWidth 1 hides it from the user; so does width 0.
+/// A column of a list view. MaxWidth 1 hides it from the user; so does width 0. The user can't drag a hidden
+/// column open, nor a column out of its bounds.
 class TListColumn : public TObject {
   Q_OBJECT
 
@@ -26,17 +29,20 @@ class TListColumn : public TObject {
   std::string Caption() const { return caption_; }
   void SetCaption(const std::string& caption);
   /// Width in pixels, brought within MinWidth and MaxWidth where these aren't 0; 50 at the start.
-  int Width() const;
+  int Width() const { return width_; }
   void SetWidth(int width);
   int MinWidth() const { return min_width_; }
   void SetMinWidth(int width);
-  /// Greatest width, 0: no limit. With 1 the column reads as 1 or 0 wide and can't be dragged open.
+  /// Greatest width, 0: no limit. With 1 the column reads as 1 or 0 wide.
   int MaxWidth() const { return max_width_; }
   void SetMaxWidth(int width);
   TAlignment Alignment() const { return alignment_; }
   void SetAlignment(TAlignment alignment);
-  /// Display format of the cells: 2 amount with thousands separators, 4 whole number, 5 rate; 100 internal;
-  /// others: the text as it stands. The record isn't changed by it.
+  /// Whether the column is hidden.
+  bool Hidden() const { return max_width_ == 1 || width_ == 0; }
+  /// Display format of the cells: 2 amount, shown with thousands separators and two decimals; 4 number, shown
+  /// with thousands separators and the decimals that it has; 5 text at the right edge; all others the text as
+  /// it stands. A text that is no number stands as it is. The record isn't changed by it.
   int Tag() const { return tag_; }
   void SetTag(int tag);
   /// Position among the columns, from 0.
@@ -47,7 +53,9 @@ class TListColumn : public TObject {
  private:
   friend class TListColumns;
   friend class TCustomListView;
-  TListColumn(TCustomListView* view, int id);
+  TListColumn(TCustomListView* view, int id) : view_(view), id_(id) {}
+  int Bounded(int width) const;
+  void Changed();
 
   TCustomListView* view_;
   std::string caption_;
@@ -59,7 +67,8 @@ class TListColumn : public TObject {
   TAlignment alignment_ = taLeftJustify;
 };
 
-/// The columns of a list view, in their present order.
+/// The columns of a list view, in their present order; a column that the user drags to another place changes
+/// its place here.
 class TListColumns {
  public:
   int Count() const { return static_cast<int>(columns_.size()); }
@@ -81,7 +90,8 @@ class TListColumns {
   int next_id_ = 0;
 };
 
-/// A row of a list view: a small handle that stays the same while the row lives.
+/// A row of a list view: a small handle that stays the same while the row lives. In a row with a record the
+/// text of a column with a column id is the record's field.
 class TListItem {
  public:
   /// Text of the first column.
@@ -109,13 +119,12 @@ class TListItem {
   void Delete();
 
  private:
-  friend class TCustomListView;
-  friend class TListItems;
-  struct Row;
-  TListItem() = default;
+  friend struct TListRow;
+  friend class TListModel;
+  TListItem(TListModel* model, TListRow* row) : model_(model), row_(row) {}
 
-  TCustomListView* view_ = nullptr;
-  Row* row_ = nullptr;
+  TListModel* model_;
+  TListRow* row_;
 };
 
 /// The rows of a list view, counted from 0.
@@ -133,14 +142,16 @@ class TListItems {
 
  private:
   friend class TCustomListView;
-  explicit TListItems(TCustomListView* view) : view_(view) {}
-  TCustomListView* view_;
+  explicit TListItems(TListModel* model) : model_(model) {}
+  TListModel* model_;
 };
 
 enum TViewStyle { vsIcon, vsSmallIcon, vsList, vsReport };
 
-/// A list of rows in columns with a check box for each row. OnSelectItem and OnItemCheck run for the user's
-/// doing; OnSelectItem also when the selection is changed by code, as the original list control reports it.
+/// A list of rows in columns with a check box for each row, of which one or none is selected. OnItemCheck runs
+/// when the user ticks or unticks a row, on its box or with the space key. OnSelectItem runs also when the
+/// selection is changed by code, for the row that loses it first, and before a selected row is deleted. Mouse
+/// events run when the list has done what the mouse asks for, so OnMouseUp sees the new tick.
 class TCustomListView : public TbsSkinControl {
   Q_OBJECT
 
@@ -156,12 +167,15 @@ class TCustomListView : public TbsSkinControl {
   void SetSelected(TListItem* item);
   /// Index of the selected row, -1: none.
   int ItemIndex() const;
+  int GetItemIndex() const { return ItemIndex(); }
+  /// Selects a row, gives it the focus rectangle and scrolls to it; an index out of range selects none.
   void SetItemIndex(int index);
   /// The row that has the focus rectangle, null: none.
   TListItem* ItemFocused() const;
   void SetItemFocused(TListItem* item);
   /// The row at a point of the control, null: none.
   TListItem* GetItemAt(int x, int y) const;
+  /// Removes all rows; the columns stay.
   virtual void Clear();
 
   /// Only the report style is drawn.
@@ -173,6 +187,7 @@ class TCustomListView : public TbsSkinControl {
   void SetGridLines(bool on);
   bool RowSelect() const { return row_select_; }
   void SetRowSelect(bool on);
+  /// Kept for the forms; texts are never edited in place.
   bool ReadOnly() const { return read_only_; }
   void SetReadOnly(bool on) { read_only_ = on; }
   /// Whether the selection shows only with the focus.
@@ -189,19 +204,27 @@ class TCustomListView : public TbsSkinControl {
 
  protected:
   explicit TCustomListView(TComponent* owner);
-  void FontChanged() override;
   bool WidgetEvent(QWidget* widget, QEvent* event) override;
-  class Model;
-  Model* Rows() const { return model_; }
-  QTreeView* View() const;
+  TListModel* Model() const { return model_; }
+  /// The Qt view, null once it has been deleted from outside.
+  TListTree* Tree() const;
+  /// The user dragged the column at an index to another one.
+  virtual void ColumnMoved(int from, int to);
 
  private:
   friend class TListColumn;
   friend class TListColumns;
-  friend class TListItem;
-  friend class TListItems;
+  friend class TListModel;
+  friend class TListTree;
+  void ConnectHeader();
+  void ShowColumn(int index);
+  void SectionResized(int index, int width);
+  void SectionMoved(int from, int to);
+  void TreeMouse(QMouseEvent* event);
+  void UserChecked(TListItem* item);
+  void ReportSelection(int row, bool selected);
 
-  Model* model_;
+  TListModel* model_;
   TListColumns columns_;
   TListItems items_;
   TViewStyle view_style_ = vsReport;
@@ -212,6 +235,7 @@ class TCustomListView : public TbsSkinControl {
   bool hide_selection_ = true;
   bool full_drag_ = false;
   bool show_column_headers_ = true;
+  bool arranging_ = false;
 };
 
 class TListView : public TCustomListView {
@@ -222,7 +246,7 @@ class TListView : public TCustomListView {
 };
 
 /// A list view that owns a record for each row. Cells are read from the record by the column ids when they
-/// are painted; a record whose field Color is a number is drawn in that colour.
+/// are painted; a record whose field Color is a number is drawn in that colour, as TColor counts.
 class TKVXCustomListView : public TCustomListView {
   Q_OBJECT
 
@@ -231,9 +255,11 @@ class TKVXCustomListView : public TCustomListView {
   corvane::StringVector& ColumnIds() { return *column_ids_; }
   const corvane::StringVector& ColumnIds() const { return *column_ids_; }
 
-  /// Appends a row for each record. column_ids are the fields that the columns show, joined with "; ".
+  /// Appends a row for each record, with all its fields. column_ids are the fields that the columns show,
+  /// joined with "; "; they become ColumnIds unless the text is empty.
   void Add(const corvane::List& rows, const std::string& column_ids);
-  /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected ones, 0 all, in list order.
+  /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected one, 0 all, in list order. Where
+  /// the records differ in fields, each row gets what it lacks, empty, since rows of a list have equal columns.
   void GetDataVector(corvane::List& rows, int mode) const;
   /// Copies the record of a row with all its fields; the column ids choose nothing. False, and an emptied
   /// record, when there is no such row.
@@ -241,7 +267,8 @@ class TKVXCustomListView : public TCustomListView {
   bool Get(corvane::Property& row, const corvane::StringVector& column_ids, const TListItem* item) const;
   /// Replaces the record of a row and repaints it; a null item changes nothing.
   void Modify(const corvane::Property& row, const corvane::StringVector& column_ids, TListItem* item);
-  /// The record of a row, null when the item is null; the view owns it.
+  /// The record of a row, null when the item is null or has none; the view owns it. What is changed in it shows
+  /// at the next repaint, which follows by itself.
   corvane::Property* PropertyOf(const TListItem* item) const;
   /// Repaints a row whose record was changed in place.
   void RefreshItem(const TListItem* item);
@@ -252,10 +279,11 @@ class TKVXCustomListView : public TCustomListView {
   int CheckedCount() const;
   /// Removes a row and its record; std::out_of_range when there is none.
   void DelItem(int index);
-  /// Removes the rows at ascending indexes in one pass.
+  /// Removes the rows at ascending indexes in one pass; an index out of range removes nothing.
   void DelItems(const std::vector<int>& indexes);
-  /// Sum of a column, counted from 1, over all rows or the ticked ones, with two decimals; cells that are no
-  /// number add nothing. Empty when there is no such column.
+  /// Sum of a column, counted from 1, over all rows or the ticked ones, as plain text with two decimals: exact,
+  /// decimals behind the second of a cell are left out, and cells that are no number add nothing. Empty when
+  /// there is no such column.
   std::string GetTotalMoney(int column, bool checked_only) const;
   /// The list view's own sum row, off at the start; on, the sum of each amount column shows below the list.
   bool ShowSumRow() const { return show_sum_row_; }
@@ -264,8 +292,11 @@ class TKVXCustomListView : public TCustomListView {
  protected:
   explicit TKVXCustomListView(TComponent* owner);
   ~TKVXCustomListView() override;
+  void ColumnMoved(int from, int to) override;
 
  private:
+  std::string SumText(int column) const;
+
   std::unique_ptr<corvane::StringVector> column_ids_;
   bool show_sum_row_ = false;
 };

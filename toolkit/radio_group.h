@@ -6,21 +6,21 @@
 #include "toolkit/control.h"
 #include "toolkit/string_list.h"
 
+class QButtonGroup;
 class QGridLayout;
 class QRadioButton;
 
 /// A framed group of alternatives, of which one or none is chosen. The radio button of item i bears the
-/// group's name,
-/// "_" and i as object name.
+/// group's name, "_" and i as object name. OnClick runs when the user chooses another item.
 class TbsSkinRadioGroup : public TbsSkinControl {
   Q_OBJECT
   Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
 
  public:
   explicit TbsSkinRadioGroup(TComponent* owner);
-  ~TbsSkinRadioGroup() override;
 
-  /// The texts, in order. A changed text keeps the choice; a removed choice leaves none.
+  void SetName(const std::string& name) override;
+  /// The texts, in order. The choice stays with its index while there is such an item.
   TStrings& Items() { return items_; }
   const TStrings& Items() const { return items_; }
   /// Number of columns that the items stand in, 1 or more; filled row by row.
@@ -34,16 +34,20 @@ class TbsSkinRadioGroup : public TbsSkinControl {
 
  protected:
   void CaptionChanged() override;
-  void FontChanged() override;
   QWidget* FocusWidget() const override;
   bool ClicksByMouse() const override { return false; }
 
  private:
-  void Rebuild();
+  void ItemsChanged();
+  void PlaceButtons();
+  void ShowChoice();
+  void NameButtons();
 
   TStrings items_;
   std::vector<QRadioButton*> buttons_;
-  QGridLayout* grid_ = nullptr;
+  QButtonGroup* group_;
+  QGridLayout* grid_;
   int columns_ = 1;
   int item_index_ = -1;
+  bool setting_ = false;
 };

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// What the user's typing and pasting may bring into a text field. Control characters and characters that the
+/// code page lacks never go in.
+struct TInputLimits {
+  /// Most bytes of narrow text, 0: no limit.
+  int max_length = 0;
+  /// Line ends are let in and count as two bytes.
+  bool multi_line = false;
+  /// Whether one character, its narrow text, may stand in the field; unset: any.
+  std::function<bool(std::string_view character)> allows;
+  /// Whether a whole narrow text may stand in the field; unset: any.
+  std::function<bool(const std::string& text)> accepts;
+};
+
+/// Bytes of a text as narrow text, line ends as two.
+int NarrowLength(const QString& text);
+
+/// What becomes of a field's text when one step of the user's made `after` out of `before`, with the cursor
+/// behind what came in. Of the part that came in, characters that aren't allowed are left out, and it ends
+/// before the first one that is too long for the field. A step that would spoil an acceptable text gives
+/// `before`. The cursor is moved behind the part that is left.
+QString LimitInput(const TInputLimits& limits, const QString& before, const QString& after, int& cursor);

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "data/row.h"
+#include "toolkit/list_view.h"
+
+/// One row: its record, or texts where it has none, and its tick.
+struct TListRow {
+  explicit TListRow(TListModel* model) : item(model, this) {}
+
+  std::optional<corvane::Property> record;
+  std::vector<std::string> texts;
+  TListItem item;
+  /// Where the row was when last asked for; rows that go before it make it too great.
+  int index = 0;
+  bool checked = false;
+};
+
+/// The rows of a list view as Qt's views see them. Texts are taken from the rows whenever they are asked for.
+class TListModel : public QAbstractTableModel {
+ public:
+  explicit TListModel(TCustomListView* view) : view_(view) {}
+
+  TCustomListView* View() const { return view_; }
+  int Count() const { return static_cast<int>(rows_.size()); }
+  /// std::out_of_range when there is none.
+  TListRow& Row(int index) const { return *rows_.at(static_cast<std::size_t>(index)); }
+  int IndexOf(TListRow* row) const;
+
+  /// Text of a cell as it is stored, empty where there is none.
+  std::string Text(const TListRow& row, int column) const;
+  void SetText(TListRow& row, int column, const std::string& text);
+  void SetChecked(TListRow& row, bool checked);
+  /// Ticks or unticks all rows, and tells the views once.
+  void CheckAll(bool checked);
+
+  /// Inserts an empty row before an index.
+  TListRow& Insert(int index);
+  /// Appends rows and tells the views once.
+  void Append(std::vector<std::unique_ptr<TListRow>> rows);
+  void Delete(int index);
+  /// Removes the rows that a test names, in one pass, and tells the views once.
+  void DeleteIf(const std::function<bool(int index)>& goes);
+  void Clear();
+  /// Calls a change of the columns between what the views need to be told before and behind it.
+  void ChangeColumns(int first, int last, bool come, const std::function<void()>& change);
+  /// Moves the texts of a column in rows without a record.
+  void MoveTexts(int from, int to);
+  /// Repaints one row, or all.
+  void Touch(int row);
+  void TouchAll();
+
+  /// The fields that the columns show, null in a list without records.
+  const std::vector<std::string>* column_ids = nullptr;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  /// Whether a column shows the ticks: the first one, and the first that isn't hidden.
+  bool ShowsCheck(int column) const;
+
+ private:
+  const std::string* FieldOf(const TListRow& row, int column) const;
+
+  TCustomListView* view_;
+  std::vector<std::unique_ptr<TListRow>> rows_;
+};

@@ -1,0 +1,188 @@
+#include "toolkit/list_tree.h"
+
+#include <QAbstractItemModel>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+#include "toolkit/list_view.h"
+
+static constexpr int kRowRoom = 6;
+static constexpr int kTextRoom = 4;
+
+namespace {
+
+/// Gives the rows some room above and below the text.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowRoom);
+  }
+};
+
+}  // namespace
+
+/// The strip below the rows. It asks for its texts when something in the list has changed, not at each paint.
+class TListSumBar : public QWidget {
+ public:
+  TListSumBar(TListTree* tree, std::function<QString(int column)> sums)
+      : QWidget(tree), tree_(tree), sums_(std::move(sums)) {
+    const auto renew = [this] {
+      fresh_ = false;
+      update();
+    };
+    const QAbstractItemModel* model = tree->model();
+    connect(model, &QAbstractItemModel::dataChanged, this, renew);
+    connect(model, &QAbstractItemModel::modelReset, this, renew);
+    connect(model, &QAbstractItemModel::rowsInserted, this, renew);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, renew);
+    connect(model, &QAbstractItemModel::headerDataChanged, this, renew);
+    const auto move = [this] { update(); };
+    connect(tree->header(), &QHeaderView::sectionResized, this, move);
+    connect(tree->header(), &QHeaderView::geometriesChanged, this, move);
+    connect(tree->horizontalScrollBar(), &QScrollBar::valueChanged, this, move);
+    show();
+  }
+
+  int Height() const { return tree_->fontMetrics().height() + kRowRoom; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (!fresh_) Renew();
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().alternateBase());
+    painter.setPen(palette().color(QPalette::Text));
+    painter.setFont(tree_->font());
+    for (int column = 0; column < texts_.size(); ++column) {
+      if (tree_->isColumnHidden(column)) continue;
+      const QRect cell(tree_->columnViewportPosition(column), 0, tree_->columnWidth(column), height());
+      painter.drawText(cell.adjusted(kTextRoom, 0, -kTextRoom, 0), Qt::AlignRight | Qt::AlignVCenter, texts_[column]);
+    }
+  }
+
+ private:
+  void Renew() {
+    texts_.clear();
+    const int columns = tree_->model()->columnCount();
+    for (int column = 0; column < columns; ++column) texts_.append(sums_(column));
+    fresh_ = true;
+  }
+
+  TListTree* tree_;
+  std::function<QString(int column)> sums_;
+  QStringList texts_;
+  bool fresh_ = false;
+};
+
+TListTree::TListTree(TCustomListView* list) : list_(list) {
+  setUniformRowHeights(true);
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setIndentation(0);
+  setAllColumnsShowFocus(true);
+  setEditTriggers(NoEditTriggers);
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setVerticalScrollMode(ScrollPerItem);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setItemDelegate(new RowDelegate(this));
+  header()->setStretchLastSection(false);
+  header()->setSectionsMovable(false);
+  header()->setFirstSectionMovable(true);
+  header()->setHighlightSections(false);
+}
+
+void TListTree::SetGridLines(bool on) {
+  grid_lines_ = on;
+  viewport()->update();
+}
+
+void TListTree::SetSums(std::function<QString(int column)> sums) {
+  delete sum_bar_;
+  sum_bar_ = sums ? new TListSumBar(this, std::move(sums)) : nullptr;
+  updateGeometries();
+}
+
+void TListTree::mousePressEvent(QMouseEvent* event) {
+  QTreeView::mousePressEvent(event);
+  if (!indexAt(event->position().toPoint()).isValid()) clearSelection();
+  Report(event);
+}
+
+void TListTree::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointer<TListTree> self(this);
+  QTreeView::mouseReleaseEvent(event);
+  if (self) Report(event);
+}
+
+// Two quick clicks on a check box are two clicks: Qt takes the second as a double click and would ignore it.
+void TListTree::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (OnCheckBox(event->position().toPoint())) {
+    QTreeView::mousePressEvent(event);
+  } else {
+    QTreeView::mouseDoubleClickEvent(event);
+  }
+  Report(event);
+}
+
+void TListTree::Report(QMouseEvent* event) {
+  list_->TreeMouse(event);
+  event->accept();
+}
+
+bool TListTree::OnCheckBox(const QPoint& point) const {
+  const QModelIndex index = indexAt(point);
+  if (!index.flags().testFlag(Qt::ItemIsUserCheckable)) return false;
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.rect = visualRect(index);
+  option.features |= QStyleOptionViewItem::HasCheckIndicator;
+  return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(point);
+}
+
+bool TListTree::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QModelIndex index = indexAt(help->pos());
+  const QString text = index.data().toString();
+  const bool cut = index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
+  if (!cut) return QTreeView::viewportEvent(event);
+  QToolTip::showText(help->globalPos(), QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>"),
+                     this);
+  return true;
+}
+
+void TListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QTreeView::drawRow(painter, option, index);
+  if (!grid_lines_) return;
+  painter->save();
+  const int hint = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
+  painter->setPen(QColor::fromRgba(static_cast<QRgb>(hint)));
+  painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  const int columns = model()->columnCount();
+  for (int column = 0; column < columns; ++column) {
+    if (isColumnHidden(column)) continue;
+    const int right = columnViewportPosition(column) + columnWidth(column) - 1;
+    painter->drawLine(right, option.rect.top(), right, option.rect.bottom());
+  }
+  painter->restore();
+}
+
+void TListTree::updateGeometries() {
+  QTreeView::updateGeometries();
+  const int height = sum_bar_ == nullptr ? 0 : sum_bar_->Height();
+  QMargins margins = viewportMargins();
+  if (margins.bottom() != height) {
+    margins.setBottom(height);
+    setViewportMargins(margins);
+  }
+  if (sum_bar_ == nullptr) return;
+  const QRect rows = viewport()->geometry();
+  sum_bar_->setGeometry(rows.left(), rows.bottom() + 1, rows.width(), height);
+}

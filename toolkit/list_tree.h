@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QTreeView>
+#include <functional>
+
+class TCustomListView;
+class TListSumBar;
+
+/// The Qt view of a list view: a tree without branches, whose rows are all of one height.
+class TListTree : public QTreeView {
+ public:
+  explicit TListTree(TCustomListView* list);
+
+  void SetGridLines(bool on);
+  /// Text of a column's cell in the strip below the rows; unset: no strip.
+  void SetSums(std::function<QString(int column)> sums);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  void updateGeometries() override;
+
+ private:
+  bool OnCheckBox(const QPoint& point) const;
+  void Report(QMouseEvent* event);
+
+  TCustomListView* list_;
+  TListSumBar* sum_bar_ = nullptr;
+  bool grid_lines_ = false;
+};

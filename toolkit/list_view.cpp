@@ -1,0 +1,183 @@
+#include "toolkit/list_view.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "toolkit/application.h"
+#include "toolkit/list_model.h"
+#include "toolkit/list_tree.h"
+
+/// A column that is shown can't be dragged narrower than this, so that it doesn't get lost.
+static constexpr int kLeastDraggedWidth = 16;
+
+TCustomListView::TCustomListView(TComponent* owner)
+    : TbsSkinControl(owner), model_(new TListModel(this)), columns_(this), items_(model_) {
+  auto* tree = new TListTree(this);
+  SetWidget(tree);
+  SetTabStop(true);
+  tree->setModel(model_);
+  ConnectHeader();
+  connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected, const QItemSelection& deselected) {
+            const int gone = deselected.isEmpty() ? -1 : deselected.first().top();
+            const int come = selected.isEmpty() ? -1 : selected.first().top();
+            if (gone >= 0) ReportSelection(gone, false);
+            if (come >= 0) ReportSelection(come, true);
+          });
+}
+
+TCustomListView::~TCustomListView() {
+  delete Widget();
+  delete model_;
+}
+
+TListTree* TCustomListView::Tree() const { return static_cast<TListTree*>(Widget()); }
+
+TListItem* TCustomListView::Selected() const {
+  const int index = ItemIndex();
+  return index < 0 ? nullptr : &model_->Row(index).item;
+}
+
+void TCustomListView::SetSelected(TListItem* item) { SetItemIndex(item == nullptr ? -1 : item->Index()); }
+
+int TCustomListView::ItemIndex() const {
+  if (Tree() == nullptr) return -1;
+  const QItemSelection selection = Tree()->selectionModel()->selection();
+  return selection.isEmpty() ? -1 : selection.first().top();
+}
+
+void TCustomListView::SetItemIndex(int index) {
+  if (Tree() == nullptr) return;
+  QItemSelectionModel* selection = Tree()->selectionModel();
+  if (index < 0 || index >= model_->Count() || columns_.Count() == 0) {
+    selection->clearSelection();
+    return;
+  }
+  selection->setCurrentIndex(model_->index(index, 0),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+TListItem* TCustomListView::ItemFocused() const {
+  const QModelIndex current = Tree() == nullptr ? QModelIndex() : Tree()->currentIndex();
+  return current.isValid() ? &model_->Row(current.row()).item : nullptr;
+}
+
+void TCustomListView::SetItemFocused(TListItem* item) {
+  if (Tree() == nullptr) return;
+  const QModelIndex index = item == nullptr ? QModelIndex() : model_->index(item->Index(), 0);
+  Tree()->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}
+
+TListItem* TCustomListView::GetItemAt(int x, int y) const {
+  if (Tree() == nullptr) return nullptr;
+  const QPoint point = Tree()->viewport()->mapFrom(Tree(), QPoint(x, y));
+  const QModelIndex index = point.y() < 0 ? QModelIndex() : Tree()->indexAt(point);
+  return index.isValid() ? &model_->Row(index.row()).item : nullptr;
+}
+
+void TCustomListView::Clear() {
+  SetSelected(nullptr);
+  model_->Clear();
+}
+
+void TCustomListView::SetCheckboxes(bool on) {
+  checkboxes_ = on;
+  model_->TouchAll();
+}
+
+void TCustomListView::SetGridLines(bool on) {
+  grid_lines_ = on;
+  if (Tree() != nullptr) Tree()->SetGridLines(on);
+}
+
+void TCustomListView::SetRowSelect(bool on) {
+  row_select_ = on;
+  if (Tree() != nullptr) Tree()->setAllColumnsShowFocus(on);
+}
+
+void TCustomListView::SetHideSelection(bool on) {
+  hide_selection_ = on;
+  if (Tree() != nullptr) Tree()->viewport()->update();
+}
+
+void TCustomListView::SetFullDrag(bool on) {
+  full_drag_ = on;
+  if (Tree() != nullptr) Tree()->header()->setSectionsMovable(on);
+}
+
+void TCustomListView::SetShowColumnHeaders(bool on) {
+  show_column_headers_ = on;
+  if (Tree() != nullptr) Tree()->setHeaderHidden(!on);
+}
+
+bool TCustomListView::WidgetEvent(QWidget* widget, QEvent* event) {
+  const QPointer<TCustomListView> self(this);
+  if (TbsSkinControl::WidgetEvent(widget, event) || !self) return true;
+  if (event->type() != QEvent::KeyPress || widget != Widget() || !checkboxes_) return false;
+  const QModelIndex current = Tree()->currentIndex();
+  if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Space || !current.isValid()) return false;
+  const QModelIndex box = current.siblingAtColumn(0);
+  model_->setData(box, model_->Row(box.row()).checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+  return true;
+}
+
+void TCustomListView::TreeMouse(QMouseEvent* event) {
+  if (Tree() != nullptr) TbsSkinControl::WidgetEvent(Tree()->viewport(), event);
+}
+
+void TCustomListView::UserChecked(TListItem* item) { FireEvent(OnItemCheck, this, item); }
+
+void TCustomListView::ReportSelection(int row, bool selected) {
+  if (row < model_->Count()) FireEvent(OnSelectItem, this, &model_->Row(row).item, selected);
+}
+
+void TCustomListView::ConnectHeader() {
+  QHeaderView* header = Tree()->header();
+  header->setMinimumSectionSize(kLeastDraggedWidth);
+  connect(header, &QHeaderView::sectionResized, this,
+          [this](int index, int, int width) { SectionResized(index, width); });
+  connect(header, &QHeaderView::sectionMoved, this, [this](int, int from, int to) { SectionMoved(from, to); });
+}
+
+void TCustomListView::ShowColumn(int index) {
+  if (Tree() == nullptr || arranging_) return;
+  const QScopedValueRollback arranging(arranging_, true);
+  const TListColumn& column = *columns_[index];
+  Tree()->setColumnHidden(index, column.Hidden());
+  if (!column.Hidden()) Tree()->header()->resizeSection(index, column.Width());
+  Q_EMIT model_->headerDataChanged(Qt::Horizontal, index, index);
+  Tree()->viewport()->update();
+}
+
+void TCustomListView::SectionResized(int index, int width) {
+  if (arranging_ || index >= columns_.Count()) return;
+  TListColumn& column = *columns_[index];
+  if (column.Hidden()) return;
+  column.width_ = std::max(column.Bounded(width), 1);
+  if (column.width_ == width) return;
+  const QScopedValueRollback arranging(arranging_, true);
+  Tree()->header()->resizeSection(index, column.width_);
+}
+
+// The collection takes the user's order, and the header's own order goes back to the collection's.
+void TCustomListView::SectionMoved(int from, int to) {
+  if (arranging_ || from >= columns_.Count() || to >= columns_.Count()) return;
+  const QScopedValueRollback arranging(arranging_, true);
+  Tree()->header()->moveSection(to, from);
+  auto column = std::move(columns_.columns_[static_cast<std::size_t>(from)]);
+  columns_.columns_.erase(columns_.columns_.begin() + from);
+  columns_.columns_.insert(columns_.columns_.begin() + to, std::move(column));
+  model_->MoveTexts(from, to);
+  ColumnMoved(from, to);
+  for (int i = 0; i < columns_.Count(); ++i) {
+    Tree()->setColumnHidden(i, columns_[i]->Hidden());
+    if (!columns_[i]->Hidden()) Tree()->header()->resizeSection(i, columns_[i]->Width());
+  }
+  model_->TouchAll();
+}
+
+void TCustomListView::ColumnMoved(int, int) {}

@@ -1,0 +1,95 @@
+#include "toolkit/radio_group.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "toolkit/application.h"
+#include "toolkit/text.h"
+
+TbsSkinRadioGroup::TbsSkinRadioGroup(TComponent* owner) : TbsSkinControl(owner) {
+  auto* box = new QGroupBox;
+  SetWidget(box);
+  SetTabStop(true);
+  grid_ = new QGridLayout(box);
+  group_ = new QButtonGroup(box);
+  items_.OnChange = [this] { ItemsChanged(); };
+  connect(group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
+    if (setting_ || !on) return;
+    item_index_ = index;
+    Click();
+  });
+}
+
+void TbsSkinRadioGroup::SetName(const std::string& name) {
+  TbsSkinControl::SetName(name);
+  NameButtons();
+}
+
+void TbsSkinRadioGroup::SetColumns(int columns) {
+  columns_ = std::max(columns, 1);
+  PlaceButtons();
+}
+
+void TbsSkinRadioGroup::SetItemIndex(int index) {
+  const bool exists = index >= 0 && static_cast<std::size_t>(index) < items_.Count();
+  item_index_ = exists ? index : -1;
+  ShowChoice();
+  if (exists) FireEvent(OnClick, this);
+}
+
+void TbsSkinRadioGroup::CaptionChanged() {
+  if (Widget() != nullptr) static_cast<QGroupBox*>(Widget())->setTitle(ToQt(Caption()));
+}
+
+QWidget* TbsSkinRadioGroup::FocusWidget() const {
+  if (Widget() == nullptr || buttons_.empty()) return nullptr;
+  return buttons_[static_cast<std::size_t>(std::max(item_index_, 0))];
+}
+
+void TbsSkinRadioGroup::ItemsChanged() {
+  if (Widget() == nullptr) return;
+  const QScopedValueRollback setting(setting_, true);
+  while (buttons_.size() > items_.Count()) {
+    delete buttons_.back();
+    buttons_.pop_back();
+  }
+  while (buttons_.size() < items_.Count()) {
+    auto* button = new QRadioButton(Widget());
+    group_->addButton(button, static_cast<int>(buttons_.size()));
+    buttons_.push_back(button);
+    WatchWidget(button);
+  }
+  for (std::size_t i = 0; i < buttons_.size(); ++i) buttons_[i]->setText(ToQt(items_[i]));
+  if (item_index_ >= static_cast<int>(buttons_.size())) item_index_ = -1;
+  NameButtons();
+  PlaceButtons();
+  ShowChoice();
+}
+
+void TbsSkinRadioGroup::PlaceButtons() {
+  if (Widget() == nullptr) return;
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    const int at = static_cast<int>(i);
+    grid_->addWidget(buttons_[i], at / columns_, at % columns_);
+  }
+}
+
+void TbsSkinRadioGroup::ShowChoice() {
+  if (Widget() == nullptr) return;
+  const QScopedValueRollback setting(setting_, true);
+  group_->setExclusive(false);
+  for (std::size_t i = 0; i < buttons_.size(); ++i)
+    buttons_[i]->setChecked(static_cast<int>(i) == item_index_);
+  group_->setExclusive(true);
+}
+
+void TbsSkinRadioGroup::NameButtons() {
+  if (Widget() == nullptr) return;
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    buttons_[i]->setObjectName(objectName() + QLatin1Char('_') + QString::number(i));
+  }
+}
