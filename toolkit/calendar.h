@@ -3,10 +3,11 @@
 #include "toolkit/control.h"
 #include "toolkit/conversion.h"
 
+class QCalendarWidget;
 class TCustomEdit;
 
 /// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when he picks it
-/// twice.
+/// by a double click or by Return.
 class TMonthCalendar : public TbsSkinControl {
   Q_OBJECT
 
@@ -20,9 +21,14 @@ class TMonthCalendar : public TbsSkinControl {
 
  protected:
   bool ClicksByMouse() const override { return false; }
+
+ private:
+  QCalendarWidget* Calendar() const;
+
+  bool setting_ = false;
 };
 
-/// Two arrow buttons that count the number in an edit up and down.
+/// Two arrow buttons that count the number in an edit up and down; they stop at the bounds.
 class TUpDown : public TbsSkinControl {
   Q_OBJECT
 
@@ -40,7 +46,12 @@ class TUpDown : public TbsSkinControl {
   /// Sets the number, brought within the bounds, and writes it to the edit.
   void SetPosition(int position);
 
+ protected:
+  QWidget* FocusWidget() const override { return nullptr; }
+  bool ClicksByMouse() const override { return false; }
+
  private:
+  TCustomEdit* Edit() const;
   void Step(int by);
 
   QPointer<QObject> edit_;

@@ -9,7 +9,9 @@ static constexpr int kNumberFormat = 4;
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 /// A number as it is written, its parts without sign, blanks and separators.
 struct TNumber {
@@ -36,7 +38,8 @@ std::optional<TNumber> ParseNumber(std::string_view text) {
   number.decimals = text.substr(std::min(point + 1, text.size()));
   const bool separated = !whole.empty() && (whole.front() == ',' || whole.back() == ',');
   const auto fits = [](char c) { return IsDigit(c) || c == ','; };
-  if (separated || !std::ranges::all_of(whole, fits) || !std::ranges::all_of(number.decimals, IsDigit)) return {};
+  if (separated || !std::ranges::all_of(whole, fits) || !std::ranges::all_of(number.decimals, IsDigit))
+    return {};
   std::ranges::copy_if(whole, std::back_inserter(number.whole), IsDigit);
   const std::size_t digits = number.whole.size() + number.decimals.size();
   if (digits == 0 || digits > kMostDigits) return {};

@@ -56,9 +56,8 @@ class TEdit : public TCustomEdit {
   explicit TEdit(TComponent* owner) : TCustomEdit(owner) {}
 };
 
-/// Kinds of characters that a KVX edit takes.
-/// Chinese: what takes two bytes in the code page, so also its full-width punctuation. Currency: digits and
-/// one point.
+/// Kinds of characters that a KVX edit takes. Chinese: what takes two bytes in the code page, so also its
+/// full-width punctuation. Currency: digits and one point.
 enum TKVXInputKind { ikAny, ikDigits, ikLettersDigitsChinese, ikCurrency };
 
 /// What may be typed into a KVX edit.
@@ -71,7 +70,7 @@ struct TKVXInputRule {
   int decimal_digits = 0;
 };
 
-/// A line of text with an input rule, what breaks it doesn't go in.
+/// A line of text with an input rule: what breaks it does not go in.
 class TKVXEdit : public TCustomEdit {
   Q_OBJECT
 
@@ -108,6 +107,9 @@ class TMemo : public TWinControl {
   void SetScrollBars(TScrollStyle style);
 
   TNotifyEvent OnChange;
+
+ protected:
+  bool WantsReturn() const override { return true; }
 
  private:
   QPlainTextEdit* Edit() const;

@@ -62,11 +62,13 @@ void TKVXCustomListView::GetDataVector(corvane::List& rows, int mode) const {
   for (const corvane::Property& record : records) rows.addProperty(record);
 }
 
-bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector& column_ids, int index) const {
+bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector& column_ids,
+                             int index) const {
   return Get(row, column_ids, index < 0 || index >= Items().Count() ? nullptr : Items()[index]);
 }
 
-bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector&, const TListItem* item) const {
+bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector&,
+                             const TListItem* item) const {
   const corvane::Property* record = item == nullptr ? nullptr : item->Data();
   if (record == nullptr) {
     row.clear();
@@ -92,9 +94,13 @@ void TKVXCustomListView::RefreshItem(const TListItem* item) {
   if (item != nullptr) Model()->Touch(item->Index());
 }
 
-void TKVXCustomListView::CheckAll() { Model()->CheckAll(true); }
+void TKVXCustomListView::CheckAll() {
+  Model()->CheckAll(true);
+}
 
-void TKVXCustomListView::UnCheckAll() { Model()->CheckAll(false); }
+void TKVXCustomListView::UnCheckAll() {
+  Model()->CheckAll(false);
+}
 
 int TKVXCustomListView::CheckedCount() const {
   int count = 0;
@@ -102,7 +108,9 @@ int TKVXCustomListView::CheckedCount() const {
   return count;
 }
 
-void TKVXCustomListView::DelItem(int index) { Items().Delete(index); }
+void TKVXCustomListView::DelItem(int index) {
+  Items().Delete(index);
+}
 
 void TKVXCustomListView::DelItems(const std::vector<int>& indexes) {
   const auto goes = [&](int index) { return std::ranges::binary_search(indexes, index); };
@@ -134,7 +142,8 @@ std::string TKVXCustomListView::GetTotalMoney(int column, bool checked_only) con
 }
 
 std::string TKVXCustomListView::SumText(int column) const {
-  return Columns()[column]->Tag() == kAmountFormat ? GroupNumber(GetTotalMoney(column + 1, false)) : std::string();
+  return Columns()[column]->Tag() == kAmountFormat ? GroupNumber(GetTotalMoney(column + 1, false))
+                                                   : std::string();
 }
 
 void TKVXCustomListView::SetShowSumRow(bool show) {

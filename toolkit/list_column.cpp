@@ -38,17 +38,19 @@ void TListColumn::SetTag(int tag) {
 }
 
 int TListColumn::Index() const {
-  const auto& columns = view_->columns_.columns_;
-  const auto here = std::ranges::find(columns, this, [](const auto& column) { return column.get(); });
-  return static_cast<int>(here - columns.begin());
+  const TListColumns& columns = view_->Columns();
+  int index = 0;
+  while (columns[index] != this) ++index;
+  return index;
 }
 
-void TListColumn::Changed() { view_->ShowColumn(Index()); }
+void TListColumn::Changed() {
+  view_->ShowColumn(Index());
+}
 
 TListColumn* TListColumns::Add() {
-  view_->Model()->ChangeColumns(Count(), Count(), true, [this] {
-    columns_.emplace_back(new TListColumn(view_, next_id_++));
-  });
+  view_->Model()->ChangeColumns(Count(), Count(), true,
+                                [this] { columns_.emplace_back(new TListColumn(view_, next_id_++)); });
   view_->ShowColumn(Count() - 1);
   return columns_.back().get();
 }

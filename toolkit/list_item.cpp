@@ -2,11 +2,17 @@
 
 #include "toolkit/list_model.h"
 
-std::string TListItem::Caption() const { return model_->Text(*row_, 0); }
+std::string TListItem::Caption() const {
+  return model_->Text(*row_, 0);
+}
 
-void TListItem::SetCaption(const std::string& caption) { model_->SetText(*row_, 0, caption); }
+void TListItem::SetCaption(const std::string& caption) {
+  model_->SetText(*row_, 0, caption);
+}
 
-std::string TListItem::SubItems(int index) const { return model_->Text(*row_, index + 1); }
+std::string TListItem::SubItems(int index) const {
+  return model_->Text(*row_, index + 1);
+}
 
 void TListItem::SetSubItems(int index, const std::string& text) {
   if (index < 0) throw std::out_of_range("no such sub-item");
@@ -19,13 +25,21 @@ int TListItem::SubItemCount() const {
   return texts == 0 ? 0 : static_cast<int>(texts) - 1;
 }
 
-void TListItem::AddSubItem(const std::string& text) { SetSubItems(SubItemCount(), text); }
+void TListItem::AddSubItem(const std::string& text) {
+  SetSubItems(SubItemCount(), text);
+}
 
-bool TListItem::Checked() const { return row_->checked; }
+bool TListItem::Checked() const {
+  return row_->checked;
+}
 
-void TListItem::SetChecked(bool checked) { model_->SetChecked(*row_, checked); }
+void TListItem::SetChecked(bool checked) {
+  model_->SetChecked(*row_, checked);
+}
 
-bool TListItem::Selected() const { return model_->View()->Selected() == this; }
+bool TListItem::Selected() const {
+  return model_->View()->Selected() == this;
+}
 
 void TListItem::SetSelected(bool selected) {
   if (selected) {
@@ -35,7 +49,9 @@ void TListItem::SetSelected(bool selected) {
   }
 }
 
-bool TListItem::Focused() const { return model_->View()->ItemFocused() == this; }
+bool TListItem::Focused() const {
+  return model_->View()->ItemFocused() == this;
+}
 
 void TListItem::SetFocused(bool focused) {
   if (focused) {
@@ -52,19 +68,33 @@ void TListItem::SetState(int index, bool on) {
   if (index == kSelected) SetSelected(on);
 }
 
-int TListItem::Index() const { return model_->IndexOf(row_); }
+int TListItem::Index() const {
+  return model_->IndexOf(row_);
+}
 
-corvane::Property* TListItem::Data() const { return row_->record ? &*row_->record : nullptr; }
+corvane::Property* TListItem::Data() const {
+  return row_->record ? &*row_->record : nullptr;
+}
 
-void TListItem::Delete() { model_->View()->Items().Delete(Index()); }
+void TListItem::Delete() {
+  model_->View()->Items().Delete(Index());
+}
 
-int TListItems::Count() const { return model_->Count(); }
+int TListItems::Count() const {
+  return model_->Count();
+}
 
-TListItem* TListItems::Item(int index) const { return &model_->Row(index).item; }
+TListItem* TListItems::Item(int index) const {
+  return &model_->Row(index).item;
+}
 
-TListItem* TListItems::Add() { return Insert(Count()); }
+TListItem* TListItems::Add() {
+  return Insert(Count());
+}
 
-TListItem* TListItems::Insert(int index) { return &model_->Insert(index).item; }
+TListItem* TListItems::Insert(int index) {
+  return &model_->Insert(index).item;
+}
 
 void TListItems::Delete(int index) {
   const TListItem* item = Item(index);
@@ -74,4 +104,6 @@ void TListItems::Delete(int index) {
   model_->Delete(index);
 }
 
-void TListItems::Clear() { model_->View()->Clear(); }
+void TListItems::Clear() {
+  model_->View()->Clear();
+}

@@ -12,7 +12,7 @@ static constexpr int kRightTextFormat = 5;
 
 static Qt::Alignment ToQtAlignment(const TListColumn& column) {
   const bool right = column.Alignment() == taRightJustify || column.Tag() == kRightTextFormat;
-  const Qt::Alignment across = right                               ? Qt::AlignRight
+  const Qt::Alignment across = right                            ? Qt::AlignRight
                                : column.Alignment() == taCenter ? Qt::AlignHCenter
                                                                 : Qt::AlignLeft;
   return across | Qt::AlignVCenter;
@@ -153,7 +153,9 @@ void TListModel::TouchAll() {
   if (!rows_.empty()) Q_EMIT dataChanged(index(0, 0), index(Count() - 1, columnCount() - 1));
 }
 
-int TListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : Count(); }
+int TListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : Count();
+}
 
 int TListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : view_->Columns().Count();

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -62,7 +63,8 @@ class TListSumBar : public QWidget {
     for (int column = 0; column < texts_.size(); ++column) {
       if (tree_->isColumnHidden(column)) continue;
       const QRect cell(tree_->columnViewportPosition(column), 0, tree_->columnWidth(column), height());
-      painter.drawText(cell.adjusted(kTextRoom, 0, -kTextRoom, 0), Qt::AlignRight | Qt::AlignVCenter, texts_[column]);
+      painter.drawText(cell.adjusted(kTextRoom, 0, -kTextRoom, 0), Qt::AlignRight | Qt::AlignVCenter,
+                       texts_[column]);
     }
   }
 
@@ -153,12 +155,13 @@ bool TListTree::viewportEvent(QEvent* event) {
   const QString text = index.data().toString();
   const bool cut = index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
   if (!cut) return QTreeView::viewportEvent(event);
-  QToolTip::showText(help->globalPos(), QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>"),
-                     this);
+  QToolTip::showText(help->globalPos(),
+                     QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>"), this);
   return true;
 }
 
-void TListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+void TListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
   QTreeView::drawRow(painter, option, index);
   if (!grid_lines_) return;
   painter->save();

@@ -35,14 +35,18 @@ TCustomListView::~TCustomListView() {
   delete model_;
 }
 
-TListTree* TCustomListView::Tree() const { return static_cast<TListTree*>(Widget()); }
+TListTree* TCustomListView::Tree() const {
+  return static_cast<TListTree*>(Widget());
+}
 
 TListItem* TCustomListView::Selected() const {
   const int index = ItemIndex();
   return index < 0 ? nullptr : &model_->Row(index).item;
 }
 
-void TCustomListView::SetSelected(TListItem* item) { SetItemIndex(item == nullptr ? -1 : item->Index()); }
+void TCustomListView::SetSelected(TListItem* item) {
+  SetItemIndex(item == nullptr ? -1 : item->Index());
+}
 
 int TCustomListView::ItemIndex() const {
   if (Tree() == nullptr) return -1;
@@ -129,7 +133,9 @@ void TCustomListView::TreeMouse(QMouseEvent* event) {
   if (Tree() != nullptr) TbsSkinControl::WidgetEvent(Tree()->viewport(), event);
 }
 
-void TCustomListView::UserChecked(TListItem* item) { FireEvent(OnItemCheck, this, item); }
+void TCustomListView::UserChecked(TListItem* item) {
+  FireEvent(OnItemCheck, this, item);
+}
 
 void TCustomListView::ReportSelection(int row, bool selected) {
   if (row < model_->Count()) FireEvent(OnSelectItem, this, &model_->Row(row).item, selected);
@@ -140,7 +146,8 @@ void TCustomListView::ConnectHeader() {
   header->setMinimumSectionSize(kLeastDraggedWidth);
   connect(header, &QHeaderView::sectionResized, this,
           [this](int index, int, int width) { SectionResized(index, width); });
-  connect(header, &QHeaderView::sectionMoved, this, [this](int, int from, int to) { SectionMoved(from, to); });
+  connect(header, &QHeaderView::sectionMoved, this,
+          [this](int, int from, int to) { SectionMoved(from, to); });
 }
 
 void TCustomListView::ShowColumn(int index) {

@@ -148,10 +148,10 @@ class TListItems {
 
 enum TViewStyle { vsIcon, vsSmallIcon, vsList, vsReport };
 
-/// A list of rows in columns with a check box for each row, of which one or none is selected. OnItemCheck runs
-/// when the user ticks or unticks a row, on its box or with the space key. OnSelectItem runs also when the
-/// selection is changed by code, for the row that loses it first, and before a selected row is deleted. Mouse
-/// events run when the list has done what the mouse asks for, so OnMouseUp sees the new tick.
+/// A list of rows in columns with a check box for each row, of which one or none is selected. OnItemCheck
+/// runs when the user ticks or unticks a row, on its box or with the space key. OnSelectItem runs also when
+/// the selection is changed by code, for the row that loses it first, and before a selected row is deleted.
+/// Mouse events run when the list has done what the mouse asks for, so OnMouseUp sees the new tick.
 class TCustomListView : public TbsSkinControl {
   Q_OBJECT
 
@@ -258,8 +258,9 @@ class TKVXCustomListView : public TCustomListView {
   /// Appends a row for each record, with all its fields. column_ids are the fields that the columns show,
   /// joined with "; "; they become ColumnIds unless the text is empty.
   void Add(const corvane::List& rows, const std::string& column_ids);
-  /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected one, 0 all, in list order. Where
-  /// the records differ in fields, each row gets what it lacks, empty, since rows of a list have equal columns.
+  /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected one, 0 all, in list order.
+  /// Where the records differ in fields, each row gets what it lacks, empty, since rows of a list have equal
+  /// columns.
   void GetDataVector(corvane::List& rows, int mode) const;
   /// Copies the record of a row with all its fields; the column ids choose nothing. False, and an emptied
   /// record, when there is no such row.
@@ -267,8 +268,8 @@ class TKVXCustomListView : public TCustomListView {
   bool Get(corvane::Property& row, const corvane::StringVector& column_ids, const TListItem* item) const;
   /// Replaces the record of a row and repaints it; a null item changes nothing.
   void Modify(const corvane::Property& row, const corvane::StringVector& column_ids, TListItem* item);
-  /// The record of a row, null when the item is null or has none; the view owns it. What is changed in it shows
-  /// at the next repaint, which follows by itself.
+  /// The record of a row, null when the item is null or has none; the view owns it. What is changed in it
+  /// shows at the next repaint, which follows by itself.
   corvane::Property* PropertyOf(const TListItem* item) const;
   /// Repaints a row whose record was changed in place.
   void RefreshItem(const TListItem* item);
@@ -281,9 +282,9 @@ class TKVXCustomListView : public TCustomListView {
   void DelItem(int index);
   /// Removes the rows at ascending indexes in one pass; an index out of range removes nothing.
   void DelItems(const std::vector<int>& indexes);
-  /// Sum of a column, counted from 1, over all rows or the ticked ones, as plain text with two decimals: exact,
-  /// decimals behind the second of a cell are left out, and cells that are no number add nothing. Empty when
-  /// there is no such column.
+  /// Sum of a column, counted from 1, over all rows or the ticked ones, as plain text with two decimals:
+  /// exact, decimals behind the second of a cell are left out, and cells that are no number add nothing.
+  /// Empty when there is no such column.
   std::string GetTotalMoney(int column, bool checked_only) const;
   /// The list view's own sum row, off at the start; on, the sum of each amount column shows below the list.
   bool ShowSumRow() const { return show_sum_row_; }

@@ -19,28 +19,29 @@ class TTreeNode : public TObject {
   Q_OBJECT
 
  public:
-  ~TTreeNode() override;
-  std::string Text() const;
+  std::string Text() const { return text_; }
   void SetText(const std::string& text);
+  /// The nodes right below, in order.
   int Count() const { return static_cast<int>(children_.size()); }
-  TTreeNode* Items(int index) const { return children_.at(static_cast<std::size_t>(index)); }
+  /// std::out_of_range when there is none.
+  TTreeNode* Items(int index) const { return children_.at(static_cast<std::size_t>(index)).get(); }
   TTreeNode* Parent() const { return parent_; }
   bool Expanded() const;
+  /// Shows the nodes below, with recurse down to the last.
   void Expand(bool recurse);
 
  protected:
   friend class TCustomTreeView;
-  friend class TKVXTreeView;
-  TTreeNode(TCustomTreeView* tree, TTreeNode* parent);
+  explicit TTreeNode(TTreeNode* parent) : parent_(parent) {}
 
  private:
-  TCustomTreeView* tree_;
   TTreeNode* parent_;
-  QTreeWidgetItem* item_;
-  std::vector<TTreeNode*> children_;
+  QTreeWidgetItem* item_ = nullptr;
+  std::string text_;
+  std::vector<std::unique_ptr<TTreeNode>> children_;
 };
 
-/// A tree of texts.
+/// A tree of texts; they can be read, not edited in place.
 class TCustomTreeView : public TbsSkinControl {
   Q_OBJECT
 
@@ -48,21 +49,23 @@ class TCustomTreeView : public TbsSkinControl {
   ~TCustomTreeView() override;
   /// The roots, in order.
   int RootCount() const { return static_cast<int>(roots_.size()); }
-  TTreeNode* Roots(int index) const { return roots_.at(static_cast<std::size_t>(index)); }
+  /// std::out_of_range when there is none.
+  TTreeNode* Roots(int index) const { return roots_.at(static_cast<std::size_t>(index)).get(); }
   /// Appends a root (parent null) or a child.
   TTreeNode* Add(TTreeNode* parent, const std::string& text);
+  /// The selected node, null: none.
   TTreeNode* Selected() const;
   void Clear();
   void ExpandAll();
 
  protected:
   explicit TCustomTreeView(TComponent* owner);
-  void FontChanged() override;
   QTreeWidget* Tree() const;
+  /// Takes a new node as the last one below its parent, or as the last root.
+  TTreeNode* Adopt(std::unique_ptr<TTreeNode> node, const std::string& text);
 
  private:
-  friend class TTreeNode;
-  std::vector<TTreeNode*> roots_;
+  std::vector<std::unique_ptr<TTreeNode>> roots_;
 };
 
 /// A node with a record: its field Name is the text, Key the identity.
@@ -75,7 +78,7 @@ class TKVXTreeNode : public TTreeNode {
 
  private:
   friend class TKVXTreeView;
-  TKVXTreeNode(TCustomTreeView* tree, TTreeNode* parent, const corvane::Property& data);
+  TKVXTreeNode(TTreeNode* parent, const corvane::Property& data);
   std::unique_ptr<corvane::Property> data_;
 };
 
@@ -84,10 +87,10 @@ class TKVXTreeView : public TCustomTreeView {
   Q_OBJECT
 
  public:
-  explicit TKVXTreeView(TComponent* owner);
+  explicit TKVXTreeView(TComponent* owner) : TCustomTreeView(owner) {}
   /// Empties the tree and makes its root from a record; options are kept by nobody and may be empty.
   TKVXTreeNode* CreateRoot(const corvane::Property& data, const corvane::Property& options);
-  /// The record node that stands behind a node of this tree.
+  /// The record node that stands behind a node of this tree, null when it has no record.
   TKVXTreeNode* AllocateDataNode(TTreeNode* node) const;
   /// Appends a child made from a record; a null parent appends it to the root, or makes the root.
   TKVXTreeNode* AddChildNode(TKVXTreeNode* parent, const corvane::Property& data,

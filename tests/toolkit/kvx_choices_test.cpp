@@ -1,0 +1,158 @@
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QRadioButton>
+
+#include "data/row.h"
+#include "data/string_vector.h"
+#include "tests/toolkit/kvx_fixture.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/list_box.h"
+#include "toolkit/radio_group.h"
+#include "toolkit/text.h"
+
+namespace {
+
+class KvxChoicesTest : public KvxTest {
+ protected:
+  void SetUp() override {
+    KvxTest::SetUp();
+    combo = Put<TKVXComboBox>("m_cbxType");
+    box = form->Widget()->findChild<QComboBox*>("m_cbxType");
+    ASSERT_NE(box, nullptr);
+    combo->OnChange = Count(changes);
+  }
+
+  void Fill() {
+    corvane::Row row;
+    row["AC02"] = Ansi("商业承兑汇票");
+    row["-9999"] = Ansi("全部");
+    row["AC01"] = Ansi("银行承兑汇票");
+    combo->Init(row);
+  }
+
+  TKVXComboBox* combo = nullptr;
+  QComboBox* box = nullptr;
+  int changes = 0;
+};
+
+}  // namespace
+
+TEST_F(KvxChoicesTest, InitFollowsTheKeysAndChoosesNothing) {
+  Fill();
+  EXPECT_EQ(combo->ItemIndex(), -1);
+  EXPECT_EQ(combo->GetKey(), "");
+  EXPECT_EQ(combo->FindKeyIndex("AC02"), 2);
+  EXPECT_EQ(combo->FindKeyIndex("AC03"), -1);
+  EXPECT_EQ(box->count(), 3);
+  EXPECT_EQ(box->itemText(1), QString::fromUtf8("银行承兑汇票"));
+  combo->SetItemIndex(0);
+  EXPECT_EQ(combo->GetKey(), "-9999");
+  EXPECT_EQ(combo->Text(), Ansi("全部"));
+  combo->SetItemIndex(3);
+  EXPECT_EQ(combo->ItemIndex(), -1);
+  EXPECT_EQ(changes, 0);
+  combo->Clear();
+  EXPECT_EQ(combo->Keys().Count() + combo->Names().Count() + combo->Items().Count(), 0U);
+}
+
+TEST_F(KvxChoicesTest, OnlyTheUsersPickRunsOnChange) {
+  Fill();
+  combo->SetItemIndex(0);
+  QTest::keyClick(box, Qt::Key_Down);
+  EXPECT_EQ(combo->GetKey(), "AC01");
+  EXPECT_EQ(changes, 1);
+  combo->OnChange = [&](TObject*) {
+    ++changes;
+    combo->SetItemIndex(0);
+  };
+  QTest::keyClick(box, Qt::Key_Down);
+  EXPECT_EQ(combo->GetKey(), "-9999");
+  EXPECT_EQ(changes, 2);
+  Q_EMIT box->activated(0);
+  EXPECT_EQ(changes, 3) << "picking the same entry again is a pick";
+}
+
+TEST_F(KvxChoicesTest, TheChoiceStaysWithItsEntry) {
+  Fill();
+  combo->SetItemIndex(1);
+  combo->Items().Insert(0, "first");
+  combo->Keys().Insert(0, "first");
+  EXPECT_EQ(combo->GetKey(), "AC01");
+  combo->Items().SetStrings(2, "changed");
+  EXPECT_EQ(combo->Text(), "changed");
+  EXPECT_EQ(box->currentText(), "changed");
+  combo->Items().Delete(2);
+  EXPECT_EQ(combo->ItemIndex(), -1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(KvxChoicesTest, ALongEntryIsShownWholeInItsHint) {
+  combo->Items().Add(std::string(200, 'a') + "<b>");
+  combo->SetItemIndex(0);
+  EXPECT_LT(box->sizeHint().width(), 300);
+  EXPECT_TRUE(box->itemData(0, Qt::ToolTipRole).toString().contains("a&lt;b&gt;"));
+}
+
+TEST_F(KvxChoicesTest, TheWheelOverAPanelPicksNothing) {
+  Fill();
+  combo->SetItemIndex(0);
+  QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  box->clearFocus();
+  QCoreApplication::sendEvent(box, &wheel);
+  EXPECT_EQ(combo->ItemIndex(), 0);
+}
+
+TEST_F(KvxChoicesTest, ListBoxGivesTheSelectedKeysInOrder) {
+  auto* list = Put<TKVXListBox>("m_lbxAgentStt");
+  auto* view = form->Widget()->findChild<QAbstractItemView*>("m_lbxAgentStt");
+  ASSERT_NE(view, nullptr);
+  int clicks = 0;
+  list->OnClick = Count(clicks);
+  for (const char* key : {"02", "03", "07", "D0"}) {
+    list->Keys().Add(key);
+    list->Items().Add(std::string("state ") + key);
+    if (std::string(key) != "03") list->SetSelected(static_cast<int>(list->Items().Count()) - 1, true);
+  }
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(list->GetSelectedKeys(), (corvane::StringVector{"02", "07", "D0"}));
+  const auto click = [&](int row) {
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(row, 0)).center());
+  };
+  click(1);
+  click(0);
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(list->GetSelectedKeys(), (corvane::StringVector{"03", "07", "D0"}));
+  EXPECT_EQ(list->SelCount(), 3);
+  list->Items().SetStrings(1, "changed");
+  EXPECT_TRUE(list->Selected(1));
+  EXPECT_FALSE(list->Selected(4));
+  list->Clear();
+  EXPECT_EQ(list->SelCount(), 0);
+}
+
+TEST_F(KvxChoicesTest, RadioGroupRunsOnClickForCodeAndUser) {
+  auto* group = Put<TbsSkinRadioGroup>("m_rgSelDate");
+  int clicks = 0;
+  group->OnClick = Count(clicks);
+  group->SetColumns(5);
+  group->Items().Assign({"day", "week", "month", "last month", "other"});
+  EXPECT_EQ(group->ItemIndex(), -1);
+  group->SetItemIndex(4);
+  group->SetItemIndex(4);
+  EXPECT_EQ(clicks, 2);
+  group->SetItemIndex(9);
+  EXPECT_EQ(group->ItemIndex(), -1);
+  EXPECT_EQ(clicks, 2);
+  auto* week = form->Widget()->findChild<QRadioButton*>("m_rgSelDate_1");
+  ASSERT_NE(week, nullptr);
+  week->click();
+  EXPECT_EQ(group->ItemIndex(), 1);
+  EXPECT_EQ(clicks, 3);
+  group->Items().SetStrings(1, "this week");
+  EXPECT_EQ(week->text(), "this week");
+  EXPECT_TRUE(week->isChecked());
+  group->Items().Assign({"day"});
+  EXPECT_EQ(group->ItemIndex(), -1);
+}
