@@ -6,9 +6,7 @@ namespace corvane {
 namespace {
 
 bool IsAscii(std::string_view text) {
-  for (const char byte : text)
-    if (static_cast<signed char>(byte) < 0) return false;
-  return true;
+  return norvik::AsciiRun(text) == text.size();
 }
 
 }  // namespace

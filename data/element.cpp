@@ -69,7 +69,9 @@ const AttributeMap& Element::attributes() const {
 }
 
 bool Element::hasExtra() const {
-  return attributes_ || encoding_.text() != DefaultEncoding().text();
+  if (attributes_) return true;
+  const Label& plain = DefaultEncoding();
+  return !encoding_.sharedWith(plain) && encoding() != plain.text();
 }
 
 void Element::swapElement(Element& other) noexcept {

@@ -6,16 +6,12 @@ Label::Label(std::string_view text) {
   assign(text);
 }
 
-const std::string& Label::text() const {
-  static const std::string empty;
-  return text_ ? text_->value : empty;
-}
+const std::string Label::kEmpty;
 
 void Label::assign(std::string_view text) {
   if (text == this->text()) return;
-  Shared<Text> fresh(new Text);
-  fresh->value = text;
-  text_ = std::move(fresh);
+  if (!text_ || !text_->unique()) text_ = Shared<Text>(new Text);
+  text_->value = text;
 }
 
 }  // namespace corvane

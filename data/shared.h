@@ -79,11 +79,14 @@ class Label {
   explicit Label(std::string_view text);
 
   // The text; empty for a default label.
-  const std::string& text() const;
+  const std::string& text() const { return text_ ? text_->value : kEmpty; }
   // Takes `text`; costs nothing where it is the text already.
   void assign(std::string_view text);
+  // True for labels that share their text; equal texts may be shared or not.
+  bool sharedWith(const Label& other) const { return text_.get() == other.text_.get(); }
 
  private:
+  static const std::string kEmpty;
   struct Text : Counted<Text> {
     std::string value;
   };

@@ -8,12 +8,6 @@
 namespace corvane {
 namespace {
 
-bool IsAscii(std::string_view text) {
-  for (const char byte : text)
-    if (byte < 0) return false;
-  return true;
-}
-
 // Turns the reader's events into narrow text for a handler.
 class NarrowEvents : public norvik::XmlEvents {
  public:
@@ -32,7 +26,7 @@ class NarrowEvents : public norvik::XmlEvents {
 
  private:
   std::string_view Narrow(std::string_view text) {
-    if (IsAscii(text)) return text;
+    if (norvik::AsciiRun(text) == text.size()) return text;
     narrow_.clear();
     norvik::AppendAnsiFromUtf8(text, narrow_);
     return narrow_;

@@ -137,7 +137,7 @@ void XmlWriter::Declare(const AttributeMap& attributes) {
 }
 
 void XmlWriter::CheckName(std::string_view name, const char* key) {
-  const bool ascii = std::none_of(name.begin(), name.end(), [](char byte) { return byte < 0; });
+  const bool ascii = norvik::AsciiRun(name) == name.size();
   if (!norvik::IsXmlName(ascii ? name : norvik::Utf8FromAnsi(name))) throw TException(key);
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <atomic>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <map>
@@ -167,18 +168,6 @@ Utf8Character Utf8At(std::string_view text, std::size_t at) {
   return {value, size, true};
 }
 
-// The length of the leading run of ASCII bytes, at most `size`.
-std::size_t AsciiRun(const char* text, std::size_t size) {
-  std::size_t at = 0;
-  for (; at + 8 <= size; at += 8) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, text + at, sizeof word);
-    if (word & 0x8080808080808080U) break;
-  }
-  while (at < size && static_cast<signed char>(text[at]) >= 0) ++at;
-  return at;
-}
-
 // The code of the character at `at` and its bytes; code 0 where a byte of 0x80 or above starts none.
 struct AnsiCode {
   unsigned code;
@@ -303,7 +292,7 @@ std::string AnsiFromUtf8(std::string_view utf8) {
 void AppendAnsiFromUtf8(std::string_view utf8, std::string& out) {
   const CodePage* page = TablesFor(0);
   for (std::size_t at = 0; at < utf8.size();) {
-    const std::size_t plain = AsciiRun(utf8.data() + at, utf8.size() - at);
+    const std::size_t plain = AsciiRun(utf8.substr(at));
     out.append(utf8.data() + at, plain);
     at += plain;
     while (at < utf8.size() && static_cast<signed char>(utf8[at]) < 0) {
@@ -325,7 +314,7 @@ std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t lim
   if (!page) return DecodeValidUtf8(text, at, end, out);
   char* to = out;
   while (at < end) {
-    const std::size_t plain = AsciiRun(text.data() + at, end - at);
+    const std::size_t plain = AsciiRun(text.substr(at, end - at));
     std::memcpy(to, text.data() + at, plain);
     to += plain;
     at += plain;
@@ -341,6 +330,18 @@ std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t lim
     }
   }
   return static_cast<std::size_t>(to - out);
+}
+
+std::size_t AsciiRun(std::string_view text) {
+  std::size_t at = 0;
+  for (; at + 8 <= text.size(); at += 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + at, sizeof word);
+    word &= 0x8080808080808080U;
+    if (word != 0) return at + static_cast<std::size_t>(std::countr_zero(word)) / 8;
+  }
+  while (at < text.size() && static_cast<signed char>(text[at]) >= 0) ++at;
+  return at;
 }
 
 bool IsLeadByte(unsigned char byte) {

@@ -40,6 +40,9 @@ void AppendAnsiFromUtf8(std::string_view utf8, std::string& out);
 // (limit + 1).
 std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t limit, char* out);
 
+// Bytes of the run of ASCII at the beginning of `text`.
+std::size_t AsciiRun(std::string_view text);
+
 // True for a byte that opens a two-byte character of the ANSI code page.
 bool IsLeadByte(unsigned char byte);
 
