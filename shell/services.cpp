@@ -1,5 +1,6 @@
 // The module-wide service pointers. InitModule sets them, Release clears them; both run on the user-interface
 // thread, as does everybody who reads them.
+#include "dialogs/bank_info.h"
 #include "host/error.h"
 #include "host/excel.h"
 #include "host/print.h"
@@ -13,3 +14,4 @@ ErrorIntf* g_pError = nullptr;
 PrintIntf* g_pPrint = nullptr;
 SafeComIntf* g_pSafeCom = nullptr;
 ExcelIntf* g_pExcel = nullptr;
+TBankInfo* g_pBankInfo = nullptr;

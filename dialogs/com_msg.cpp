@@ -1,0 +1,130 @@
+#include "dialogs/com_msg.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dialogs/font_fit.h"
+#include "toolkit/application.h"
+
+namespace {
+
+// The design, in pixels; a full line of the text is 44 bytes, 22 full-width characters.
+constexpr int kWidth = 352;
+constexpr int kHeight = 121;
+constexpr int kTextLeft = 68;
+constexpr int kTextTop = 20;
+constexpr int kTextWidth = 264;
+constexpr int kTextHeight = 42;
+constexpr int kTextRight = kWidth - kTextLeft - kTextWidth;
+constexpr int kButtonTop = 88;
+constexpr int kButtonWidth = 75;
+constexpr int kButtonHeight = 19;
+constexpr int kButtonGap = 20;
+constexpr int kButtonLift = 5;
+
+constexpr int kBytesInLine = 44;
+constexpr int kLineHeight = 14;
+
+// What tells the three modes apart; an empty caption hides the right button.
+struct ModeDesign {
+  const char* form;
+  const char* leftButton;
+  const char* rightButton;
+  int icon;
+};
+
+const ModeDesign& DesignOf(TMessageMode mode) {
+  static constexpr ModeDesign designs[] = {
+      {"UI12013", "UI12002", "", 1}, {"UI12014", "UI12002", "", 0}, {"UI12015", "UI12016", "UI12017", 2}};
+  return designs[static_cast<std::size_t>(mode)];
+}
+
+}  // namespace
+
+TFrmComMsg::TFrmComMsg(TComponent* owner, std::string text, TMessageMode mode)
+    : TBaseForm(owner), m_text(std::move(text)), m_mode(mode) {}
+
+int TFrmComMsg::ExtraHeight(const std::string& text) {
+  const std::size_t lines = text.size() / kBytesInLine + 1 + corvane::StringVector(text, "\r\n", true).size();
+  const int most = Screen->Height() / 2;  // a text without end leaves the buttons on the screen
+  return std::clamp(static_cast<int>(std::min<std::size_t>(lines, 10000)) * kLineHeight - 42, 0, most);
+}
+
+void TFrmComMsg::BuildControls() {
+  TBaseForm::BuildControls();
+  m_Img = NewComponent<TImage>(this, "m_Img");
+  m_lblInfo = NewComponent<TLabel>(this, "m_lblInfo");
+  m_imgList = NewComponent<TImageList>(this, "m_imgList");
+  m_btnOk = NewComponent<TbsSkinButton>(this, "m_btnOk");
+  m_btnNo = NewComponent<TbsSkinButton>(this, "m_btnNo");
+  for (TControl* control : {static_cast<TControl*>(m_Img), static_cast<TControl*>(m_lblInfo),
+                            static_cast<TControl*>(m_btnOk), static_cast<TControl*>(m_btnNo)}) {
+    control->SetParent(this);
+  }
+  m_imgList->SetSize(32);
+  for (const TStockImage icon : {siWarning, siInformation, siQuestion}) m_imgList->Add(icon);
+  SetBorderStyle(bsDialog);
+  SetFormStyle(fsStayOnTop);
+  SetPosition(poOwnerFormCenter);
+  m_Img->SetBounds(20, 18, 32, 32);
+  m_lblInfo->SetBounds(kTextLeft, kTextTop, kTextWidth, kTextHeight);
+  m_lblInfo->SetWordWrap(true);
+  m_lblInfo->SetLayout(tlTop);
+  m_btnOk->SetBounds(0, kButtonTop, kButtonWidth, kButtonHeight);
+  m_btnNo->SetBounds(0, kButtonTop, kButtonWidth, kButtonHeight);
+  m_btnOk->OnClick = [this](TObject* sender) { m_btnOkClick(sender); };
+  m_btnNo->OnClick = [this](TObject* sender) { m_btnNoClick(sender); };
+}
+
+void TFrmComMsg::SetCaptions() {
+  const ModeDesign& design = DesignOf(m_mode);
+  SetCaption(design.form);
+  m_btnOk->SetCaption(design.leftButton);
+  m_btnNo->SetCaption(design.rightButton);
+  m_btnNo->SetVisible(design.rightButton[0] != '\0');
+  m_Img->SetPicture(m_imgList, design.icon, 32);
+}
+
+void TFrmComMsg::Construct() {
+  TBaseForm::Construct();
+  m_lblInfo->SetCaption(m_text);
+  m_lblInfo->SetHeight(kTextHeight + ExtraHeight(m_text));
+  Arrange();
+}
+
+void TFrmComMsg::ResetForm() {
+  TBaseForm::ResetForm();
+  FitToFont();
+  SetDefaultButton(m_btnOk);
+  SetCancelButton(m_btnNo->Visible() ? m_btnNo : m_btnOk);
+  SetActiveControl(m_btnOk);
+}
+
+// The designed size holds for the smallest font; a larger one widens the text and pushes the buttons down.
+void TFrmComMsg::FitToFont() {
+  m_lblInfo->SetWidth(TextWidth(*m_lblInfo, kBytesInLine / 2, kTextWidth));
+  m_lblInfo->SetHeight(TextHeight(*m_lblInfo, m_text, m_lblInfo->Width(), m_lblInfo->Height()));
+  for (TbsSkinButton* button : {m_btnOk, m_btnNo}) FitButton(*button, kButtonWidth, kButtonHeight);
+  Arrange();
+}
+
+// The buttons stand below the text: one in the middle, two there as a group.
+void TFrmComMsg::Arrange() {
+  const int extra = m_lblInfo->Height() - kTextHeight;
+  SetWidth(kTextLeft + m_lblInfo->Width() + kTextRight);
+  SetHeight(kHeight + extra + m_btnOk->Height() - kButtonHeight);
+  const int group = m_btnOk->Width() + (m_btnNo->Visible() ? kButtonGap + m_btnNo->Width() : 0);
+  m_btnOk->SetLeft((ClientWidth() - group) / 2);
+  m_btnNo->SetLeft(m_btnOk->Left() + m_btnOk->Width() + kButtonGap);
+  for (TbsSkinButton* button : {m_btnOk, m_btnNo}) button->SetTop(kButtonTop + extra - kButtonLift);
+}
+
+void TFrmComMsg::m_btnOkClick(TObject*) {
+  SetTag(kConfirmed);
+  Close();
+}
+
+void TFrmComMsg::m_btnNoClick(TObject*) {
+  SetTag(0);
+  Close();
+}

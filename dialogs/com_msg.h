@@ -1,0 +1,47 @@
+// The form behind ShowInfoMsg, ShowWarnMsg and ShowConfirmMsg.
+#pragma once
+
+#include <string>
+
+#include "framework/base_form.h"
+#include "toolkit/buttons.h"
+#include "toolkit/image_list.h"
+#include "toolkit/labels.h"
+
+enum class TMessageMode { kInformation = 0, kWarning = 1, kQuestion = 2 };
+
+// Tag is the user's answer: kConfirmed once m_btnOk was pressed, otherwise 0.
+class TFrmComMsg : public TBaseForm {
+  Q_OBJECT
+
+ public:
+  static constexpr int kConfirmed = 1;
+
+  TFrmComMsg(TComponent* owner, std::string text, TMessageMode mode);
+
+  void BuildControls() override;
+  void SetCaptions() override;
+  void Construct() override;
+  void PreInitHook1() override {}
+  void PreInitHook2() override {}
+  void ResetForm() override;
+
+  // Pixels that a text adds to the designed height: 14 for each of its bytes' 44 and each of its lines,
+  // less 42.
+  static int ExtraHeight(const std::string& text);
+
+  TImage* m_Img = nullptr;
+  TLabel* m_lblInfo = nullptr;
+  TImageList* m_imgList = nullptr;
+  TbsSkinButton* m_btnOk = nullptr;
+  TbsSkinButton* m_btnNo = nullptr;
+
+ private:
+  void m_btnOkClick(TObject* sender);
+  void m_btnNoClick(TObject* sender);
+  void FitToFont();
+  void Arrange();
+
+  const std::string m_text;
+  const TMessageMode m_mode;
+};

@@ -1,0 +1,44 @@
+// The form behind ShowErrorMsg: a summary, and below it a pane with the whole text that opens and closes.
+#pragma once
+
+#include <string>
+
+#include "framework/base_form.h"
+#include "toolkit/buttons.h"
+#include "toolkit/edits.h"
+#include "toolkit/labels.h"
+
+class TFrmErrorMsg : public TBaseForm {
+  Q_OBJECT
+
+ public:
+  TFrmErrorMsg(TComponent* owner, std::string summary, std::string detail);
+
+  void BuildControls() override;
+  void SetCaptions() override;
+  void Construct() override;
+  void PreInitHook1() override {}
+  void PreInitHook2() override {}
+  void ResetForm() override;
+
+  TImage* m_img = nullptr;
+  TLabel* m_lblInfo = nullptr;
+  TBevel* Bevel1 = nullptr;
+  TbsSkinButton* m_btnMail = nullptr;  // hidden
+  TbsSkinButton* m_btnCopy = nullptr;  // shown with the pane
+  TbsSkinButton* m_btnDetail = nullptr;
+  TbsSkinButton* m_btnOK = nullptr;
+  TMemo* m_memo = nullptr;
+  bool m_detailShown = false;
+
+ private:
+  void m_btnDetailClick(TObject* sender);
+  void m_btnCopyClick(TObject* sender);
+  void m_memoChange(TObject* sender);
+  void ShowDetail(bool shown);
+  void FitToFont();
+  void Arrange();
+
+  const std::string m_summary;
+  const std::string m_detail;
+};

@@ -1,0 +1,40 @@
+#include "dialogs/font_fit.h"
+
+#include <QFontMetrics>
+#include <algorithm>
+
+#include "toolkit/application.h"
+#include "toolkit/buttons.h"
+#include "toolkit/text.h"
+
+namespace {
+
+constexpr QChar kFullWidth(0x56fd);
+constexpr int kLongestMeasured = 8000;  // characters
+constexpr int kButtonSide = 16;         // room left and right of a button's caption, pixels
+constexpr int kButtonFrame = 7;         // room above and below together, pixels
+
+QFontMetrics MetricsOf(const TControl& control) {
+  return QFontMetrics(control.Widget()->font());
+}
+
+}  // namespace
+
+int TextWidth(const TControl& control, int characters, int least) {
+  const int wanted = MetricsOf(control).horizontalAdvance(kFullWidth) * characters;
+  return std::max(least, std::min(wanted, Screen->Width() * 7 / 10));
+}
+
+int TextHeight(const TControl& control, const std::string& text, int width, int least) {
+  const QString shown = ToQt(text).left(kLongestMeasured);
+  const QRect room(0, 0, width, Screen->Height() * 4);
+  const int needed = MetricsOf(control).boundingRect(room, Qt::TextWordWrap, shown).height();
+  return std::min(std::max(least, needed), Screen->Height() / 2);
+}
+
+void FitButton(TbsSkinButton& button, int leastWidth, int leastHeight) {
+  const QFontInfo font(button.Widget()->font());
+  button.SetWidth(
+      std::max(leastWidth, MetricsOf(button).horizontalAdvance(ToQt(button.Caption())) + 2 * kButtonSide));
+  button.SetHeight(std::max(leastHeight, font.pixelSize() + kButtonFrame));
+}

@@ -1,0 +1,98 @@
+// The root of the module's forms. A form does not list its controls: each is translated, skinned and given
+// the host's font and input method because of the properties that it publishes.
+//
+// 1. Made by CreateForm: BuildControls makes the controls, SetCaptions gives them their keys, Construct is
+// the rest. A
+//    descendant's BuildControls, SetCaptions (where it has one to call) and Construct call their base's
+//    first.
+// 2. Everything comes from g_pPubInfo and g_pTranslate at each show; a failing read goes up as their
+// exception and
+//    leaves that show unfinished.
+// 3. User-interface thread only. A message to the host returns when the host has answered it, and the host
+// may call the
+//    form from within; the form is consistent before it sends.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "data/corvane.h"
+#include "toolkit/date_edit.h"
+#include "toolkit/form.h"
+#include "toolkit/skin.h"
+
+// Messages between a form and the host's main window.
+inline constexpr std::uint32_t kMessageLookChanged = 0x7E9;     // to the form: reload skin and fonts
+inline constexpr std::uint32_t kMessageCreateShortcut = 0x7FC;  // to the host: parameters 0, 0
+inline constexpr std::uint32_t kMessageFormShown = 0x824;       // to the host: the form's address, its Tag
+inline constexpr std::uint32_t kMessageFormClosed = 0x825;      // to the host: the same
+inline constexpr std::uint32_t kMessageFormActivated = 0x826;   // to the host: the same
+
+// Tag of a graphic control that is a label with ":" behind its translated caption.
+inline constexpr int kLabelMark = 8;
+
+class TBaseForm : public TForm {
+  Q_OBJECT
+
+ public:
+  explicit TBaseForm(TComponent* owner);
+
+  void BuildControls() override;
+  // The captions of the form and its controls, as keys; run once, when the form is made.
+  void SetCaptions() override = 0;
+  // Run at each show, before and behind the set-up; nothing here and in every form so far but PreInitHook1
+  // and 2, which each form has to have.
+  virtual void PreInitHook1() = 0;
+  virtual void PreInitHook2() = 0;
+  virtual void AfterTranslate() {}
+  virtual void SpareHook() {}
+  // Run at each show behind the set-up: starts the form afresh. Here: keys go to FormKeyDown first, and the
+  // skin frame's menus get the host's font. A descendant calls its base's first.
+  virtual void ResetForm();
+  // Recomputes what is enabled; nothing here.
+  virtual void m_lvMainClick(TObject* sender);
+
+  // The form's events. FormShow: hooks, InitForm, ResetForm, then the host is told of a form with a Tag.
+  virtual void FormShow(TObject* sender);
+  // Up, down and Return move the focus where the user has switched that on; a key that moved it becomes 0.
+  virtual void FormKeyDown(TObject* sender, std::uint16_t& key, TShiftState shift);
+  // Enters handle 0 for the form, then tells the host of a form with a Tag.
+  virtual void FormClose(TObject* sender);
+
+  // Takes the host's 0x7E9 and passes activation on, then the toolkit's own messages.
+  std::intptr_t Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam) override;
+
+  // The text of a key, or the key itself if there is none.
+  static std::string TranslateKey(const std::string& key);
+  // Has the host make a desktop shortcut to a menu item under the form's caption.
+  void SendToDesktop(const std::string& itemName);
+  // The calendar behind a date field: the picked text, or `date` unchanged. For SetDateTimeForm of the date
+  // edits.
+  std::string ShowDateCalendar(const std::string& date, TKVXDateType type);
+
+  TbsBusinessSkinForm* m_BusinessSkinForm = nullptr;
+  TbsSkinData* m_SkinData = nullptr;
+  corvane::StringVector m_sumColumns;  // ids of the columns that the sum action totals
+  std::string m_strItemName;           // the menu item that opened the form; empty for dialogs
+
+ protected:
+  // Skin, texts, fonts, input method and the handle entry, in this order; at each show.
+  void InitForm();
+  void LoadSkin();
+  void ApplyFonts(TControl* control);
+
+  bool m_bImeOff = true;
+  std::int32_t m_nFontSize = 0;
+  std::string m_strFontName;
+  std::uint8_t m_nFontCharset = 1;
+  std::string m_strImeName;
+
+ private:
+  void ApplySkinData(TWinControl* parent);
+  void ReadFont();
+  void ReadIme();
+  void ApplyIme(TWinControl* parent);
+  void SetFont(TFont* font) const;
+  bool MovesFocus(TShiftState shift) const;
+  void SendToHost(std::uint32_t message);
+};
