@@ -1,0 +1,183 @@
+#include "dialogs/messages.h"
+
+#include <gtest/gtest.h>
+
+#include "dialogs/com_msg.h"
+#include "dialogs/error_msg.h"
+#include "tests/support/form_host.h"
+#include "toolkit/application.h"
+#include "toolkit/clipboard.h"
+#include "toolkit/text.h"
+
+using fakehost::Library;
+
+namespace {
+
+class Messages : public testing::Test {
+ protected:
+  FormHost host;
+};
+
+TEST_F(Messages, ModesDifferInCaptionsButtonsAndIcon) {
+  host.SetText("UI12016", "是");
+  const struct {
+    TMessageMode mode;
+    const char* caption;
+    std::string ok;
+    bool asks;
+    int icon;
+  } cases[] = {{TMessageMode::kInformation, "UI12013", "UI12002", false, 1},
+               {TMessageMode::kWarning, "UI12014", "UI12002", false, 0},
+               {TMessageMode::kQuestion, "UI12015", Ansi("是"), true, 2}};
+  for (const auto& row : cases) {
+    const TFormPointer<TFrmComMsg> form(CreateForm<TFrmComMsg>(Application, "text", row.mode));
+    form->Show();
+    EXPECT_EQ(form->Caption(), row.caption);
+    EXPECT_EQ(form->m_btnOk->Caption(), row.ok) << row.caption;
+    EXPECT_EQ(form->m_btnNo->Visible(), row.asks) << row.caption;
+    EXPECT_EQ(form->m_lblInfo->Caption(), "text");
+    EXPECT_EQ(form->DefaultButton(), form->m_btnOk);
+    EXPECT_EQ(form->ActiveControl(), form->m_btnOk);
+    const TbsSkinButton* last = row.asks ? form->m_btnNo : form->m_btnOk;
+    EXPECT_NEAR(form->m_btnOk->Left(), form->ClientWidth() - last->Left() - last->Width(), 1) << row.caption;
+    if (row.asks) {
+      EXPECT_EQ(form->m_btnNo->Left() - form->m_btnOk->Left() - form->m_btnOk->Width(), 20);
+    }
+  }
+  EXPECT_TRUE(host.failures.empty());
+}
+
+TEST_F(Messages, HeightFollowsBytesAndLines) {
+  const struct {
+    std::string text;
+    int extra;
+  } cases[] = {
+      {"", 0},
+      {"short", 0},
+      {std::string(43, 'x'), 0},
+      {std::string(44, 'x'), 0},   // 2 and 1 make 42, less 42
+      {std::string(87, 'x'), 0},   // the same
+      {std::string(88, 'x'), 14},  // 3 and 1
+      {"a\r\nb", 0},               // 1 and 2
+      {"a\r\nb\r\nc\r\n", 14},     // 1 and 3
+      {std::string(440, 'x'), 126},
+      {Ansi("一二三四五六七八九十一二三四五六七八九十一二三四五六七八九十一二三四五六七八九十一二三四"), 14},
+  };
+  int designed = 0;
+  for (const auto& row : cases) {
+    EXPECT_EQ(TFrmComMsg::ExtraHeight(row.text), row.extra) << row.text;
+    const TFormPointer<TFrmComMsg> form(
+        CreateForm<TFrmComMsg>(Application, row.text, TMessageMode::kInformation));
+    if (row.text.empty()) designed = form->Height();
+    EXPECT_EQ(form->Height(), designed + row.extra) << row.text;
+    EXPECT_EQ(form->m_btnOk->Height(), 19);
+    EXPECT_EQ(form->Tag(), 0);
+  }
+}
+
+TEST_F(Messages, EverythingIsReadableAtALargeFontAndStaysOnTheScreen) {
+  const std::string wordy = Ansi("列表中没有选中的记录，请先选择要导出的记录。");
+  for (const char* size : {"9", "14", "24"}) {
+    host.Configure("APPLICATION.FONT", "Size", size);
+    for (const std::string& text : {wordy, wordy + wordy + wordy, std::string(100000, 'x')}) {
+      const TFormPointer<TFrmComMsg> form(CreateForm<TFrmComMsg>(Application, text, TMessageMode::kQuestion));
+      form->Show();
+      EXPECT_LE(form->m_lblInfo->Top() + form->m_lblInfo->Height(), form->m_btnOk->Top()) << size;
+      EXPECT_LT(form->m_btnNo->Left() + form->m_btnNo->Width(), form->ClientWidth()) << size;
+      EXPECT_LT(form->m_btnOk->Top() + form->m_btnOk->Height(), form->ClientHeight()) << size;
+      EXPECT_LE(form->Height(), Screen->Height()) << size;
+      if (text.size() < 1000) {
+        EXPECT_GE(form->m_lblInfo->Height(),
+                  form->m_lblInfo->Widget()->heightForWidth(form->m_lblInfo->Width()) - 4)
+            << size;
+      }
+    }
+  }
+}
+
+TEST_F(Messages, OnlyTheLeftButtonSaysYes) {
+  const struct {
+    const char* way;
+    std::function<void(TFrmComMsg&)> answer;
+    bool yes;
+  } cases[] = {{"left button", [](TFrmComMsg& form) { form.m_btnOk->Click(); }, true},
+               {"right button", [](TFrmComMsg& form) { form.m_btnNo->Click(); }, false},
+               {"window closed", [](TFrmComMsg& form) { form.Close(); }, false}};
+  for (const auto& row : cases) {
+    WhenShown<TFrmComMsg> step(row.answer);
+    EXPECT_EQ(ShowConfirmMsg("really?", nullptr), row.yes) << row.way;
+    EXPECT_TRUE(step.Came()) << row.way;
+  }
+  EXPECT_EQ(Screen->FormCount(), 0);
+}
+
+TEST_F(Messages, AnAnsweredMessageIsAnnouncedAsClosed) {
+  WhenShown<TFrmComMsg> step([](TFrmComMsg& form) { form.m_btnOk->Click(); });
+  ShowInfoMsg("saved", nullptr);
+  ASSERT_EQ(host.messages.size(), 1U);
+  EXPECT_EQ(host.messages[0].number, 0x825U);
+  EXPECT_EQ(host.messages[0].lparam, 1);
+}
+
+TEST_F(Messages, FailureShowsItsLastLineAndAllLines) {
+  const struct {
+    const char* text;
+    const char* summary;
+    const char* detail;
+  } cases[] = {{"", "", ""},
+               {"one line", "one line", "one line"},
+               {"first\r\nlast", "last", "first\r\nlast"},
+               {"first\r\n\r\nlast\r\n", "last", "first\r\n\r\nlast"}};
+  for (const auto& row : cases) {
+    WhenShown<TFrmErrorMsg> step([&](TFrmErrorMsg& form) {
+      EXPECT_EQ(form.m_lblInfo->Caption(), row.summary);
+      EXPECT_EQ(form.m_memo->Text(), row.detail);
+      EXPECT_EQ(form.m_btnCopy->Enabled(), row.detail[0] != '\0');
+      EXPECT_FALSE(form.m_btnMail->Visible());
+      form.m_btnOK->Click();
+    });
+    ShowErrorMsg(row.text, nullptr);
+    EXPECT_TRUE(step.Came());
+  }
+}
+
+TEST_F(Messages, DetailPaneOpensClosesAndIsCopied) {
+  host.SetText("UI12009", "收起");
+  host.SetText("UI12010", "详情");
+  WhenShown<TFrmErrorMsg> step([](TFrmErrorMsg& form) {
+    const int closed = form.Height();
+    EXPECT_FALSE(form.m_memo->Visible());
+    EXPECT_EQ(form.m_btnDetail->Caption(), Ansi("详情"));
+    form.m_btnDetail->Click();
+    EXPECT_TRUE(form.m_detailShown);
+    EXPECT_TRUE(form.m_memo->Visible());
+    EXPECT_TRUE(form.m_btnCopy->Visible());
+    EXPECT_EQ(form.Height(), closed + form.m_memo->Height() + 28);
+    EXPECT_LE(form.m_memo->Top() + form.m_memo->Height(), form.Height());
+    EXPECT_EQ(form.m_btnDetail->Caption(), Ansi("收起"));
+    form.m_btnCopy->Click();
+    EXPECT_EQ(Clipboard().AsText(), Ansi("通讯失败\r\n请重试"));
+    form.m_btnDetail->Click();
+    EXPECT_FALSE(form.m_btnCopy->Visible());
+    EXPECT_EQ(form.Height(), closed);
+    EXPECT_EQ(form.m_btnDetail->Caption(), Ansi("详情"));
+    form.m_btnOK->Click();
+  });
+  ShowErrorMsg(Ansi("通讯失败\r\n请重试"), nullptr);
+  EXPECT_TRUE(step.Came());
+}
+
+TEST_F(Messages, AFailureIsReportedWithTheHostsText) {
+  host.SetErrorText("ET10016\r\nET10040", "报文格式错误");
+  const corvane::TException failure(corvane::StringVector{"ET10016", "ET10040"});
+  WhenShown<TFrmErrorMsg> step([](TFrmErrorMsg& form) {
+    EXPECT_EQ(form.m_lblInfo->Caption(), Ansi("报文格式错误"));
+    form.Close();
+  });
+  ReportException(failure);
+  EXPECT_TRUE(step.Came());
+  host.libraries.SetAnswer(Library::kError, 5, fakehost::Refusal("no error texts"));
+  EXPECT_THROW(ReportException(corvane::TException("ET99999")), corvane::TIOException);
+}
+
+}  // namespace

@@ -1,0 +1,1 @@
+target_link_libraries(dialogs_tests PRIVATE PkgConfig::XCB Threads::Threads)

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "data/corvane.h"
+#include "tests/host/fake_host.h"
+#include "toolkit/form.h"
+
+/// The world that a form lives in: registered host libraries that answer by key, the services bound to them,
+/// the layer's Application, and a main window of the host that writes its messages down. One at a time,
+/// user-interface thread.
+class FormHost {
+ public:
+  struct Message {
+    std::uint32_t number;
+    std::uintptr_t wparam;
+    std::intptr_t lparam;
+    bool operator==(const Message&) const = default;
+  };
+
+  /// A host with a font of 9 points, no switch on, and no text for any key.
+  FormHost();
+  FormHost(const FormHost&) = delete;
+  FormHost& operator=(const FormHost&) = delete;
+  /// Ends all forms, then the services.
+  ~FormHost();
+
+  /// Texts are UTF-8 here and reach the module as narrow text.
+  void SetText(const std::string& key, const char* text);
+  void SetErrorText(const std::string& keys, const char* text);
+  /// One value of "SYSCONFIG_DATA", or of another Ini document.
+  void Configure(const std::string& section, const std::string& item, const char* value,
+                 const std::string& document = "SYSCONFIG_DATA");
+  void SetField(const std::string& block, const std::string& name, const std::string& value);
+  void SetTable(const std::string& document, const std::string& section, const corvane::List& rows);
+
+  fakehost::FakeHost libraries;
+  QWidget mainWindow;
+  std::vector<Message> messages;
+  std::function<void(const Message&)> onMessage;
+  /// What reached Application->OnException, as text.
+  std::vector<std::string> failures;
+
+ private:
+  std::uint32_t window_ = 0;
+};
+
+/// The shown form of a class, the last made first; null if there is none.
+TForm* ShownForm(const QMetaObject& type);
+/// Fails the test over a form that nobody closed, and closes it.
+void CloseForgotten(TForm* form);
+
+/// Does something with the first form of class T that is shown, as soon as it is, once. A form that is still
+/// open four seconds later fails the test and is closed.
+template <class T>
+class WhenShown {
+ public:
+  explicit WhenShown(std::function<void(T&)> step) : step_(std::move(step)) {
+    timer_.setInterval(5);
+    timer_.callOnTimeout([this] { Look(); });
+    timer_.start();
+  }
+  /// Whether the form has come.
+  bool Came() const { return came_; }
+
+ private:
+  void Look() {
+    auto* form = static_cast<T*>(ShownForm(T::staticMetaObject));
+    if (form == nullptr) {
+      if (came_) timer_.stop();
+    } else if (!came_) {
+      came_ = true;
+      step_(*form);
+    } else if (++looks_ > 800) {
+      timer_.stop();
+      CloseForgotten(form);
+    }
+  }
+
+  std::function<void(T&)> step_;
+  QTimer timer_;
+  bool came_ = false;
+  int looks_ = 0;
+};
