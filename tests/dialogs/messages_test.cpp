@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "dialogs/com_msg.h"
 #include "dialogs/error_msg.h"
 #include "tests/support/form_host.h"
@@ -114,9 +116,13 @@ TEST_F(Messages, OnlyTheLeftButtonSaysYes) {
 TEST_F(Messages, AnAnsweredMessageIsAnnouncedAsClosed) {
   WhenShown<TFrmComMsg> step([](TFrmComMsg& form) { form.m_btnOk->Click(); });
   ShowInfoMsg("saved", nullptr);
-  ASSERT_EQ(host.messages.size(), 1U);
-  EXPECT_EQ(host.messages[0].number, 0x825U);
-  EXPECT_EQ(host.messages[0].lparam, 1);
+  const auto told = [&](std::uint32_t number) {
+    return std::count_if(host.messages.begin(), host.messages.end(),
+                         [&](const FormHost::Message& message) { return message.number == number; });
+  };
+  EXPECT_EQ(told(kMessageFormShown), 0);
+  EXPECT_EQ(told(kMessageFormClosed), 1);
+  EXPECT_EQ(host.messages.back().lparam, TFrmComMsg::kConfirmed);
 }
 
 TEST_F(Messages, FailureShowsItsLastLineAndAllLines) {
