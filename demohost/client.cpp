@@ -1,0 +1,208 @@
+#include "demohost/client.h"
+
+#include <QMessageBox>
+#include <algorithm>
+#include <cstdlib>
+
+#include "demohost/bank/refuse.h"
+#include "demohost/shortcut.h"
+#include "demohost/skins.h"
+#include "demohost/window/print_settings.h"
+#include "platform/code_page.h"
+
+namespace demohost {
+namespace {
+
+// The message that tells a form of a new look.
+constexpr std::uint32_t kLookChanged = 0x7E9;
+
+// The captions of the menu items that this host knows; any other shows by its name.
+constexpr std::pair<std::string_view, std::string_view> kItemCaptions[] = {
+    {"ITEM6066", "UI25826"},
+    {"ITEM6067", "UI25828"},
+    {"ITEM6068", "UI25830"},
+};
+
+QString ToQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string ItemCaption(const Texts& texts, const std::string& language, const std::string& item) {
+  for (const auto& [name, key] : kItemCaptions) {
+    if (name == item) return std::string(texts.Find(language, key));
+  }
+  return item;
+}
+
+}  // namespace
+
+Client::Client(const Options& options)
+    : options_(options),
+      texts_(options.share / "texts"),
+      tables_(ReadTables(options.share)),
+      clock_(options.today),
+      bank_(OpenBank(BankFile(options), Plan(options))),
+      directory_(BankFile(options), options.directory_delay),
+      store_(options.config),
+      mark_(nullptr),
+      window_(forms_, {[this](const std::string& item) { Pick(item); },
+                       [this](const std::string& language) { ChooseLanguage(language); },
+                       [this](const QString& name, int size) { ChooseFont(name, size); },
+                       [this](const std::string& style) { ChooseStyle(style); }, [this] { MakeShortcut(); }}),
+      module_(options.module) {
+  const std::filesystem::path images = options.data / "images";
+  std::filesystem::create_directories(images);
+  PackSkins(options.share / "skins", options.data / "skins");
+  FillStore(store_, tables_, bank_.Accounts(), {images, options.data / "skins"});
+  if (!options.language.empty()) {
+    store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", options.language);
+  }
+  store_.on_handle = [this](const std::string& key, std::uint32_t value) {
+    forms_.HandleEntered(key, value);
+  };
+  store_.SetHandle("APPMAINFORMHANDLE", window_.Handle());
+  store_.SetHandle("BANK_PDATA", directory_.Handle());
+  output_.print_folder = options.data / "prints";
+  output_.made = [this](const std::filesystem::path& file) { Tell(HostWord::kSaved, file.string()); };
+  output_.print_settings = [this](const std::string&) {
+    if (AskPrintSettings(store_, Setting("APPLICATION.LANG", "Language"), &window_)) Save();
+  };
+  Services services{&store_, &texts_, &bank_, &clock_, &output_, options.delay, {}};
+  services.report = [this](const std::string& text) { window_.Tell(ToQt(text)); };
+  libraries_ = std::make_unique<Libraries>(std::move(services));
+  try {
+    module_.Init(libraries_->PublicInformation());
+    items_ = module_.MenuItems();
+  } catch (const ModuleError&) {
+    module_.Release();
+    throw;
+  }
+  ShowWindow();
+}
+
+Client::~Client() {
+  try {
+    module_.Release();
+  } catch (const ModuleError&) {
+    // The client ends all the same.
+  }
+  store_.on_handle = nullptr;
+}
+
+std::filesystem::path Client::BankFile(const Options& options) const {
+  const std::string suffix = options.bills == Options().bills ? "" : "-" + std::to_string(options.bills);
+  return options.data / ("bank" + suffix + ".sqlite");
+}
+
+BankPlan Client::Plan(const Options& options) const {
+  return {options.bills, kBankDay, CodesOf(tables_)};
+}
+
+std::string Client::Setting(const char* section, const char* item) const {
+  return norvik::Utf8FromAnsi(store_.GetIniValue("SYSCONFIG_DATA", section, item));
+}
+
+void Client::Show() {
+  window_.show();
+}
+
+void Client::ShowWindow() {
+  const ClientSettings settings{Setting("APPLICATION.LANG", "Language"),
+                                ToQt(Setting("APPLICATION.FONT", "Name")),
+                                std::max(1, std::atoi(Setting("APPLICATION.FONT", "Size").c_str())),
+                                Setting("APPLICATION.STYLE", "Style")};
+  std::vector<BusinessItem> items;
+  for (const std::string& item : items_)
+    items.push_back({item, ToQt(ItemCaption(texts_, settings.language, item))});
+  mark_.SetText(ToQt(Word(HostWord::kDemonstration, settings.language)));
+  window_.Show(settings, items, ToQt(DayText(clock_.Today())));
+}
+
+void Client::Pick(const std::string& item) {
+  try {
+    module_.Call(item);
+    const std::vector<OpenForms::Form> forms = forms_.Announced();
+    if (!forms.empty()) item_of_[forms.back().class_name] = item;
+  } catch (const ModuleError& error) {
+    TellFailure(error);
+  }
+}
+
+void Client::TellFailure(const std::exception& failure) {
+  const std::string language = Setting("APPLICATION.LANG", "Language");
+  QMessageBox::warning(
+      &window_, window_.windowTitle(),
+      ToQt(Word(HostWord::kModuleFailed, language)) + QLatin1Char('\n') + ToQt(failure.what()));
+}
+
+void Client::ChooseLanguage(const std::string& language) {
+  if (!IsLanguage(language)) throw std::invalid_argument("there is no language \"" + language + "\"");
+  std::vector<std::string> open;
+  for (const OpenForms::Form& form : forms_.Announced()) {
+    if (item_of_.count(form.class_name) != 0) open.push_back(item_of_[form.class_name]);
+  }
+  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", language);
+  Save();
+  try {
+    module_.Release();
+    forms_ = OpenForms();
+    module_.Init(libraries_->PublicInformation());
+  } catch (const ModuleError& error) {
+    TellFailure(error);
+  }
+  ShowWindow();
+  for (const std::string& item : open) Pick(item);
+}
+
+void Client::ChooseFont(const QString& name, int size) {
+  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", "Name", norvik::AnsiFromUtf8(name.toStdString()));
+  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", "Size", std::to_string(size));
+  LookChanged();
+}
+
+void Client::ChooseStyle(const std::string& style) {
+  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.STYLE", "Style", style);
+  LookChanged();
+}
+
+void Client::LookChanged() {
+  Save();
+  ShowWindow();
+  for (const OpenForms::Form& form : std::vector<OpenForms::Form>(forms_.All())) {
+    norvik_window_send(form.handle, kLookChanged, 0, 0);
+  }
+}
+
+void Client::Save() {
+  try {
+    store_.SaveIni("SYSCONFIG_DATA");
+  } catch (const Refused& refused) {
+    window_.Tell(ToQt(refused.Detail()));
+  }
+}
+
+void Client::Tell(HostWord word, const std::string& detail) {
+  const std::string_view text = Word(word, Setting("APPLICATION.LANG", "Language"));
+  window_.Tell(ToQt(text) + QStringLiteral(": ") + ToQt(detail));
+}
+
+void Client::MakeShortcut() {
+  const auto field = [this](const char* name) {
+    return norvik::Utf8FromAnsi(store_.FieldValue("ENVIRONMENT", std::string("CURSHORTCUT.") + name));
+  };
+  try {
+    const Shortcut shortcut{field("ITEMNAME"), field("ITEMCAPTION"), field("ITEMIMAGE")};
+    Tell(HostWord::kShortcutMade, WriteShortcut(options_.desktop, options_.program, shortcut).string());
+  } catch (const FileError& error) {
+    Tell(HostWord::kShortcutFailed, error.what());
+  }
+}
+
+OperatorClient Client::ForOperator() {
+  return {[this](const QString& item) { Pick(item.toStdString()); },
+          [this](const QString& name) { ChooseLanguage(name.toStdString()); },
+          [this](const QString& name, int size) { ChooseFont(name, size); },
+          [this] { return forms_.Front(); }};
+}
+
+}  // namespace demohost

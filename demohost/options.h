@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "demohost/bank_clock.h"
+
+namespace demohost {
+
+// How the client is started.
+struct Options {
+  std::filesystem::path program;  // this program
+  std::filesystem::path module;   // NorvikQry.so
+  std::filesystem::path share;    // texts, tables, skins
+  std::filesystem::path data;     // the bank, pictures, printed reports
+  std::filesystem::path config;   // layouts and settings
+  std::filesystem::path desktop;  // where shortcuts go
+  std::int64_t bills = 10000;
+  Day today = kBankDay;
+  int delay = 0;            // milliseconds of an exchange
+  int directory_delay = 0;  // milliseconds more until the bank directory is full
+  int patience = 5000;      // milliseconds that a step of a script may wait
+  QString script;           // a script's file, "-" for the standard input, empty for none
+  std::string open;         // a menu item to open at start
+  std::string language;     // instead of the saved one, for this run
+};
+
+// The command line is wrong; what() says how, in UTF-8.
+class OptionError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Reads the command line, the program's name first. Nothing where the user asked for help or the version,
+// which then stands in `message`. Throws OptionError.
+std::optional<Options> ParseOptions(const QStringList& arguments, QString& message);
+
+}  // namespace demohost
