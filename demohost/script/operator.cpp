@@ -174,7 +174,7 @@ Operator::Action Operator::Choose(const QStringList& words) {
     for (const QString& filter : dialog->nameFilters()) {
       if (!filter.contains(ending)) continue;
       dialog->selectNameFilter(filter);
-      emit dialog->filterSelected(filter);
+      Q_EMIT dialog->filterSelected(filter);
     }
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     if (auto* edit = dialog->findChild<QLineEdit*>()) edit->setText(file);

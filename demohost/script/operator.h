@@ -9,6 +9,7 @@
 #include "demohost/script/script.h"
 
 class QAbstractItemView;
+class QComboBox;
 
 namespace demohost {
 
@@ -48,7 +49,7 @@ class Operator {
   Action Window(const QStringList& words);
   Action Set(const QStringList& words);
   Action Select(const QStringList& words);
-  Action SelectInCombo(class QComboBox* combo, const QString& choice);
+  Action SelectInCombo(QComboBox* combo, const QString& choice);
   Action SelectInList(QAbstractItemView* list, const QStringList& choices);
   Action SelectInGroup(QWidget* group, const QString& choice);
   Action Tick(const QStringList& words);

@@ -1,1 +1,2 @@
 target_compile_definitions(${target} PRIVATE NORVIK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+target_compile_definitions(demohost_tests PRIVATE DEMOHOST_TEST_SHARE="${PROJECT_SOURCE_DIR}/demohost/share")

@@ -1,0 +1,218 @@
+#include "demohost/script/player.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "tests/demohost/folder.h"
+
+namespace demohost {
+namespace {
+
+// A screen of plain widgets: an edit of digits, a box, a list with ticks, and buttons that ask and refuse.
+class Screen : public QWidget {
+ public:
+  Screen() {
+    setObjectName("TfrmTest");
+    setWindowTitle("Screen");
+    auto* layout = new QVBoxLayout(this);
+    edit = Add<QLineEdit>(layout, "m_edNo");
+    edit->setValidator(new QIntValidator(0, 99999999, edit));
+    combo = Add<QComboBox>(layout, "m_cbxAcc");
+    combo->addItem("all", "-9999");
+    combo->addItem("1001-甲公司", "1001");
+    combo->addItem("1002-乙公司", "1002");
+    connect(combo, &QComboBox::activated, this, [this](int index) { activated = index; });
+    states = Add<QListWidget>(layout, "m_lbxState");
+    states->setSelectionMode(QAbstractItemView::MultiSelection);
+    states->addItems({"in", "out", "gone"});
+    all = Add<QCheckBox>(layout, "m_crbAllCheck");
+    list = Add<QTreeView>(layout, "m_lvMain");
+    model.setHorizontalHeaderLabels({"票号", "金额", "hidden"});
+    for (int row = 1; row <= 4; ++row) {
+      auto* tick = new QStandardItem(QString("B%1").arg(row));
+      tick->setCheckable(true);
+      model.appendRow({tick, new QStandardItem(QString::number(row * 100)), new QStandardItem("x")});
+    }
+    list->setModel(&model);
+    list->setColumnHidden(2, true);
+    ask = Add<QPushButton>(layout, "m_btnAsk");
+    connect(ask, &QPushButton::clicked, this, [this] { Ask("Really delete?"); });
+    auto* bound = Add<QPushButton>(layout, "m_spdQuery");
+    bound->setProperty("action", "m_actQuery");
+    connect(bound, &QPushButton::clicked, this, [this] { ++queries; });
+    Add<QPushButton>(layout, "m_btnOff")->setEnabled(false);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(list, &QWidget::customContextMenuRequested, this, [this] {
+      auto* menu = new QMenu(this);
+      menu->setAttribute(Qt::WA_DeleteOnClose);
+      menu->addAction("Sum", this, [this] { ++sums; })->setObjectName("m_actSum");
+      menu->popup(QPoint(10, 10));
+    });
+  }
+
+  void Ask(const QString& question) {
+    QDialog dialog(this);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(new QLabel(question));
+    for (const char* name : {"m_btnOk", "m_btnNo"}) {
+      auto* button = Add<QPushButton>(layout, name);
+      connect(button, &QPushButton::clicked, &dialog,
+              [&dialog, name] { dialog.done(QLatin1String(name) == QLatin1String("m_btnOk")); });
+    }
+    answer = dialog.exec();
+    if (answer == 1 && question.startsWith("Really")) Ask("Really really?");
+  }
+
+  template <class T>
+  T* Add(QVBoxLayout* layout, const char* name) {
+    auto* control = new T;
+    control->setObjectName(name);
+    layout->addWidget(control);
+    return control;
+  }
+
+  QLineEdit* edit;
+  QComboBox* combo;
+  QListWidget* states;
+  QCheckBox* all;
+  QTreeView* list;
+  QPushButton* ask;
+  QStandardItemModel model;
+  int activated = -1, queries = 0, sums = 0, answer = -1;
+};
+
+struct Played {
+  ScriptEnd end = ScriptEnd::kWrong;
+  QString reason, output;
+};
+
+class PlayerTest : public testing::Test {
+ protected:
+  PlayerTest() { screen_.show(); }
+
+  Played Play(const QString& script) {
+    Played played;
+    QTextStream out(&played.output);
+    Operator hand(
+        {[this](const QString& item) { picked_ << item; }, [this](const QString& name) { picked_ << name; },
+         [this](const QString& name, int size) { picked_ << name + QString::number(size); },
+         [this]() -> QWidget* { return screen_.isVisible() ? &screen_ : nullptr; }},
+        out);
+    Player player(ParseScript(script), hand);
+    player.SetPatience(150);
+    player.on_end = [&](ScriptEnd end, const QString& reason) {
+      played.end = end;
+      played.reason = reason;
+      QCoreApplication::exit();
+    };
+    player.Start();
+    QTimer::singleShot(20000, qApp, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
+    return played;
+  }
+
+  // Plays a script that must go through.
+  void Run(const QString& script) {
+    const Played played = Play(script);
+    EXPECT_EQ(played.end, ScriptEnd::kPlayed) << played.reason.toStdString();
+  }
+
+  Screen screen_;
+  QStringList picked_;
+};
+
+TEST_F(PlayerTest, WorksTheControlsAsAnOperatorDoes) {
+  Run("pick ITEM6066\nset m_edNo 12a3\nselect m_cbxAcc 1002\nselect m_lbxState in gone\nset m_crbAllCheck "
+      "on\n"
+      "tick 1,3-4\nexpect ticked 3\nstart m_actQuery\nlanguage English\nfont Sans 12\nexpect text m_edNo "
+      "123\n"
+      "expect text m_cbxAcc 1002-乙公司\nexpect checked m_crbAllCheck\nexpect disabled m_btnOff\nexpect "
+      "enabled m_actQuery\n"
+      "expect rows 4\nexpect rows >3\nexpect cell 2:金额 200\nexpect dialog none\nexpect title Screen\n");
+  EXPECT_EQ(picked_, (QStringList{"ITEM6066", "English", "Sans12"}));
+  EXPECT_EQ(screen_.activated, 2);
+  EXPECT_EQ(screen_.queries, 1);
+  EXPECT_EQ(screen_.states->selectedItems().size(), 2);
+  Run("tick none\nexpect ticked 0\ntick all\nexpect ticked 4\nset m_edNo\nexpect text m_edNo \"\"\n");
+  Run("select m_cbxAcc 1001\nselect m_cbxAcc all\nselect m_lbxState all\n");
+  EXPECT_EQ(screen_.activated, 0);
+  EXPECT_EQ(screen_.states->selectedItems().size(), 3);
+}
+
+TEST_F(PlayerTest, FindsAnActionInTheMenuOfTheList) {
+  Run("start m_actSum\n");
+  EXPECT_EQ(screen_.sums, 1);
+}
+
+TEST_F(PlayerTest, AnswersDialogsThatOpenInsideEachOther) {
+  Run("press m_btnAsk\nexpect dialog \"delete?\"\nanswer m_btnOk \"Really delete?\"\nanswer m_btnNo \"Really "
+      "really?\"\nexpect dialog none\n");
+  EXPECT_EQ(screen_.answer, 0);
+  Run("press m_btnAsk\nanswer m_btnNo\nset m_edNo 5\n");
+  EXPECT_EQ(screen_.edit->text(), "5");
+}
+
+TEST_F(PlayerTest, FailsWithThePlaceAndTheReason) {
+  const struct {
+    const char* script;
+    const char* reason;
+  } cases[] = {
+      {"say x\nexpect rows 5\n", "line 2: expect rows 5: the list has 4 rows"},
+      {"press m_btnNone\n", "line 1: press m_btnNone: there is no control m_btnNone"},
+      {"press m_btnOff\n", "line 1: press m_btnOff: m_btnOff is disabled"},
+      {"press m_edNo\n", "line 1: press m_edNo: m_edNo isn't a button"},
+      {"set m_btnAsk x\n", "line 1: set m_btnAsk x: m_btnAsk isn't an edit"},
+      {"select m_cbxAcc 100\n",
+       "line 1: select m_cbxAcc 100: m_cbxAcc doesn't offer \"100\", but: all, 1001-甲公司, 1002-乙公司"},
+      {"tick 9\n", "line 1: tick 9: the list has 4 rows"},
+      {"answer m_btnOk\n", "line 1: answer m_btnOk: no dialog is open"},
+      {"expect cell 1:Nothing x\n", "line 1: expect cell 1:Nothing x: the list has no column \"Nothing\""},
+      {"expect text m_edNo 77\n", "line 1: expect text m_edNo 77: it says \"\""},
+      {"start m_actNone\n", "line 1: start m_actNone: nothing is bound to m_actNone"},
+      {"window TfrmOther\n", "line 1: window TfrmOther: no window TfrmOther is open"},
+  };
+  for (const auto& [script, reason] : cases) {
+    const Played played = Play(script);
+    EXPECT_EQ(played.end, ScriptEnd::kFailed) << script;
+    EXPECT_EQ(played.reason.toStdString(), reason);
+    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  }
+}
+
+TEST_F(PlayerTest, NeverHangsInADialogWithoutAnAnswer) {
+  const Played wrong = Play("press m_btnAsk\nexpect rows 4\n");
+  EXPECT_EQ(wrong.reason.toStdString(),
+            "line 2: expect rows 4: there is no control m_lvMain; this dialog waits for an answer:  | Really "
+            "delete?");
+  const Played over = Play("press m_btnAsk\n");
+  EXPECT_EQ(over.reason.toStdString(),
+            "the end: the script is over; this dialog waits for an answer:  | Really delete?");
+}
+
+TEST_F(PlayerTest, PrintsTheListAndTakesPictures) {
+  const Folder folder;
+  const QString file = QString::fromStdString((folder / "pictures/a.png").string());
+  const Played played = Play("print 2\npicture " + file + "\nexpect file " + file + "\n");
+  EXPECT_EQ(played.end, ScriptEnd::kPlayed) << played.reason.toStdString();
+  EXPECT_EQ(played.output.toStdString(),
+            "票号  金额\n----  ----\nB1    100\nB2    200\n4 rows, 2 more not printed\npicture: " +
+                file.toStdString() + "\n");
+}
+
+}  // namespace
+}  // namespace demohost
