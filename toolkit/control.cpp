@@ -47,10 +47,10 @@ void TControl::SetParent(TWinControl* parent) {
   if (parent_ != nullptr) parent_->controls_.push_back(this);
   if (!widget_) return;
   widget_->setParent(parent_ == nullptr ? nullptr : parent_->ClientWidget());
-  if (parent_ != nullptr) {
-    widget_->setVisible(visible_);
-    parent_->AlignControls();
-  }
+  if (parent_ == nullptr) return;
+  // A needless show would make the widget's layout measure itself before it is filled.
+  if (!visible_ || widget_->isHidden() || parent_->ClientWidget()->isVisible()) widget_->setVisible(visible_);
+  parent_->AlignControls();
 }
 
 TForm* TControl::ParentForm() const {

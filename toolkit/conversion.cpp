@@ -82,8 +82,9 @@ int StrToIntDef(std::string_view text, int otherwise) {
 
 double StrToFloat(std::string_view text) {
   std::string_view number = TrimBlanks(text);
+  const bool two_signs = number.starts_with("+-");
   if (number.starts_with('+')) number.remove_prefix(1);
-  const bool plain = number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+  const bool plain = !two_signs && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
   double value = 0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
   if (!plain || number.empty() || error != std::errc() || end != number.data() + number.size()) {

@@ -114,6 +114,8 @@ void TForm::OpenWindow() {
   if (!self || Widget() == nullptr) return;
   QWidget* window = Widget();
   window->ensurePolished();
+  // What was added since a layout measured itself counts only once it has been told.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   const QSize wanted = window->layout() == nullptr ? window->size() : window->sizeHint();
   window->resize(width_set_ ? window->width() : wanted.width(),
                  height_set_ ? window->height() : wanted.height());
