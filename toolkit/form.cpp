@@ -9,6 +9,7 @@
 #include "platform/host_api.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
+#include "toolkit/panels.h"
 #include "toolkit/text.h"
 
 namespace {
@@ -126,7 +127,9 @@ void TForm::OpenWindow() {
   if (active_control_) {
     active_control_->SetFocus();
   } else {
+    // The user starts on the first condition; the header of a roll-up panel before it is a step back.
     SelectNext(nullptr, true, true);
+    if (qobject_cast<TbsSkinExPanel*>(ActiveControl()) != nullptr) SelectNext(ActiveControl(), true, true);
   }
 }
 

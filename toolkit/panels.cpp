@@ -82,14 +82,16 @@ TbsSkinExPanel::TbsSkinExPanel(TComponent* owner)
   column->addWidget(client_, 1);
   header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   header_->setAutoRaise(true);
-  header_->setFocusPolicy(Qt::NoFocus);
+  header_->setFocusPolicy(Qt::TabFocus);
   header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   SetSkinRole(frame, "roll");
   SetSkinRole(header_, "roll-header");
   SetSkinRole(client_, "roll-client");
   SetWidget(frame);
+  SetTabStop(true);
   client_->installEventFilter(this);
+  WatchWidget(header_);
   ShowState();
   QObject::connect(header_, &QToolButton::clicked, this, [this] {
     SetRollState(!rolled_up_);
@@ -100,6 +102,20 @@ TbsSkinExPanel::TbsSkinExPanel(TComponent* owner)
 void TbsSkinExPanel::ShowState() {
   header_->setArrowType(rolled_up_ ? Qt::RightArrow : Qt::DownArrow);
   client_->setVisible(!rolled_up_);
+  if (open_height_ > 0) TbsSkinControl::SetHeight(rolled_up_ ? header_->sizeHint().height() : open_height_);
+}
+
+void TbsSkinExPanel::SetHeight(int height) {
+  open_height_ = height;
+  if (client_) ShowState();
+}
+
+QWidget* TbsSkinExPanel::FocusWidget() const {
+  return client_ ? header_ : nullptr;
+}
+
+void TbsSkinExPanel::ReturnPressed() {
+  header_->click();
 }
 
 void TbsSkinExPanel::SetRollState(bool rolled_up) {

@@ -58,8 +58,8 @@ class TbsSkinGroupBox : public TbsSkinControl {
   QWidget* FocusWidget() const override { return nullptr; }
 };
 
-/// A panel below a header with its caption. A click on the header rolls it up to the header, or opens it
-/// again; the controls inside keep their own Visible.
+/// A panel below a header with its caption. A click on the header, or Space or Return while it has the focus,
+/// rolls the panel up to the header or opens it again; the controls inside keep their own Visible.
 class TbsSkinExPanel : public TbsSkinControl {
   Q_OBJECT
   Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
@@ -73,13 +73,19 @@ class TbsSkinExPanel : public TbsSkinControl {
   /// Rolls up or opens without running OnChangeRollState.
   void SetRollState(bool rolled_up);
 
-  /// Runs after the user's click on the header.
+  /// Height of the open panel, also when it is set while the panel is rolled up.
+  void SetHeight(int height) override;
+
+  /// Runs after the user has rolled the panel up or opened it.
   TNotifyEvent OnChangeRollState;
 
  protected:
   void CaptionChanged() override;
   void FontChanged() override;
-  QWidget* FocusWidget() const override { return nullptr; }
+  QWidget* FocusWidget() const override;
+  bool WantsReturn() const override { return true; }
+  void ReturnPressed() override;
+  bool ClicksByMouse() const override { return false; }
 
  private:
   void ShowState();
@@ -87,6 +93,7 @@ class TbsSkinExPanel : public TbsSkinControl {
   QToolButton* header_;
   QPointer<QWidget> client_;
   bool rolled_up_ = false;
+  int open_height_ = 0;
 };
 
 /// A container that scrolls when what it holds is higher than itself.

@@ -1,0 +1,155 @@
+#include <QCalendarWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include "data/row.h"
+#include "tests/toolkit/kvx_fixture.h"
+#include "toolkit/calendar.h"
+#include "toolkit/edits.h"
+#include "toolkit/layout.h"
+#include "toolkit/panels.h"
+#include "toolkit/text.h"
+#include "toolkit/tree_view.h"
+
+namespace {
+
+class KvxPanelTest : public KvxTest {
+ protected:
+  void SetUp() override {
+    form = CreateForm<TForm>(Application);
+    panel = NewComponent<TbsSkinExPanel>(form, "m_pnlAdvance");
+    edit = NewComponent<TEdit>(form, "m_edNo");
+    edit->SetTabStop(true);
+    TColumnLayout page(form);
+    page.Add(panel);
+    page.AddStretch();
+    TColumnLayout inside(panel);
+    inside.Add(edit);
+    inside.AddSpace(100);
+    panel->OnChangeRollState = Count(changes);
+    form->Show();
+    header = panel->Widget()->findChild<QToolButton*>();
+    ASSERT_NE(header, nullptr);
+  }
+  int Laid() const {
+    QTest::qWait(20);
+    return panel->Height();
+  }
+
+  TbsSkinExPanel* panel = nullptr;
+  TEdit* edit = nullptr;
+  QToolButton* header = nullptr;
+  int changes = 0;
+};
+
+corvane::Property Node(const char* key, const std::string& name) {
+  corvane::Property node;
+  node["Key"] = key;
+  node["Name"] = name;
+  return node;
+}
+
+}  // namespace
+
+TEST_F(KvxPanelTest, RollsUpToItsHeader) {
+  const int open = Laid();
+  EXPECT_GT(open, 100);
+  QTest::mouseClick(header, Qt::LeftButton);
+  EXPECT_TRUE(panel->RollState());
+  EXPECT_EQ(Laid(), header->height());
+  EXPECT_FALSE(edit->Widget()->isVisible());
+  EXPECT_TRUE(edit->Visible());
+  EXPECT_FALSE(edit->CanFocus());
+  EXPECT_EQ(changes, 1);
+  panel->SetRollState(false);
+  EXPECT_EQ(Laid(), open);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(KvxPanelTest, KeepsAHeightThatWasSetForTheOpenPanel) {
+  panel->SetHeight(200);
+  panel->SetRollState(true);
+  EXPECT_EQ(Laid(), header->height());
+  panel->SetHeight(220);
+  EXPECT_EQ(Laid(), header->height());
+  panel->SetRollState(false);
+  EXPECT_EQ(Laid(), 220);
+}
+
+TEST_F(KvxPanelTest, RollsByTheKeyboard) {
+  EXPECT_EQ(form->ActiveControl(), edit) << "the user starts behind the header";
+  panel->SetFocus();
+  QTest::keyClick(header, Qt::Key_Return);
+  EXPECT_TRUE(panel->RollState());
+  QTest::keyClick(header, Qt::Key_Space);
+  EXPECT_FALSE(panel->RollState());
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(KvxTest, TreeShowsItsRecords) {
+  auto* tree = Put<TKVXTreeView>("m_tvBsnFlowID");
+  auto* view = form->Widget()->findChild<QTreeWidget*>("m_tvBsnFlowID");
+  ASSERT_NE(view, nullptr);
+  tree->CreateRoot(Node("old", "old"), {});
+  TKVXTreeNode* root = tree->CreateRoot(Node("BSNNM", Ansi("票据存入")), {});
+  TKVXTreeNode* level = tree->AddChildNode(root, Node("LEVEL1", "first level"), {});
+  tree->AddChildNode(level, Node("0001", "0001-Li(<b>)"), {});
+  tree->AddChildNode(nullptr, Node("BATCH", "batch"), {});
+  EXPECT_EQ(tree->RootCount(), 1);
+  EXPECT_EQ(root->Count(), 2);
+  EXPECT_EQ(root->Items(1)->Text(), "batch");
+  EXPECT_EQ(level->Parent(), root);
+  EXPECT_EQ(tree->AllocateDataNode(level->Items(0))->Data().getValue("Key"), "0001");
+  EXPECT_EQ(view->topLevelItem(0)->text(0), QString::fromUtf8("票据存入"));
+  EXPECT_FALSE(root->Expanded());
+  tree->ExpandAll();
+  EXPECT_TRUE(level->Expanded());
+  EXPECT_EQ(tree->Selected(), nullptr);
+  view->setCurrentItem(view->topLevelItem(0)->child(0));
+  EXPECT_EQ(tree->Selected(), level);
+  tree->Clear();
+  EXPECT_EQ(tree->RootCount(), 0);
+  EXPECT_EQ(view->topLevelItemCount(), 0);
+}
+
+TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
+  auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
+  auto* view = form->Widget()->findChild<QCalendarWidget*>("m_MonthCalendar");
+  ASSERT_NE(view, nullptr);
+  int clicks = 0;
+  int doubles = 0;
+  calendar->OnClick = Count(clicks);
+  calendar->OnDblClick = Count(doubles);
+  calendar->SetDate(EncodeDate(2016, 2, 29) + EncodeTime(23, 59, 59));
+  EXPECT_EQ(calendar->Date(), EncodeDate(2016, 2, 29));
+  EXPECT_EQ(view->monthShown(), 2);
+  EXPECT_EQ(clicks, 0);
+  view->setFocus();
+  QTest::keyClick(view->findChild<QAbstractItemView*>(), Qt::Key_Right);
+  EXPECT_EQ(calendar->Date(), EncodeDate(2016, 3, 1));
+  EXPECT_EQ(clicks, 1);
+  QTest::keyClick(view->findChild<QAbstractItemView*>(), Qt::Key_Return);
+  EXPECT_EQ(doubles, 1);
+}
+
+TEST_F(KvxTest, UpDownCountsWithinItsBounds) {
+  auto* edit = Put<TEdit>("m_edthour");
+  auto* arrows = Put<TUpDown>("m_udhour");
+  arrows->SetRange(0, 23);
+  arrows->SetAssociate(edit);
+  const auto buttons = arrows->Widget()->findChildren<QToolButton*>();
+  ASSERT_EQ(buttons.size(), 2);
+  edit->SetText("22");
+  buttons[0]->click();
+  buttons[0]->click();
+  EXPECT_EQ(edit->Text(), "23");
+  edit->SetText("none");
+  EXPECT_EQ(arrows->Position(), 23);
+  arrows->SetPosition(-5);
+  EXPECT_EQ(edit->Text(), "0");
+  buttons[1]->click();
+  EXPECT_EQ(edit->Text(), "0");
+  delete edit;
+  buttons[0]->click();
+  EXPECT_EQ(arrows->Position(), 1);
+}
