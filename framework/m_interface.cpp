@@ -1,0 +1,166 @@
+#include "framework/m_interface.h"
+
+#include "dialogs/busy.h"
+#include "dialogs/messages.h"
+#include "framework/amount_text.h"
+#include "framework/column_order.h"
+#include "framework/export_head.h"
+#include "host/excel.h"
+#include "host/print.h"
+#include "host/pub_info.h"
+#include "host/safe_com.h"
+#include "host/translate.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/labels.h"
+#include "toolkit/list_view.h"
+
+namespace {
+
+enum OutputType : std::uint8_t { kWorkbook = 1, kText = 3 };
+
+constexpr const char* kTextSeparator = "|";
+constexpr int kTextOption = 2;
+
+std::string Value(const corvane::Row& row, const char* key) {
+  return row.getValue(key);
+}
+
+std::string UserField(const char* key) {
+  corvane::List users = g_pPubInfo->GetList("CMLGUSERINFO");
+  return users.size() == 0 ? std::string() : Value(users[0], key);
+}
+
+// Everything of an exchange that must be undone whatever happens in it.
+class BusyForm {
+ public:
+  explicit BusyForm(TForm* owner) : m_owner(owner) { ShowBar(owner); }
+  ~BusyForm() { HideBar(m_owner); }
+  BusyForm(const BusyForm&) = delete;
+  BusyForm& operator=(const BusyForm&) = delete;
+
+ private:
+  TForm* m_owner;
+};
+
+}  // namespace
+
+void CMInterface::ShowResultTotals(corvane::CorvaneStream& answer) {
+  constexpr const char* kLines[][2] = {{"UI51028", "SUCTOTALNUM"},
+                                       {"UI51029", "SUCTOTALMONEY"},
+                                       {"UI51030", "ERRTOTALNUM"},
+                                       {"UI51031", "ERRTOTALMONEY"}};
+  std::string text;
+  for (const auto& [label, field] : kLines) {
+    if (!text.empty()) text += "\r\n";
+    text += g_pTranslate->Translate(label) + "\t" + answer.getValue(field);
+  }
+  ShowWarnMsg(text, nullptr);
+}
+
+bool CMInterface::SendRequest(const std::string& code, corvane::CorvaneStream& request,
+                              corvane::CorvaneStream& answer, TForm* owner) {
+  BusyForm busy(owner);
+  answer.clear();
+  try {
+    answer = g_pSafeCom->SendStream(code, request);
+    return true;
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  } catch (...) {
+    // Nothing is known about a failure of another class that could be told to the user.
+  }
+  answer.clear();
+  return false;
+}
+
+std::string CMInterface::GetOperatorNo() {
+  try {
+    return UserField("OPRNO");
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+    return {};
+  }
+}
+
+std::string CMInterface::GetServerDate() {
+  return g_pSafeCom->GetServerTime().getDateTime().substr(0, 8);
+}
+
+bool CMInterface::NormalizeAmount(const char* text, std::string& out) {
+  return norvik::NormalizeAmountText(text == nullptr ? "" : text, out);
+}
+
+void CMInterface::LoadBusinessFlows(const char* bsnCode) {
+  m_flows.clear();
+  m_flowsPrimary.clear();
+  m_flowsOther.clear();
+  m_bsnCode = bsnCode;
+  try {
+    corvane::Row criteria;
+    criteria["BSNCODE"] = m_bsnCode;
+    corvane::List businesses = g_pPubInfo->GetList("CMLGBSN").filter(criteria, true);
+    corvane::List operations = g_pPubInfo->GetList("CMLGBSNOPR");
+    for (unsigned i = 0; i < businesses.size(); ++i) {
+      corvane::Row flow;
+      flow["FLOWID"] = Value(businesses[i], "FLOWID");
+      for (unsigned j = 0; j < operations.size(); ++j) {
+        if (Value(operations[j], "FLOWID") != flow["FLOWID"]) continue;
+        m_flows.addRow(flow);
+        (Value(operations[j], "PSTCLASS") == "01" ? m_flowsPrimary : m_flowsOther).addRow(flow);
+      }
+    }
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  }
+}
+
+int CMInterface::FindColumnByCaption(TKVXListView* listView, const std::string& caption) {
+  for (int i = 0; i < listView->Columns().Count(); ++i) {
+    if (listView->Columns()[i]->Caption() == caption) return i + 1;
+  }
+  return -1;
+}
+
+void CMInterface::PrintRecords(const std::string& className, const std::string& text, corvane::Row& head,
+                               corvane::List& rows) {
+  try {
+    g_pPrint->PrintList(className, text, head, rows);
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  }
+}
+
+void CMInterface::PrintSetup(const std::string& className) {
+  try {
+    g_pPrint->PrintSetup(className);
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  }
+}
+
+void CMInterface::ExportRecords(const std::string& fileName, corvane::Row& head, corvane::List& columns,
+                                corvane::List& rows, std::uint8_t fileType) {
+  try {
+    norvik::CompleteExportHead(head, UserField("OPRNM"));
+    if (norvik::IsTextFileName(fileName)) fileType = kText;
+    if (fileType == kWorkbook) g_pExcel->ExportExcel(fileName, head, columns, rows);
+    if (fileType == kText) {
+      g_pExcel->ExportText(fileName, head, columns, rows, kTextSeparator, kTextOption);
+    }
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  }
+}
+
+void CMInterface::SetControlHint(TControl* control) {
+  std::string text;
+  if (const auto* combo = dynamic_cast<TKVXComboBox*>(control)) {
+    text = combo->Text();
+  } else if (const auto* label = dynamic_cast<TLabel*>(control)) {
+    text = label->Caption();
+  } else {
+    return;
+  }
+  control->SetShowHint(true);
+  control->SetHint(text);
+}

@@ -1,0 +1,216 @@
+#include "framework/select_column.h"
+
+#include "dialogs/messages.h"
+#include "framework/column_order.h"
+#include "host/pub_info.h"
+#include "host/translate.h"
+#include "toolkit/buttons.h"
+#include "toolkit/conversion.h"
+#include "toolkit/labels.h"
+#include "toolkit/layout.h"
+#include "toolkit/list_view.h"
+#include "toolkit/menu.h"
+
+namespace {
+
+constexpr const char* kLayoutDocument = "COLUMN_INFO";
+constexpr int kHiddenMaxWidth = 1;
+constexpr int kMaxWidthAfterDialog = 1000;
+constexpr int kNoMaxWidth = 0;
+
+// Sub-items of an entry of the dialog's list.
+enum SubItem { kColumnId = 0, kColumnIdentity = 1, kColumnIndex = 2 };
+
+bool IsOffered(const TListColumn* column) {
+  return !column->Caption().empty() && column->Tag() != norvik::kInternalColumnTag;
+}
+
+bool IsShown(const TListColumn* column) {
+  return column->MaxWidth() != kHiddenMaxWidth;
+}
+
+void HideColumn(TListColumn* column) {
+  column->SetMinWidth(0);
+  column->SetMaxWidth(kHiddenMaxWidth);
+  column->SetWidth(0);
+}
+
+void ShowColumn(TListColumn* column, int width, int maxWidth) {
+  column->SetMinWidth(0);
+  column->SetMaxWidth(maxWidth);
+  column->SetWidth(width);
+}
+
+TListColumn* FindColumn(TKVXListView* listView, const std::string& caption) {
+  for (int i = 0; i < listView->Columns().Count(); ++i) {
+    if (listView->Columns()[i]->Caption() == caption) return listView->Columns()[i];
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+struct TfrmSelectColumn::SavedColumn {
+  std::string caption;
+  std::string id;
+  int width;
+  int tag;
+  TAlignment alignment;
+  bool offered;
+};
+
+TfrmSelectColumn::TfrmSelectColumn(TComponent* owner, const AnsiString& className, TKVXListView* listView)
+    : TBaseForm(owner), m_strClassName(className), m_pListView(listView) {}
+
+void TfrmSelectColumn::Construct() {
+  TBaseForm::Construct();
+  m_nColumnCount = m_pListView->Columns().Count();
+  RememberWidths();
+  m_columnInfo = g_pPubInfo->GetIniplus(kLayoutDocument);
+  RestoreWidths();
+}
+
+const std::string& TfrmSelectColumn::ColumnId(int index) const {
+  return m_pListView->ColumnIds().at(static_cast<std::size_t>(index));
+}
+
+void TfrmSelectColumn::RememberWidths() {
+  for (int i = 0; i < m_pListView->Columns().Count(); ++i) {
+    const int width = m_pListView->Columns()[i]->Width();
+    if (width != 0) m_widths[ColumnId(i)] = width;
+  }
+}
+
+void TfrmSelectColumn::RestoreWidths() {
+  for (const corvane::Row& saved : m_columnInfo.getSection(m_strClassName)) {
+    const std::string caption = saved.getValue("ColumnCaption");
+    const int width = StrToIntDef(saved.getValue("ColumnWidth"), -1);
+    TListColumn* column = caption.empty() || width < 0 ? nullptr : FindColumn(m_pListView, caption);
+    if (column == nullptr) continue;
+    ShowColumn(column, width, width == 0 ? kHiddenMaxWidth : kNoMaxWidth);
+  }
+}
+
+void TfrmSelectColumn::SaveColumnInfo() {
+  const TListColumns& columns = m_pListView->Columns();
+  // A list whose column table could not be read has no layout that were worth more than the saved one.
+  if (columns.Count() == 0) return;
+  RememberWidths();
+  corvane::List layout;
+  for (int i = 0; i < columns.Count(); ++i) {
+    if (!IsOffered(columns[i])) continue;
+    corvane::Row row;
+    row["ColumnID"] = ColumnId(i);
+    row["ColumnWidth"] = IntToStr(IsShown(columns[i]) ? m_widths[ColumnId(i)] : 0);
+    row["ColumnCaption"] = columns[i]->Caption();
+    row["ColumnOrder"] = IntToStr(i);
+    layout.addRow(std::move(row));
+  }
+  try {
+    m_columnInfo = g_pPubInfo->GetIniplus(kLayoutDocument);
+  } catch (const corvane::TException&) {
+    // The document as it was read at the start is as good as there is.
+  }
+  m_columnInfo.setSection(m_strClassName, layout);
+  g_pPubInfo->SetIniplus(kLayoutDocument, m_columnInfo);
+}
+
+void TfrmSelectColumn::PrepareColumnMenu(TPopupMenu* menu) {
+  m_pMenu = menu;
+  RememberWidths();
+  m_pMenu->Items()->Clear();
+  corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", m_strClassName);
+  m_strFirstColId = fieldDefs.size() == 0 ? std::string() : fieldDefs[0].getValue("COLID");
+  const auto addEntry = [this](const std::string& caption, void (TfrmSelectColumn::*click)(TObject*)) {
+    auto* entry = new TMenuItem(m_pMenu);
+    entry->SetCaption(caption);
+    entry->OnClick = [this, click](TObject* sender) { (this->*click)(sender); };
+    m_pMenu->Items()->Add(entry);
+    return entry;
+  };
+  for (int i = 0; i < m_pListView->Columns().Count(); ++i) {
+    const TListColumn* column = m_pListView->Columns()[i];
+    if (!IsOffered(column)) continue;
+    TMenuItem* entry = addEntry(column->Caption(), &TfrmSelectColumn::ItemClick);
+    entry->SetAutoCheck(true);
+    entry->SetTag(column->ID());
+    entry->SetImageIndex(i);
+    entry->SetChecked(IsShown(column));
+    entry->SetEnabled(i != 0 && ColumnId(i) != m_strFirstColId);
+  }
+  if (m_bDialogOffered) {
+    m_pMenu->Items()->AddLine();
+    addEntry(TranslateKey("UI12568"), &TfrmSelectColumn::DialogClick);
+    m_btnConfirm->SetEnabled(true);
+    m_btnClose->SetEnabled(true);
+  }
+  FormShow(this);
+}
+
+void TfrmSelectColumn::ItemClick(TObject* sender) {
+  const auto* entry = dynamic_cast<TMenuItem*>(sender);
+  if (entry == nullptr) return;
+  TListColumn* column = m_pListView->Columns().FindItemID(static_cast<int>(entry->Tag()));
+  if (column == nullptr) return;
+  if (entry->Checked()) {
+    ShowColumn(column, m_widths[ColumnId(entry->ImageIndex())], kNoMaxWidth);
+  } else {
+    HideColumn(column);
+  }
+}
+
+void TfrmSelectColumn::DialogClick(TObject*) {
+  RememberWidths();
+  FillList();
+  ShowModal();
+}
+
+void TfrmSelectColumn::FillList() {
+  m_lvMain->Items().Clear();
+  for (int i = 0; i < m_pListView->Columns().Count(); ++i) {
+    const TListColumn* column = m_pListView->Columns()[i];
+    if (!IsOffered(column)) continue;
+    TListItem* item = m_lvMain->Items().Add();
+    item->SetCaption(column->Caption());
+    item->AddSubItem(ColumnId(i));
+    item->AddSubItem(IntToStr(column->ID()));
+    item->AddSubItem(IntToStr(column->Index()));
+    item->SetChecked(IsShown(column));
+  }
+}
+
+void TfrmSelectColumn::RebuildColumns() {
+  std::vector<SavedColumn> saved;
+  for (int i = 0; i < m_pListView->Columns().Count(); ++i) {
+    const TListColumn* column = m_pListView->Columns()[i];
+    saved.push_back({column->Caption(), ColumnId(i), column->Width(), column->Tag(), column->Alignment(),
+                     IsOffered(column)});
+  }
+  m_pListView->Clear();
+  m_pListView->Columns().Clear();
+  m_pListView->ColumnIds().clear();
+  for (int i = 0; i < m_lvMain->Items().Count(); ++i) {
+    const TListItem* item = m_lvMain->Items()[i];
+    for (const SavedColumn& column : saved) {
+      if (!column.offered || column.id != item->SubItems(kColumnId)) continue;
+      AddColumn(column, item->Checked());
+      break;
+    }
+  }
+  for (const SavedColumn& column : saved) {
+    if (!column.offered) AddColumn(column, false);
+  }
+}
+
+void TfrmSelectColumn::AddColumn(const SavedColumn& saved, bool shown) {
+  TListColumn* column = m_pListView->Columns().Add();
+  m_pListView->ColumnIds().push_back(saved.id);
+  column->SetCaption(saved.caption);
+  column->SetTag(saved.tag);
+  column->SetAlignment(saved.alignment);
+  if (shown) {
+    ShowColumn(column, saved.width != 0 ? saved.width : m_widths[saved.id], kMaxWidthAfterDialog);
+  } else {
+    HideColumn(column);
+  }
+}

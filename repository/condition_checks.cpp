@@ -1,0 +1,65 @@
+#include "repository/condition_checks.h"
+
+#include "dialogs/validators.h"
+#include "framework/amount_text.h"
+#include "framework/date_range.h"
+#include "toolkit/conversion.h"
+
+namespace norvik {
+namespace {
+
+constexpr std::size_t kAccountsInRow = 20;
+
+bool Malformed(const std::string& date) {
+  return !date.empty() && !CheckDate(date).empty();
+}
+
+void Normalize(std::string& amount) {
+  const std::string typed = amount;
+  NormalizeAmountText(typed, amount);
+}
+
+}  // namespace
+
+DateRangeFault CheckDateRange(const DateRangeRule& rule, const std::string& start, const std::string& end) {
+  const bool compulsory = rule.tooLong != nullptr;
+  if (compulsory && start.empty()) return {rule.startMissing};
+  if (Malformed(start)) return {rule.startMalformed};
+  if (compulsory && end.empty()) return {rule.endMissing};
+  if (Malformed(end)) return {rule.endMalformed};
+  if (!start.empty() && end.empty()) return {rule.endMissing};
+  if (start.empty() && !end.empty()) return {rule.startMissing};
+  if (end < start) return {rule.reversed, true};
+  if (compulsory && DaysBetweenDates(start, end) >= kLongestPeriod) return {rule.tooLong, true};
+  return {};
+}
+
+std::string CheckAmounts(std::string& minimum, std::string& maximum) {
+  if (minimum.empty() && maximum.empty()) return {};
+  if (minimum.empty()) {
+    Normalize(maximum);
+    return "UI44564";
+  }
+  Normalize(minimum);
+  if (maximum.empty()) return "UI44565";
+  Normalize(maximum);
+  if (StrToFloat(maximum) <= 0) {
+    maximum.clear();
+    return "UI44566";
+  }
+  return StrToFloat(minimum) > StrToFloat(maximum) ? "UI44567" : "";
+}
+
+std::vector<std::string> AccountBatches(const std::vector<std::string>& accounts) {
+  std::vector<std::string> batches;
+  for (std::size_t i = 0; i < accounts.size(); ++i) {
+    if (i % kAccountsInRow == 0) {
+      batches.push_back(accounts[i]);
+    } else {
+      batches.back() += "|" + accounts[i];
+    }
+  }
+  return batches;
+}
+
+}  // namespace norvik

@@ -1,0 +1,127 @@
+// What the three query screens of the bill repository share: accounts and their custody institutions, the
+// request, the answer, the row actions and print. A screen adds its table of conditions, its profile and a
+// few rules of its own.
+//
+// Where the operator goes back to all accounts, m_cbxBankNo holds nothing but its all-entry: the institutions
+// of the account that was left say nothing about all of them.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "framework/query_common.h"
+#include "framework/query_form.h"
+#include "repository/condition.h"
+#include "repository/condition_checks.h"
+
+class TbsSkinRadioGroup;
+class TRecordInfoForm;
+
+namespace norvik {
+
+// A column of the answer that holds codes, and the dictionary of their texts.
+struct CodedColumn {
+  const char* field;
+  const char* dictionary;
+};
+
+// What a screen is, beside its conditions.
+struct CustodyProfile {
+  const char* businessCode;
+  const char* exportType;
+  const char* captionKey;
+  std::vector<CodedColumn> codedColumns;  // in the order of decoding
+  ConditionCell dateChoiceCell;           // place of m_rgSelDate in the advanced panel
+  int dateChoiceFields;                   // and how many fields wide it is
+  int queryRow;                           // row of the query button in m_pnlNormal
+  bool advanceOpen;                       // m_pnlAdvance is open after a show
+  bool namesInstitutions;                 // BSNPUNM is the name of the bank number BSNPUNO
+  bool outputAlwaysOn;                    // m_actOutput is on after every click, also without a tick
+};
+
+}  // namespace norvik
+
+class TCustodyQueryForm : public TQueryForm {
+  Q_OBJECT
+
+ public:
+  explicit TCustodyQueryForm(TComponent* owner);
+  ~TCustodyQueryForm() override;
+
+  void BuildControls() override;
+  void SetCaptions() override;
+  void Construct() override;
+  void ResetForm() override;
+  void m_lvMainClick(TObject* sender) override;
+  void SelectAll(TObject* sender) override;
+  void FormClose(TObject* sender) override;
+  void FormDestroy() override;
+  void m_lvMainMouseDown(TObject* sender, TMouseButton button, TShiftState shift, int x, int y) override;
+
+  // One query: checks, request, exchange, list.
+  void m_actQueryExecute(TObject* sender) override;
+  void m_actPrintExecute(TObject* sender) override;
+  void m_actPrintSetExecute(TObject* sender) override;
+  // Shows the record of the ticked row; nothing is asked of the bank.
+  virtual void m_actTicketInfoExecute(TObject* sender);
+  // Another account: asks the bank for its custody institutions. All accounts: only the all-entry is left.
+  virtual void m_cbxAccChange(TObject* sender);
+  // The quick choice writes its range into the dates that it acts on.
+  virtual void m_rgSelDateClick(TObject* sender);
+
+  // True when a query may go; otherwise the first fault has been told and the list stays as it was.
+  virtual bool CheckConditions() = 0;
+  // Puts the account list and all fields of the request onto an empty stream.
+  void BuildQueryRequest(corvane::CorvaneStream& stream);
+  // Decodes the answer's rows and gives them to the list; an answer without rows empties it and says so.
+  void ShowQueryResult(corvane::CorvaneStream& answer);
+
+  TKVXComboBox* m_cbxAcc = nullptr;
+  TKVXComboBox* m_cbxBankNo = nullptr;
+  TKVXEdit* m_edNo = nullptr;
+  TKVXComboBox* m_cbxType = nullptr;
+  TKVXComboBox* m_cbxBankRmk = nullptr;
+  TbsSkinRadioGroup* m_rgSelDate = nullptr;
+  TbsSkinButton* m_btnTicketInfo = nullptr;
+  TAction* m_actTicketInfo = nullptr;
+  TAction* m_actECDSSignInfo = nullptr;
+  TAction* m_actECDSHistoryInfo = nullptr;
+  TAction* m_actBigResult = nullptr;
+
+ protected:
+  virtual const norvik::CustodyProfile& Profile() const = 0;
+  virtual std::vector<norvik::Condition> Conditions() = 0;
+  // Fills the boxes that the host's dictionaries fill; runs at each show. A failure goes up.
+  virtual void LoadDictionaries() = 0;
+  // The dates that the quick choice acts on.
+  virtual std::pair<TKVXDateTime*, TKVXDateTime*> QuickDates() = 0;
+  // The dialog of a row's record.
+  virtual TRecordInfoForm* NewRecordView() = 0;
+  // Runs at each show, when entry 0 of m_cbxAcc has been selected.
+  virtual void StartAccount() { m_cbxAccChange(this); }
+
+  // Lines of the table that all screens have.
+  norvik::Condition AccountCondition(norvik::ConditionCell cell, const char* starName);
+  norvik::Condition InstitutionCondition(norvik::ConditionCell cell, const char* starName);
+  norvik::Condition BillNumberCondition(norvik::ConditionCell cell, bool trimmed);
+  norvik::Condition BillTypeCondition(norvik::ConditionCell cell, const char* starName);
+  norvik::Condition BankRemarkCondition(norvik::ConditionCell cell);
+
+  // Tells a fault of the conditions; always false.
+  bool Refuse(const std::string& messageKey);
+  // Checks a pair of dates and tells its first fault, which may empty both; true when they pass.
+  bool CheckDates(const norvik::DateRangeRule& rule, TKVXDateTime* start, TKVXDateTime* end);
+
+  std::unique_ptr<CQueryCommon> m_pCommon;
+  corvane::Property m_selectedRow;  // the ticked row when it is exactly one; kept when the tick goes away
+
+ private:
+  void FollowTicks();
+  void ShowOfferedActions();
+  void AddAccounts(corvane::CorvaneStream& stream);
+  void ShowInstitutions(corvane::List& institutions);
+
+  norvik::ConditionTable m_conditions;
+};
