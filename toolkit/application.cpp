@@ -109,7 +109,12 @@ void CreateApplication() {
 }
 
 void DestroyApplication() {
-  while (Screen != nullptr && Screen->FormCount() > 0) DestroyForm(Screen->Forms(Screen->FormCount() - 1));
+  while (Screen != nullptr && Screen->FormCount() > 0) {
+    // A form that another one owns is still whole when its owner's FormDestroy runs.
+    TForm* form = Screen->Forms(Screen->FormCount() - 1);
+    while (auto* owner = dynamic_cast<TForm*>(form->Owner())) form = owner;
+    DestroyForm(form);
+  }
   delete Application;
   Application = nullptr;
   delete Screen;
