@@ -152,10 +152,21 @@ TbsSkinScrollBar::TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind)
   SetWidget(new QScrollBar(kind == sbHorizontal ? Qt::Horizontal : Qt::Vertical));
 }
 
+TbsSkinScrollBar::~TbsSkinScrollBar() {
+  // An area whose bar is deleted under it keeps a dangling pointer; with a new bar it deletes the old one
+  // itself.
+  if (area_) GiveTo(area_, new QScrollBar(kind_ == sbHorizontal ? Qt::Horizontal : Qt::Vertical));
+}
+
 void TbsSkinScrollBar::AttachTo(TWinControl* control) {
   auto* area = qobject_cast<QAbstractScrollArea*>(control->Widget());
   auto* bar = static_cast<QScrollBar*>(Widget());
   if (area == nullptr || bar == nullptr) return;
+  area_ = area;
+  GiveTo(area, bar);
+}
+
+void TbsSkinScrollBar::GiveTo(QAbstractScrollArea* area, QScrollBar* bar) const {
   if (kind_ == sbHorizontal) {
     area->setHorizontalScrollBar(bar);
   } else {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAbstractScrollArea>
+#include <QPointer>
 #include <string>
 
 #include "toolkit/control.h"
@@ -7,6 +9,7 @@
 
 class QLabel;
 class QScrollArea;
+class QScrollBar;
 class QToolButton;
 
 /// A plain container.
@@ -117,6 +120,7 @@ class TbsSkinScrollBar : public TbsSkinControl {
 
  public:
   explicit TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind = sbVertical);
+  ~TbsSkinScrollBar() override;
 
   TScrollBarKind Kind() const { return kind_; }
   /// Becomes the scroll bar of a list, tree, memo or scroll box; any other control leaves it alone.
@@ -126,7 +130,10 @@ class TbsSkinScrollBar : public TbsSkinControl {
   QWidget* FocusWidget() const override { return nullptr; }
 
  private:
+  void GiveTo(QAbstractScrollArea* area, QScrollBar* bar) const;
+
   TScrollBarKind kind_;
+  QPointer<QAbstractScrollArea> area_;
 };
 
 /// A strip for buttons, laid out from left to right in the order in which they come.
