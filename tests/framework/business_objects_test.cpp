@@ -1,0 +1,258 @@
+// The business objects over a host and real lists and boxes.
+#include <gtest/gtest.h>
+
+#include "framework/query_common.h"
+#include "host/pub_info.h"
+#include "tests/support/screen_host.h"
+#include "toolkit/application.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/date_edit.h"
+#include "toolkit/labels.h"
+#include "toolkit/list_view.h"
+#include "toolkit/radio_group.h"
+#include "toolkit/text.h"
+
+using fakehost::Library;
+
+namespace {
+
+struct BusinessObjects : testing::Test {
+  void SetUp() override {
+    form = CreateForm<TForm>(nullptr);
+    list = NewComponent<TKVXListView>(form, "list");
+    box = NewComponent<TKVXComboBox>(form, "box");
+    for (TControl* control : std::initializer_list<TControl*>{list, box}) control->SetParent(form);
+  }
+  void TearDown() override { DestroyForm(form); }
+
+  // "caption:id:width:tag" of each column; a hidden one has "-" for its width.
+  std::string Columns() const {
+    std::string text;
+    for (int i = 0; i < list->Columns().Count(); ++i) {
+      const TListColumn* column = list->Columns()[i];
+      text += column->Caption() + ":" + list->ColumnIds()[static_cast<std::size_t>(i)] + ":" +
+              (column->MaxWidth() == 1 ? "-" : std::to_string(column->Width())) + ":" +
+              std::to_string(column->Tag()) + " ";
+    }
+    return text;
+  }
+  std::string Entries() const {
+    std::string text;
+    for (std::size_t i = 0; i < box->Items().Count(); ++i)
+      text += box->Keys()[i] + "=" + box->Items()[i] + " ";
+    return text;
+  }
+
+  ScreenHost host;
+  CQueryCommon common;
+  TForm* form = nullptr;
+  TKVXListView* list = nullptr;
+  TKVXComboBox* box = nullptr;
+};
+
+TEST_F(BusinessObjects, BuildColumnsFromTableAndLayout) {
+  const ScreenHost::Table table = {{"A", "UI44008", "100", "L", "C"},
+                                   {"B", "UI44344", "80", "R", "M"},
+                                   {"C", "UI44005", "0", "C", "N"},
+                                   {"D", "UI99999", "5", "?", "R"}};
+  const struct {
+    ScreenHost::Table table;
+    ScreenHost::Table layout;
+    std::string expected;
+    std::string workingTable;
+  } cases[] = {
+      {table, {}, "UI44008:A:100:0 UI44344:B:80:2 UI44005:C:-:100 :D:-:5 ", "C:UI44005 A:UI44008 B:UI44344 "},
+      {table,
+       {{"B", "1", "x"}, {"GONE", "1", "x"}, {"D", "1", "x"}, {"B", "1", "x"}, {"C", "1", "x"}},
+       "UI44344:B:80:2 :D:-:5 UI44008:A:100:0 UI44005:C:-:100 ",
+       "C:UI44005 A:UI44008 B:UI44344 "},
+      {{}, {{"B", "1", "x"}}, "", ""},
+  };
+  for (const auto& c : cases) {
+    host.libraries.calls.clear();
+    host.SetColumns("TList", c.table);
+    host.SetLayout("TList", c.layout);
+    common.InitListColumns(list, "TList");
+    EXPECT_EQ(Columns(), c.expected);
+    std::string stored;
+    for (const fakehost::Call& call : host.Stored(58, "TList")) {
+      for (const auto& [caption, section] : corvane::Ini(call.arguments.at(1))) {
+        stored += section.getValue("COLID") + ":" + caption + " ";
+      }
+    }
+    EXPECT_EQ(stored, c.workingTable);
+  }
+  EXPECT_EQ(common.FindColumnByCaption(list, "x"), -1);
+  host.SetColumns("TList", table);
+  host.SetLayout("TList", {});
+  common.InitListColumns(list, "TList");
+  EXPECT_EQ(common.FindColumnByCaption(list, "UI44344"), 2);
+  EXPECT_EQ(list->Columns()[1]->Alignment(), taRightJustify);
+}
+
+TEST_F(BusinessObjects, KeepTheColumnsBuiltBeforeAFailure) {
+  host.SetColumns("TList", {{"A", "UI44008", "100", "L", "C"}, {"B", "UI44344", "wide", "R", "M"}});
+  host.SetErrorText("'wide' is not a valid integer value", "bad width");
+  EXPECT_EQ(FailureOf([&] { common.InitListColumns(list, "TList"); }), "bad width");
+  EXPECT_EQ(list->Columns().Count(), 2);
+  EXPECT_EQ(host.Stored(58, "TList").size(), 0u);
+}
+
+TEST_F(BusinessObjects, ListEachAccountOnceBehindThePrompt) {
+  host.SetList("CMLGBSNOPR",
+               ScreenHost::ListOf({{"FLOWID", "PSTCLASS"}, {"F1", "01"}, {"F1", "02"}, {"F2", "01"}}));
+  host.SetList("CMLGBSNACC", ScreenHost::ListOf({{"FLOWID", "ACCNO", "ACCNM"},
+                                                 {"F1", "622", "Main"},
+                                                 {"F9", "999", "Not ours"},
+                                                 {"F1", "622", "Again"},
+                                                 {"F1", "111", ""}}));
+  common.LoadBusinessFlows("CB200310");
+  common.LoadAccountCombo(box, true);
+  EXPECT_EQ(Entries(), "-9999=UI54176 622=622-Main 111=111- ");
+  EXPECT_EQ(box->ItemIndex(), 0);
+  common.LoadAccountCombo(box, false);
+  EXPECT_EQ(Entries(), "-9999=UI53241 622=622-Main 111=111- ");
+  common.LoadBusinessFlows("CB000000");
+  common.LoadAccountCombo(box, true);
+  EXPECT_EQ(Entries(), "");
+}
+
+TEST_F(BusinessObjects, DecodeWhatTheDictionaryKnows) {
+  host.SetTable("BUSINESSDICT", "D",
+                ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"1", "UI12016"}, {"1", "UI12017"}}));
+  corvane::List rows = ScreenHost::ListOf({{"CODE"}, {"1"}, {"7"}, {""}});
+  common.DecodeDictColumn(rows, "CODE", "D");
+  common.DecodeDictColumn(rows, "OTHER", "D");
+  EXPECT_EQ(rows[0].getValue("CODE") + rows[1].getValue("CODE") + rows[2].getValue("CODE"), "UI120167");
+  EXPECT_FALSE(rows[0].hasField("OTHER"));
+  host.SetTable("BUSINESSDICT", "E", ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"", "UI12017"}}));
+  common.DecodeDictColumn(rows, "OTHER", "E");
+  EXPECT_EQ(rows[0].getValue("OTHER"), "UI12017");
+
+  common.LoadDictCombo(box, "BILLTYPE");
+  EXPECT_EQ(Entries(), "-9999=UI40115 AC01=UI40116 AC02=UI40117 ");
+  host.libraries.SetAnswer(Library::kPublicInformation, 90, {"BUSINESSDICT", "GONE"},
+                           fakehost::Refusal("no such"));
+  EXPECT_THROW(common.LoadDictCombo(box, "GONE"), corvane::TIOException);
+  EXPECT_EQ(box->Items().Count(), 0u);
+  host.SetErrorText("no such", "no dictionary");
+  EXPECT_EQ(FailureOf([&] { common.DecodeDictColumn(rows, "CODE", "GONE"); }), "no dictionary");
+}
+
+TEST_F(BusinessObjects, ReportAFailedExchangeAndEmptyTheAnswer) {
+  corvane::CorvaneStream request;
+  corvane::CorvaneStream answer;
+  answer.addField(corvane::Field("OLD", "1"));
+  host.RefuseExchange("ET90001\r\nET90002");
+  host.SetErrorText("ET90001\r\nET90002", "refused");
+  EXPECT_EQ(FailureOf([&] { EXPECT_FALSE(common.SendRequest("X", request, answer, form)); }), "refused");
+  EXPECT_EQ(answer.getValue("OLD"), "");
+  host.SetAnswerRows(ScreenHost::ListOf({{"A"}, {"1"}}));
+  EXPECT_TRUE(common.SendRequest("X", request, answer, form));
+  EXPECT_EQ(answer.getList("resultList").size(), 1u);
+  EXPECT_EQ(request.getEncoding(), "GBK");
+}
+
+TEST_F(BusinessObjects, LeaveExactlyTheRefusedRecords) {
+  host.SetColumns("TList", {{"A", "UI44008", "100", "L", "C"}});
+  common.InitListColumns(list, "TList");
+  corvane::List rows = ScreenHost::ListOf({{"A"}, {"carried out"}, {"refused"}, {"not ticked"}});
+  common.FillListView(list, rows);
+  list->Items()[0]->SetChecked(true);
+  list->Items()[1]->SetChecked(true);
+  corvane::CorvaneStream answer;
+  corvane::List refused =
+      ScreenHost::ListOf({{"ID", "FLAG"}, {"1", "ET5"}, {"77", "ET6"}, {"x", "ET7"}, {"-1", "ET8"}});
+  refused.setAttribute("name", "resultList");
+  answer.addList(refused);
+  common.ApplyResultList(answer, "resultList", list);
+  common.RemoveCompletedItems(list);
+  ASSERT_EQ(list->Items().Count(), 2);
+  EXPECT_EQ(list->Items()[0]->Data()->getValue("Reason"), "ET5");
+  EXPECT_EQ(list->Items()[0]->Data()->getValue("Color"), "255");
+  EXPECT_EQ(list->Items()[1]->Caption(), "not ticked");
+  EXPECT_EQ(list->ItemIndex(), -1);
+}
+
+TEST_F(BusinessObjects, ExportByTypeAndName) {
+  const struct {
+    const char* file;
+    std::uint8_t type;
+    std::uint32_t ordinal;  // of the spreadsheet library; 0: not called
+  } cases[] = {{"a.xls", 1, 2}, {"a.Txt", 1, 5}, {"a.xls", 3, 5}, {"a.xml", 2, 0}, {"a", 9, 0}};
+  for (const auto& c : cases) {
+    host.libraries.calls.clear();
+    corvane::Row head;
+    head["BEQRY"] = head["TYPENAME"] = "x";
+    corvane::List columns;
+    corvane::List rows;
+    common.ExportRecords(c.file, head, columns, rows, c.type);
+    for (const std::uint32_t ordinal : {2u, 5u}) {
+      EXPECT_EQ(host.libraries.CallsOf(Library::kExcel, ordinal).size(), c.ordinal == ordinal ? 1u : 0u)
+          << c.file;
+    }
+    EXPECT_EQ(head.getValue("USERNAME") + head.getValue("QUERYUSER") + head.getValue("CONDITION"),
+              "OperatorUI50258UI50260");
+    EXPECT_FALSE(head.hasField("BEQRY"));
+  }
+}
+
+TEST_F(BusinessObjects, FollowAndLimitTypedDates) {
+  auto* start = NewComponent<TKVXDateTime>(form, "start");
+  auto* end = NewComponent<TKVXDateTime>(form, "end");
+  auto* radio = NewComponent<TbsSkinRadioGroup>(form, "radio");
+  for (TControl* control : std::initializer_list<TControl*>{start, end, radio}) control->SetParent(form);
+  for (const char* item : {"today", "week", "month", "last", "other"}) radio->Items().Add(item);
+  radio->SetItemIndex(3);
+  common.ApplyDateRadio(start, end, radio);
+  EXPECT_EQ(start->Text() + end->Text(), "2026100120261031");
+  end->SetText("20991231");
+  common.LimitEndDate(start, end, radio);
+  EXPECT_EQ(end->Text(), "20261122");
+  EXPECT_EQ(radio->ItemIndex(), 4);
+  start->SetText("");
+  radio->SetItemIndex(1);
+  common.LimitStartDate(start, end, radio);
+  EXPECT_EQ(radio->ItemIndex(), 1);  // an empty date is left alone altogether
+}
+
+TEST_F(BusinessObjects, TurnCodesIntoTexts) {
+  for (const char* key : {"UI52150", "UI52140", "UI52424"}) host.SetText(key, key);
+  host.SetText("UI52879", "seven");
+  corvane::List rows = ScreenHost::ListOf({{"STT", "AGREE"}, {"", "0"}, {"0", "8"}, {"7", ""}, {"16", "x"}});
+  common.FormatStatus(rows, "UI52879");
+  common.FormatAgree(rows);
+  std::string texts;
+  for (const corvane::Row& row : rows) texts += row.getValue("STT") + "/" + row.getValue("AGREE") + " ";
+  EXPECT_EQ(texts, "UI52150/UI52424 UI52140/8 seven/ 16/x ");
+}
+
+TEST_F(BusinessObjects, AnswerSmallQuestions) {
+  EXPECT_EQ(common.GetOperatorNo(), "007");
+  EXPECT_EQ(common.GetServerDate(), "20261122");
+  host.Configure("APPLICATION.BUSINESS.SET", "LISTVIEW.MAXRECORD", "100");
+  EXPECT_TRUE(common.CheckRecordLimit(100));
+  EXPECT_EQ(MessageOf([&] { EXPECT_FALSE(common.CheckRecordLimit(101)); }), "UI53329");
+  EXPECT_TRUE(common.IsAlphanumeric("aZ09"));
+  for (const std::string& text : {std::string(), std::string("a b"), Ansi("号"), std::string("a-")}) {
+    EXPECT_FALSE(common.IsAlphanumeric(text)) << text;
+  }
+  auto* label = NewComponent<TLabel>(form, "label");
+  label->SetCaption("long text");
+  common.SetControlHint(label);
+  EXPECT_EQ(label->Hint(), "long text");
+  common.SetControlHint(list);
+  common.SetControlHint(nullptr);
+  EXPECT_FALSE(list->ShowHint());
+}
+
+TEST_F(BusinessObjects, TellTheTotalsOfABatch) {
+  for (const char* key : {"UI51028", "UI51029", "UI51030", "UI51031"}) host.SetText(key, key);
+  corvane::CorvaneStream answer;
+  answer.addField(corvane::Field("SUCTOTALNUM", "3"));
+  answer.addField(corvane::Field("ERRTOTALMONEY", "5.00"));
+  EXPECT_EQ(MessageOf([&] { common.ShowResultTotals(answer); }),
+            "UI51028\t3\r\nUI51029\t\r\nUI51030\t\r\nUI51031\t5.00");
+}
+
+}  // namespace

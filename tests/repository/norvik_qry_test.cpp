@@ -1,0 +1,300 @@
+// The repository screen with real widgets and a host of the tests' own.
+#include "repository/norvik_qry.h"
+
+#include <gtest/gtest.h>
+
+#include "repository/record_info_form.h"
+#include "tests/support/screen_host.h"
+#include "toolkit/action.h"
+#include "toolkit/application.h"
+#include "toolkit/buttons.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/date_edit.h"
+#include "toolkit/labels.h"
+#include "toolkit/list_box.h"
+#include "toolkit/list_view.h"
+#include "toolkit/panels.h"
+#include "toolkit/radio_group.h"
+#include "toolkit/text.h"
+
+namespace {
+
+const corvane::List kBills = ScreenHost::ListOf({{"BILLNUM", "BILLTYP", "AGTSTAT", "PAYAMT", "TENDFLG"},
+                                                 {"B1", "AC01", "02", "10.50", "1"},
+                                                 {"B2", "AC02", "99", "20.00", "0"},
+                                                 {"B3", "AC02", "03", "", ""}});
+
+struct NorvikQry : testing::Test {
+  void SetUp() override {
+    host.SetColumns("TfrmNorvikQry", {{"BILLNUM", "UI44008", "100", "L", "C"},
+                                      {"PAYAMT", "UI44344", "80", "R", "M"},
+                                      {"AGTSTAT", "UI44005", "80", "L", "C"}});
+  }
+  TfrmNorvikQry* Open() {
+    form = CreateForm<TfrmNorvikQry>(Application);
+    form->Show();
+    return form;
+  }
+  std::string Request() {
+    corvane::CorvaneStream stream;
+    form->BuildQueryRequest(stream);
+    return stream.toString();
+  }
+  // "on" or "off" of the four row actions, output, print and the check-all box.
+  std::string Enabled() const {
+    std::string text;
+    for (const TAction* action : {form->m_actTicketInfo, form->m_actECDSSignInfo, form->m_actECDSHistoryInfo,
+                                  form->m_actBigResult, form->m_actOutput, form->m_actPrint}) {
+      text += action->Enabled() ? '1' : '0';
+    }
+    return text + (form->m_crbAllCheck->Enabled() ? '1' : '0') + (form->m_crbAllCheck->Checked() ? '1' : '0');
+  }
+  void Query(const corvane::List& rows = kBills) {
+    host.SetAnswerRows(rows);
+    form->m_actQuery->Execute();
+  }
+
+  ScreenHost host;
+  TfrmNorvikQry* form = nullptr;
+};
+
+// The fields that no condition fills.
+constexpr const char* kEmptyRequest =
+    "<ACCPNAM/><AGTBHNM/><AGTSTAT>02|03|12</AGTSTAT><AMTBEGN/><AMTENDS/><APLYDTE/><APLYDTS/><APPLYNO/"
+    "><APPREST/>"
+    "<APPTYPE/><BATCHNO/><BILLNUM/><BILLSID/><BILLTYP>AC00</BILLTYP><BKRMKTY/><BSNCODE>CB200310</"
+    "BSNCODE><BSNFLOW/>"
+    "<DSBKBNM/><DUEDATE/><DUEDATS/><HASIMPN/><PTENDNM/><SAVEDTE/><SAVEDTS/>";
+
+TEST_F(NorvikQry, SendsItsDefaults) {
+  Open();
+  EXPECT_EQ(form->ClassName(), "TfrmNorvikQry");
+  EXPECT_EQ(host.Requests("EBBADQAH").size(), 0u);
+  EXPECT_EQ(form->m_cbxBankNo->GetKey(), "-9999");
+  EXPECT_TRUE(form->m_pnlAdvance->RollState());
+  EXPECT_FALSE(form->m_pnlNormal->RollState());
+  EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
+  EXPECT_EQ(Enabled(), "00000000");
+  EXPECT_EQ(Request(), std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream>") + kEmptyRequest +
+                           "<list name=\"resultList\"><row><CUSTACC>A1|A2</CUSTACC></row></list></stream>");
+}
+
+TEST_F(NorvikQry, SendsEveryConditionAsTheBankMustGetIt) {
+  Open();
+  host.SetAnswerRows(ScreenHost::ListOf({{"AGTBHNM"}, {"313001000011"}, {"313001000022"}}));
+  form->m_cbxAcc->SetItemIndex(2);
+  form->m_cbxAccChange(form);
+  form->m_cbxBankNo->SetItemIndex(2);
+  form->m_edBatNo->SetText(" batch ");
+  form->m_edNo->SetText(" no ");
+  form->m_edBillId->SetText(" 12 ");
+  form->m_edBackName->SetText(Ansi(" 甲 "));
+  form->m_cbxType->SetItemIndex(1);
+  form->m_cbxBankRmk->SetItemIndex(1);
+  form->m_dtStorageStartDate->SetText("20260101");
+  form->m_dtStorageEndDate->SetText("20260102");
+  form->m_lbxAgentStt->SetSelected(0, true);
+  form->m_dtDeadStartDate->SetText("20260201");
+  form->m_dtDeadEndDate->SetText("20260202");
+  form->m_edMinAmount->SetText("1");
+  form->m_edMaxAmount->SetText("2");
+  form->m_pnlAdvance->SetRollState(false);
+  const std::string expected = Ansi(
+      "<AGTBHNM>313001000022</AGTBHNM><AGTSTAT>01|02|03|12</AGTSTAT><AMTBEGN>1</AMTBEGN><AMTENDS>2</AMTENDS>"
+      "<APLYDTE/><APLYDTS/><APPLYNO/><APPREST/><APPTYPE/><BATCHNO>batch</BATCHNO><BILLNUM>no</BILLNUM>"
+      "<BILLSID> 12 "
+      "</BILLSID><BILLTYP>AC01</BILLTYP><BKRMKTY>01</BKRMKTY><BSNCODE>CB200310</BSNCODE><BSNFLOW/>"
+      "<DSBKBNM/><DUEDATE>20260202</DUEDATE><DUEDATS>20260201</DUEDATS><HASIMPN/><PTENDNM>甲</PTENDNM>"
+      "<SAVEDTE>20260102</SAVEDTE><SAVEDTS>20260101</SAVEDTS><list "
+      "name=\"resultList\"><row><CUSTACC>A2</CUSTACC>"
+      "</row></list>");
+  EXPECT_NE(Request().find(expected), std::string::npos) << Request();
+  form->m_pnlAdvance->SetRollState(true);
+  const std::string rolledUp = Request();
+  for (const char* field : {"<DUEDATS/>", "<DUEDATE/>", "<AMTBEGN/>", "<AMTENDS/>"}) {
+    EXPECT_NE(rolledUp.find(field), std::string::npos) << field;
+  }
+}
+
+TEST_F(NorvikQry, ChecksInOrderAndSendsNothingAfterAFault) {
+  const struct {
+    const char* storage[2];
+    const char* dead[2];
+    const char* amounts[2];
+    bool advanced;
+    const char* message;
+    const char* left;  // of the six texts after the check
+  } cases[] = {
+      {{"2026", "x"}, {"", ""}, {"", ""}, false, "UI44816", "2026/x////"},
+      {{"20260101", "x"}, {"", ""}, {"", ""}, false, "UI44817", "20260101/x////"},
+      {{"20260101", ""}, {"", ""}, {"", ""}, false, "UI44872", "20260101/////"},
+      {{"", "20260101"}, {"", ""}, {"", ""}, false, "UI44871", "/20260101////"},
+      {{"20260102", "20260101"}, {"", ""}, {"", ""}, false, "UI44558", "/////"},
+      {{"", ""}, {"x", ""}, {"", "1"}, false, "", "//x///1"},
+      {{"", ""}, {"x", ""}, {"", "1"}, true, "UI44826", "//x///1"},
+      {{"", ""}, {"", "x"}, {"", ""}, true, "UI44827", "///x//"},
+      {{"", ""}, {"20260101", ""}, {"", ""}, true, "UI44870", "//20260101///"},
+      {{"", ""}, {"", "20260101"}, {"", ""}, true, "UI44869", "///20260101//"},
+      {{"", ""}, {"20260102", "20260101"}, {"", ""}, true, "UI44559", "/////"},
+      {{"", ""}, {"", ""}, {"", "1"}, true, "UI44564", "/////1.00"},
+      {{"", ""}, {"", ""}, {"1", ""}, true, "UI44565", "////1.00/"},
+      {{"", ""}, {"", ""}, {"1", "0"}, true, "UI44566", "////1.00/"},
+      {{"", ""}, {"", ""}, {"2", "1"}, true, "UI44567", "////2.00/1.00"},
+      {{"", ""}, {"", ""}, {"2", "2"}, true, "", "////2.00/2.00"},
+  };
+  Open();
+  host.SetAnswerRows(kBills);
+  for (const auto& c : cases) {
+    TCustomEdit* edits[] = {form->m_dtStorageStartDate, form->m_dtStorageEndDate, form->m_dtDeadStartDate,
+                            form->m_dtDeadEndDate,      form->m_edMinAmount,      form->m_edMaxAmount};
+    const char* texts[] = {c.storage[0], c.storage[1], c.dead[0], c.dead[1], c.amounts[0], c.amounts[1]};
+    for (int i = 0; i < 6; ++i) edits[i]->SetText(texts[i]);
+    form->m_pnlAdvance->SetRollState(!c.advanced);
+    host.libraries.calls.clear();
+    EXPECT_EQ(MessageOf([&] { form->m_actQuery->Execute(); }), c.message) << c.left;
+    EXPECT_EQ(host.Requests("EBBADQDB").size(), *c.message == '\0' ? 1u : 0u) << c.left;
+    std::string left = edits[0]->Text();
+    for (int i = 1; i < 6; ++i) left += "/" + edits[i]->Text();
+    // The minimum stands before the maximum.
+    EXPECT_EQ(left, c.left);
+  }
+  for (int i = 0; i < 4; ++i) form->m_lbxAgentStt->SetSelected(i, false);
+  EXPECT_EQ(MessageOf([&] { form->m_actQuery->Execute(); }), "UI44568");
+}
+
+TEST_F(NorvikQry, ShowsDecodedRowsAndFollowsTheTicks) {
+  Open();
+  Query();
+  ASSERT_EQ(form->m_lvMain->Items().Count(), 3);
+  const corvane::Property& first = *form->m_lvMain->Items()[0]->Data();
+  EXPECT_EQ(first.getValue("BILLTYP") + first.getValue("AGTSTAT") + first.getValue("TENDFLG"),
+            "UI40116UI46102UI12016");
+  EXPECT_EQ(form->m_lvMain->Items()[1]->Data()->getValue("AGTSTAT"), "99");
+  const struct {
+    std::vector<int> ticked;
+    const char* expected;
+  } cases[] = {
+      {{}, "00000010"}, {{1}, "11111110"}, {{0, 1}, "00001110"}, {{0, 1, 2}, "00001110"}, {{2}, "11111110"}};
+  for (const auto& c : cases) {
+    for (int i = 0; i < 3; ++i) {
+      form->m_lvMain->Items()[i]->SetChecked(std::find(c.ticked.begin(), c.ticked.end(), i) !=
+                                             c.ticked.end());
+    }
+    form->m_lvMainItemCheck(form->m_lvMain, form->m_lvMain->Items()[0]);
+    EXPECT_EQ(Enabled(), c.expected);
+  }
+  form->m_crbAllCheck->SetChecked(true);
+  form->SelectAll(form->m_crbAllCheck);
+  EXPECT_EQ(form->m_lvMain->CheckedCount(), 3);
+  EXPECT_EQ(Enabled(), "00001111");
+  form->m_crbAllCheck->SetChecked(false);
+  form->SelectAll(form->m_crbAllCheck);
+  EXPECT_EQ(Enabled(), "00000010");
+}
+
+TEST_F(NorvikQry, KeepsTheListWhenAQueryFailsAndEmptiesItForAnEmptyAnswer) {
+  Open();
+  Query();
+  host.RefuseExchange("ET90001");
+  host.SetErrorText("ET90001", "refused");
+  EXPECT_EQ(FailureOf([&] { form->m_actQuery->Execute(); }), "refused");
+  EXPECT_EQ(form->m_lvMain->Items().Count(), 3);
+  EXPECT_TRUE(form->m_actQuery->Enabled());
+  EXPECT_EQ(MessageOf([&] { Query({}); }), "UI42512");
+  EXPECT_EQ(form->m_lvMain->Items().Count(), 0);
+  EXPECT_EQ(Enabled(), "00000000");
+}
+
+TEST_F(NorvikQry, AsksForTheInstitutionsOfAnAccount) {
+  Open();
+  const struct {
+    ScreenHost::Table rows;
+    const char* entries;
+  } cases[] = {{{{"AGTBHNM"}, {"1"}, {"2"}}, "-9999=UI40115 1=1- 2=2- "},
+               {{{"AGTBHNM"}, {"1"}}, "1=1- "},
+               {{{"AGTBHNM"}}, "-9999=UI40115 "}};
+  const auto entries = [this] {
+    std::string text;
+    for (std::size_t i = 0; i < form->m_cbxBankNo->Items().Count(); ++i) {
+      text += form->m_cbxBankNo->Keys()[i] + "=" + form->m_cbxBankNo->Items()[i] + " ";
+    }
+    return text;
+  };
+  form->m_cbxAcc->SetItemIndex(1);
+  for (const auto& c : cases) {
+    host.SetAnswerRows(ScreenHost::ListOf(c.rows));
+    form->m_cbxAccChange(form);
+    EXPECT_EQ(entries(), c.entries);
+    EXPECT_EQ(form->m_cbxBankNo->ItemIndex(), 0);
+  }
+  EXPECT_EQ(host.Requests("EBBADQAH").back(),
+            "<?xml version=\"1.0\" encoding=\"GBK\"?><stream><SRC>1</SRC><list "
+            "name=\"userDataList\"><row><CUSTACC>A1"
+            "</CUSTACC></row></list></stream>");
+  EXPECT_EQ(form->m_cbxAcc->Hint(), "A1-Name 1");
+  host.RefuseExchange("ET90001");
+  FailureOf([&] { form->m_cbxAccChange(form); });
+  EXPECT_EQ(entries(), "-9999=UI40115 ");
+  host.SetAnswerRows(ScreenHost::ListOf(cases[0].rows));
+  form->m_cbxAccChange(form);
+  form->m_cbxAcc->SetItemIndex(0);
+  form->m_cbxAccChange(form);
+  EXPECT_EQ(entries(), "-9999=UI40115 ");
+}
+
+TEST_F(NorvikQry, StartsAfreshAtEachShowButKeepsTheBillId) {
+  Open();
+  Query();
+  form->m_edBatNo->SetText("1");
+  form->m_edNo->SetText("2");
+  form->m_edBackName->SetText("3");
+  form->m_edBillId->SetText("4");
+  form->m_dtDeadStartDate->SetText("20260101");
+  form->m_edMaxAmount->SetText("5");
+  form->m_lbxAgentStt->SetSelected(1, false);
+  form->m_pnlAdvance->SetRollState(false);
+  form->Close();
+  form->Show();
+  EXPECT_EQ(form->m_edBatNo->Text() + form->m_edNo->Text() + form->m_edBackName->Text() +
+                form->m_edBillId->Text() + form->m_dtDeadStartDate->Text() + form->m_edMaxAmount->Text(),
+            "4");
+  EXPECT_EQ(form->m_lbxAgentStt->SelCount(), 3);
+  EXPECT_TRUE(form->m_pnlAdvance->RollState());
+  EXPECT_EQ(form->m_lvMain->Items().Count(), 0);
+}
+
+TEST_F(NorvikQry, WritesTheQuickChoiceIntoTheDueDates) {
+  Open();
+  form->m_rgSelDate->SetItemIndex(2);
+  EXPECT_EQ(form->m_dtDeadStartDate->Text() + form->m_dtDeadEndDate->Text(), "2026110120261122");
+  EXPECT_EQ(form->m_dtStorageStartDate->Text(), "");
+  form->m_dtDeadStartDate->SetText("20260101");
+  form->m_dtDeadStartDateChange(form);
+  EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 2);
+}
+
+TEST_F(NorvikQry, OpensTheRecordOfTheTickedRow) {
+  Open();
+  Query();
+  form->m_lvMain->Items()[1]->SetChecked(true);
+  form->m_lvMainClick(form);
+  const std::size_t asked = host.Requests("EBBADQDB").size();
+  std::string shown;
+  WhenShown<TRecordInfoForm> look([&](TRecordInfoForm& record) {
+    shown =
+        record.ClassName() + " " + dynamic_cast<TLabel*>(record.FindComponent("m_lbTicketNoVal"))->Caption();
+    record.Close();
+  });
+  form->m_actTicketInfo->Execute();
+  EXPECT_EQ(shown, "TfrmQryInfo B2");
+  EXPECT_EQ(host.Requests("EBBADQDB").size(), asked);
+}
+
+TEST_F(NorvikQry, OpensWithoutAnyAccount) {
+  host.SetAccounts(0);
+  Open();
+  EXPECT_EQ(form->m_cbxAcc->Items().Count(), 0u);
+  EXPECT_NE(Request().find("<row><CUSTACC/></row>"), std::string::npos);
+}
+
+}  // namespace
