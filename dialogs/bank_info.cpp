@@ -5,7 +5,6 @@
 #include "dialogs/busy.h"
 #include "host/pub_info.h"
 #include "platform/bank_directory.h"
-#include "toolkit/buttons.h"
 
 namespace {
 

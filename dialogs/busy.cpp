@@ -9,7 +9,6 @@
 #include "dialogs/busy_frames.h"
 #include "host/pub_info.h"
 #include "toolkit/application.h"
-#include "toolkit/buttons.h"
 #include "toolkit/text.h"
 
 namespace {
@@ -82,9 +81,9 @@ void TBusyForm::Begin() {
 void TBusyForm::StartPainter() {
   if (!TBusyPainter::Available()) return;
   const QRect area(m_amtmain->Widget()->mapTo(Widget(), QPoint(0, 0)), m_amtmain->Widget()->size());
-  norvik::BusyFrames moving = norvik::ComposeFrames(Widget()->grab().toImage(), area, m_amtmain->FileName(),
-                                                    m_design.animation, m_design.stopFrame);
-  m_painter.Start(Widget()->winId(), std::move(moving.frames), moving.interval);
+  m_painter.Start(Widget()->winId(),
+                  norvik::ComposeFrames(Widget()->grab().toImage(), area, m_amtmain->Frames(area.size())),
+                  TAnimate::kFrameTime);
 }
 
 void TBusyForm::End() {

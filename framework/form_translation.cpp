@@ -4,7 +4,6 @@
 
 #include "framework/base_form.h"
 #include "toolkit/action.h"
-#include "toolkit/buttons.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"

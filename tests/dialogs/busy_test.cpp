@@ -133,30 +133,31 @@ TEST_F(Busy, FramesKeepTheFormAndMoveInTheArea) {
   window.fill(Qt::gray);
   window.setPixelColor(50, 35, Qt::red);
   const QRect area(10, 10, 30, 20);
-  const std::string good =
-      Write("good.gif", QByteArray(reinterpret_cast<const char*>(kTwoFrames), sizeof kTwoFrames));
+  const QByteArray gif(reinterpret_cast<const char*>(kTwoFrames), sizeof kTwoFrames);
   const struct {
     std::string file;
     std::size_t frames;
-    int interval;
-  } cases[] = {{"", 30, 100},
-               {good, 2, 50},
-               {good + ".missing", 30, 100},
-               {Write("broken.gif", QByteArray(reinterpret_cast<const char*>(kTwoFrames), 15)), 30, 100},
-               {Write("text.avi", "no pictures here"), 30, 100}};
+  } cases[] = {{"", 32},
+               {Write("good.gif", gif), 2},
+               {directory.filePath("missing.gif").toStdString(), 32},
+               {Write("broken.gif", gif.left(15)), 32},
+               {Write("text.avi", "no pictures here"), 32}};
+  TForm* form = CreateForm<TForm>(Application);
   for (const auto& row : cases) {
-    const auto moving = norvik::ComposeFrames(window, area, row.file, aviFindFolder, 29);
-    EXPECT_EQ(moving.frames.size(), row.frames) << row.file;
-    EXPECT_EQ(moving.interval, row.interval) << row.file;
+    TAnimate animation(form);
+    animation.SetCommonAVI(aviFindFolder);
+    animation.SetFileName(row.file);
+    const auto frames = norvik::ComposeFrames(window, area, animation.Frames(area.size()));
+    EXPECT_EQ(frames.size(), row.frames) << row.file;
     std::set<QByteArray> pictures;
-    for (const QImage& frame : moving.frames) {
+    for (const QImage& frame : frames) {
       EXPECT_EQ(frame.pixelColor(50, 35), QColor(Qt::red));
       EXPECT_EQ(frame.pixelColor(0, 0), QColor(Qt::gray));
       pictures.insert(QByteArray(reinterpret_cast<const char*>(frame.constBits()), frame.sizeInBytes()));
     }
     EXPECT_GT(pictures.size(), 1U) << row.file;
   }
-  EXPECT_TRUE(norvik::ComposeFrames(QImage(), area, "", aviCopyFiles, 31).frames.empty());
+  EXPECT_TRUE(norvik::ComposeFrames(QImage(), area, {window}).empty());
 }
 
 }  // namespace
