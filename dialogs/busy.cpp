@@ -1,5 +1,6 @@
 #include "dialogs/busy.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QPointer>
 #include <map>
@@ -69,9 +70,7 @@ void TBusyForm::FormShow(TObject*) {
 }
 
 void TBusyForm::Begin() {
-  SetFormStyle(fsStayOnTop);
-  SetBorderStyle(bsNone);
-  SetPosition(m_design.position);
+  m_before = QApplication::activeWindow();
   Widget()->setWindowModality(Qt::ApplicationModal);
   Show();
   Application->ProcessMessages();
@@ -92,6 +91,7 @@ void TBusyForm::End() {
   if (self.isNull()) return;
   m_painter.Stop();
   Close();
+  if (m_before && m_before->isVisible()) m_before->activateWindow();
 }
 
 void ShowBar(TForm* owner) {

@@ -9,7 +9,7 @@
 // 3. The thread that keeps the picture moving touches pictures only and has ended when Hide returns.
 #pragma once
 
-#include <memory>
+#include <QPointer>
 #include <string>
 
 #include "toolkit/animate.h"
@@ -47,7 +47,8 @@ class TBusyForm : public TForm {
 
   // Shows the form over all others without waiting, has it painted, and sets it moving.
   void Begin();
-  // Throws away what the user has pressed meanwhile and takes the form away.
+  // Throws away what the user has pressed meanwhile and takes the form away; the window that was active is
+  // active again.
   void End();
 
   TPanel* m_pnlmain = nullptr;
@@ -63,6 +64,7 @@ class TBusyForm : public TForm {
 
   const TBusyDesign& m_design;
   TBusyPainter m_painter;
+  QPointer<QWidget> m_before;  // the window that was active
 };
 
 class TBarForm : public TBusyForm {

@@ -1,6 +1,7 @@
 #include "dialogs/date_calendar.h"
 
-#include "dialogs/font_fit.h"
+#include <QLocale>
+
 #include "dialogs/validators.h"
 #include "toolkit/application.h"
 #include "toolkit/layout.h"
@@ -15,6 +16,13 @@ constexpr double kSecondsOfDay = 24 * 60 * 60;
 const char* PatternOf(TKVXDateType type) {
   if (type == dtDate) return "yyyymmdd";
   return type == dtTime ? "hhnnss" : "yyyymmddhhnnss";
+}
+
+// Names of months and days in the host's language, told by its character set.
+QLocale LocaleOf(std::uint8_t charset) {
+  if (charset == kSimplifiedChinese) return QLocale(QLocale::Chinese, QLocale::China);
+  return charset == kTraditionalChinese ? QLocale(QLocale::Chinese, QLocale::Taiwan)
+                                        : QLocale(QLocale::English);
 }
 
 }  // namespace
@@ -149,7 +157,7 @@ void TDateCalendar::ResetForm() {
   SetDefaultButton(m_btnok);
   SetCancelButton(m_btncancel);
   SetActiveControl(m_pnlmonth->Visible() ? static_cast<TWinControl*>(m_MonthCalendar) : m_btnok);
-  Widget()->adjustSize();
+  m_MonthCalendar->Widget()->setLocale(LocaleOf(m_nFontCharset));
 }
 
 TDateTime TDateCalendar::ShownDateTime() const {

@@ -34,10 +34,9 @@ bool SwitchedOn(const char* section, const std::string& item) {
 }
 
 std::uint8_t CharsetOf(std::string_view language) {
-  constexpr std::uint8_t kDefaultCharset = 1;
-  if (language == "Simplified Chinese") return 134;
-  if (language == "Traditional Chinese") return 136;
-  if (language == "English") return 0;
+  if (language == "Simplified Chinese") return kSimplifiedChinese;
+  if (language == "Traditional Chinese") return kTraditionalChinese;
+  if (language == "English") return kEnglish;
   return kDefaultCharset;
 }
 
@@ -127,6 +126,7 @@ void TBaseForm::SendToHost(std::uint32_t message) {
 }
 
 std::string TBaseForm::TranslateKey(const std::string& key) {
+  if (key.find('\0') != std::string::npos) return key;
   const std::string text = g_pTranslate->Translate(key);
   return text.empty() ? key : text;
 }

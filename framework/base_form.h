@@ -28,6 +28,12 @@ inline constexpr std::uint32_t kMessageFormShown = 0x824;       // to the host: 
 inline constexpr std::uint32_t kMessageFormClosed = 0x825;      // to the host: the same
 inline constexpr std::uint32_t kMessageFormActivated = 0x826;   // to the host: the same
 
+// Character sets of the host's languages.
+inline constexpr std::uint8_t kSimplifiedChinese = 134;
+inline constexpr std::uint8_t kTraditionalChinese = 136;
+inline constexpr std::uint8_t kEnglish = 0;
+inline constexpr std::uint8_t kDefaultCharset = 1;  // any other language
+
 // Tag of a graphic control that is a label with ":" behind its translated caption.
 inline constexpr int kLabelMark = 8;
 
@@ -62,7 +68,7 @@ class TBaseForm : public TForm {
   // Takes the host's 0x7E9 and passes activation on, then the toolkit's own messages.
   std::intptr_t Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam) override;
 
-  // The text of a key, or the key itself if there is none.
+  // The text of a key, or the key itself if there is none. A text with a NUL in it is no key.
   static std::string TranslateKey(const std::string& key);
   // Has the host make a desktop shortcut to a menu item under the form's caption.
   void SendToDesktop(const std::string& itemName);
@@ -84,7 +90,7 @@ class TBaseForm : public TForm {
   bool m_bImeOff = true;
   std::int32_t m_nFontSize = 0;
   std::string m_strFontName;
-  std::uint8_t m_nFontCharset = 1;
+  std::uint8_t m_nFontCharset = kDefaultCharset;
   std::string m_strImeName;
 
  private:
