@@ -19,12 +19,28 @@ class NarrowEvents : public norvik::XmlEvents {
       const std::string_view name = attributes.QualifiedName(at, space_);
       attributes_[norvik::AnsiFromUtf8(name)] = norvik::AnsiFromUtf8(attributes.Value(at));
     }
-    return handler_.startElement(Narrow(localName), attributes_);
+    return Kept([&] { return handler_.startElement(Narrow(localName), attributes_); });
   }
-  bool EndElement(std::string_view localName) override { return handler_.endElement(Narrow(localName)); }
-  bool Characters(std::string_view piece) override { return handler_.characters(Narrow(piece)); }
+  bool EndElement(std::string_view localName) override {
+    return Kept([&] { return handler_.endElement(Narrow(localName)); });
+  }
+  bool Characters(std::string_view piece) override {
+    return Kept([&] { return handler_.characters(Narrow(piece)); });
+  }
+  // The key of what an event threw; "" if none did.
+  const std::string& key() const { return key_; }
 
  private:
+  // A document's own failure ends the reading as a refusal does, at a place that can be told.
+  template <class Event>
+  bool Kept(Event event) {
+    try {
+      return event();
+    } catch (const TException& failure) {
+      key_ = failure.getMessage("\r\n");
+      return false;
+    }
+  }
   std::string_view Narrow(std::string_view text) {
     if (norvik::AsciiRun(text) == text.size()) return text;
     narrow_.clear();
@@ -36,22 +52,20 @@ class NarrowEvents : public norvik::XmlEvents {
   AttributeMap attributes_;
   std::string space_;
   std::string narrow_;
+  std::string key_;
 };
 
 }  // namespace
 
 ParseResult parseXml(std::string_view text, SAXContentHandlerImpl& handler) {
   if (text.empty()) return {.key = "ET10078", .reason = "the text is empty"};
+  if (!handler.startDocument()) return {.key = "ET10079", .reason = "the handler takes no document"};
   NarrowEvents events(handler);
-  try {
-    if (!handler.startDocument()) return {.key = "ET10079", .reason = "the handler takes no document"};
-    norvik::XmlResult result = norvik::ReadXml(text, events);
-    if (result.read) return {};
-    return {
-        .key = "ET10079", .line = result.line, .column = result.column, .reason = std::move(result.reason)};
-  } catch (const TException& failure) {
-    return {.key = failure.getMessage("\r\n"), .reason = "the document refuses what was read"};
-  }
+  norvik::XmlResult result = norvik::ReadXml(text, events);
+  if (result.read) return {};
+  if (!events.key().empty())
+    return {events.key(), result.line, result.column, "the document refuses what was read"};
+  return {"ET10079", result.line, result.column, std::move(result.reason)};
 }
 
 bool parseXml(std::string_view text, SAXContentHandlerImpl* handler, std::string& error) {

@@ -6,6 +6,7 @@
 
 #include "data/exception.h"
 #include "platform/code_page.h"
+#include "platform/large_memory.h"
 #include "platform/xml_events.h"
 
 namespace corvane {
@@ -55,6 +56,10 @@ bool HoldsNoncharacter(std::string_view run) {
 }  // namespace
 
 XmlWriter::XmlWriter(std::string_view encoding) {
+  const auto forbidden = [](char byte) { return byte == '"' || (byte >= 0 && byte < 0x20); };
+  if (std::any_of(encoding.begin(), encoding.end(), forbidden) ||
+      encoding.find("?>") != std::string_view::npos)
+    throw TException("ET10071");
   out_.append("<?xml version=\"1.0\" encoding=\"").append(encoding).append("\"?>");
 }
 
@@ -211,7 +216,9 @@ void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key)
 
 void XmlWriter::Reserve(std::size_t more) {
   const std::size_t wanted = out_.size() + more + more / 64 + 256;
-  if (wanted > out_.capacity()) out_.reserve(wanted);
+  if (wanted <= out_.capacity()) return;
+  out_.reserve(wanted);
+  norvik::PreferLargePages(out_.data(), out_.capacity());
 }
 
 namespace {

@@ -6,8 +6,8 @@
 // both, a tab and an LF in attribute values as &#9; and &#10;, so that every value is read back byte for
 // byte. Other characters stand as themselves, in the ANSI code page whatever the prolog says; a byte that the
 // code page lacks comes out as '?'. What a reader would refuse is not written: a tag or attribute name that
-// is no XML name or bears a prefix that nothing around it declares, a control character that XML forbids, a
-// character that is none.
+// is no XML name or bears a prefix that nothing around it declares, an encoding's label with a quote, a
+// control character that XML forbids, a character that is none.
 #pragma once
 
 #include <cstddef>
@@ -34,7 +34,8 @@ bool writeXml(const Ini& ini, std::string& text);
 bool writeXml(const Iniplus& iniplus, std::string& text);
 
 // Appends elements to one text. The operations throw TException with the inner key of what is refused:
-// ET10062 a tag, ET10072 an attribute's name, ET10073 its value, ET10071 a value in character data.
+// ET10062 a tag, ET10072 an attribute's name, ET10073 its value, ET10071 a value in character data
+// or the encoding's label.
 class XmlWriter {
  public:
   // Begins with the prolog.

@@ -27,6 +27,37 @@ std::string_view LocalName(const char* name) {
                   : std::string_view(local);
 }
 
+// Where the prolog's encoding stands between its quotes; a size of npos where there is none.
+struct LabelPlace {
+  std::size_t begin = 0;
+  std::size_t size = std::string_view::npos;
+};
+
+LabelPlace FindLabel(std::string_view text) {
+  constexpr std::string_view kOpen = "<?xml ";
+  constexpr std::string_view kName = "encoding";
+  constexpr std::string_view kBlanks = " \t\r\n";
+  if (!text.starts_with(kOpen)) return {};
+  const std::string_view prolog = text.substr(0, text.find("?>"));
+  const std::size_t name = prolog.find(kName);
+  if (name == std::string_view::npos) return {};
+  const std::size_t equals = prolog.find_first_not_of(kBlanks, name + kName.size());
+  if (equals == std::string_view::npos || prolog[equals] != '=') return {};
+  const std::size_t quote = prolog.find_first_not_of(kBlanks, equals + 1);
+  if (quote == std::string_view::npos || (prolog[quote] != '"' && prolog[quote] != '\'')) return {};
+  const std::size_t end = prolog.find(prolog[quote], quote + 1);
+  if (end == std::string_view::npos) return {};
+  return {quote + 1, end - quote - 1};
+}
+
+bool IsLabel(std::string_view label) {
+  const auto letter = [](char byte) { return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z'); };
+  const auto inside = [&](char byte) {
+    return letter(byte) || (byte >= '0' && byte <= '9') || byte == '.' || byte == '_' || byte == '-';
+  };
+  return !label.empty() && letter(label[0]) && std::all_of(label.begin(), label.end(), inside);
+}
+
 class Reading {
  public:
   Reading(std::string_view text, XmlEvents& events);
@@ -47,6 +78,7 @@ class Reading {
                      const char*);
   static int External(XML_Parser parser, const char*, const char*, const char*, const char*);
   static void Skipped(void* self, const char*, int);
+  bool PassLabel();
   bool Feed();
   XmlResult Failure() const;
 
@@ -58,6 +90,8 @@ class Reading {
   unsigned entities_ = 0;
   bool stopped_ = false;
   const char* reason_ = nullptr;
+  unsigned long line_ = 0;
+  unsigned long column_ = 0;
   std::exception_ptr thrown_;
 };
 
@@ -75,10 +109,22 @@ Reading::Reading(std::string_view text, XmlEvents& events)
 }
 
 XmlResult Reading::Run() {
-  while (Feed())
+  while (PassLabel() && Feed())
     if (at_ == text_.size()) return {.read = true, .reason = {}};
   if (thrown_) std::rethrow_exception(thrown_);
   return Failure();
+}
+
+// A prolog whose label is no name, such as the empty one of a document that was read without a prolog, is
+// given to expat with a label that it takes.
+bool Reading::PassLabel() {
+  if (at_ != 0) return true;
+  const LabelPlace label = FindLabel(text_);
+  if (label.size == std::string_view::npos || IsLabel(text_.substr(label.begin, label.size))) return true;
+  const std::string prolog = Utf8FromAnsi(text_.substr(0, label.begin)) + "UTF-8";
+  at_ = label.begin + label.size;
+  fed_ = prolog.size();
+  return XML_Parse(parser_.get(), prolog.data(), static_cast<int>(fed_), 0) == XML_STATUS_OK;
 }
 
 // A token that doesn't end within a piece is read again from its start with the next one: so pieces grow with
@@ -99,8 +145,8 @@ XmlResult Reading::Failure() const {
   XML_Parser parser = parser_.get();
   XmlResult result;
   result.refused = stopped_ && !reason_;
-  result.line = XML_GetCurrentLineNumber(parser);
-  result.column = XML_GetCurrentColumnNumber(parser) + 1;
+  result.line = stopped_ ? line_ : XML_GetCurrentLineNumber(parser);
+  result.column = stopped_ ? column_ : XML_GetCurrentColumnNumber(parser) + 1;
   result.reason = result.refused ? "element not expected here"
                   : reason_      ? reason_
                                  : XML_ErrorString(XML_GetErrorCode(parser));
@@ -123,6 +169,8 @@ void Reading::Stop(const char* reason) {
   if (stopped_) return;
   stopped_ = true;
   reason_ = reason;
+  line_ = XML_GetCurrentLineNumber(parser_.get());
+  column_ = XML_GetCurrentColumnNumber(parser_.get()) + 1;
   XML_StopParser(parser_.get(), XML_FALSE);
 }
 
