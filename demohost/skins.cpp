@@ -1,6 +1,10 @@
 #include "demohost/skins.h"
 
+#include <QBuffer>
 #include <QByteArray>
+#include <QColor>
+#include <QImage>
+#include <QPainter>
 #include <map>
 #include <sstream>
 
@@ -22,8 +26,8 @@ Colours ReadColours(const std::filesystem::path& path) {
   return colours;
 }
 
-std::string Coloured(const std::string& sheet, const std::filesystem::path& list) {
-  const Colours colours = ReadColours(list);
+// The colours and the path of the tick picture in the sheet.
+std::string Filled(const std::string& sheet, const std::filesystem::path& list, const Colours& colours) {
   const auto in_name = [](char c) { return (c >= 'a' && c <= 'z') || c == '_'; };
   std::string result;
   for (std::size_t at = 0; at < sheet.size();) {
@@ -42,6 +46,20 @@ std::string Coloured(const std::string& sheet, const std::filesystem::path& list
   return result;
 }
 
+// A tick in a colour, as a PNG file's bytes.
+std::string DrawnTick(const std::string& colour) {
+  QImage picture(26, 26, QImage::Format_ARGB32_Premultiplied);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(QLatin1String(colour.c_str())), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({{6, 13}, {11, 19}, {21, 7}}));
+  painter.end();
+  QBuffer file;
+  picture.save(&file, "PNG");
+  return file.data().toStdString();
+}
+
 }  // namespace
 
 void PackSkins(const std::filesystem::path& source, const std::filesystem::path& target) {
@@ -49,8 +67,13 @@ void PackSkins(const std::filesystem::path& source, const std::filesystem::path&
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(source, error)) {
     if (entry.path().extension() != ".colours") continue;
-    const QByteArray packed = qCompress(QByteArray::fromStdString(Coloured(sheet, entry.path())));
-    ReplaceFile(target / (entry.path().stem().string() + ".skin"), packed.toStdString());
+    const std::string name = entry.path().stem().string();
+    const std::filesystem::path tick = target / (name + ".tick.png");
+    Colours colours = ReadColours(entry.path());
+    ReplaceFile(tick, DrawnTick(colours["accent"]));
+    colours["tick"] = std::filesystem::absolute(tick).generic_string();
+    const QByteArray packed = qCompress(QByteArray::fromStdString(Filled(sheet, entry.path(), colours)));
+    ReplaceFile(target / (name + ".skin"), packed.toStdString());
   }
   if (error) throw FileError(source.string() + ": can't be read");
 }

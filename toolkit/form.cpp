@@ -20,6 +20,7 @@ class FormWindow : public QWidget {
   FormWindow(TForm* form, QWidget* parent) : QWidget(parent, Qt::Window), form_(form) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_StyledBackground);
+    setProperty("skin", QString::fromLatin1("form"));
   }
 
  protected:

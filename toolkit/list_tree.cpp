@@ -84,6 +84,7 @@ class TListSumBar : public QWidget {
 
 TListTree::TListTree(TCustomListView* list) : list_(list) {
   setUniformRowHeights(true);
+  setAlternatingRowColors(true);
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setIndentation(0);

@@ -218,7 +218,7 @@ TbsSkinStatusPanel::TbsSkinStatusPanel(TComponent* owner) : TbsSkinControl(owner
   label->setTextFormat(Qt::PlainText);
   // A long text is cut at the edge instead of widening the form.
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  SetSkinRole(label, "status");
+  SetSkinRole(label, "status-text");
   SetWidget(label);
 }
 
