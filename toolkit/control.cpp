@@ -195,6 +195,7 @@ void TControl::FontChanged() {
 }
 
 void TControl::ActionChange(const TAction& action) {
+  if (widget_) widget_->setProperty("action", action.objectName());
   if (Caption() != action.Caption()) SetCaption(action.Caption());
   if (hint_ != action.Hint()) SetHint(action.Hint());
   SetEnabled(action.Enabled());

@@ -68,7 +68,8 @@ class TControl : public TComponent {
 
   TFont* Font() const { return font_; }
 
-  /// The action that names, enables, shows and executes the control; null takes it off.
+  /// The action that names, enables, shows and executes the control; null takes it off. The widget bears its
+  /// name in the property "action", so that a script or a test finds it.
   TAction* Action() const;
   void SetAction(TAction* action);
   /// Menu opened by the right mouse button.

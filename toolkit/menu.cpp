@@ -117,6 +117,7 @@ void TMenu::Fill(QMenu* menu, const TMenuItem* item) {
     }
     if (images != nullptr) shown->setIcon(images->Icon(entry->ImageIndex()));
     shown->setObjectName(entry->objectName());
+    if (entry->Action() != nullptr) shown->setProperty("action", entry->Action()->objectName());
     shown->setEnabled(entry->Enabled());
     shown->setCheckable(entry->Checked() || entry->AutoCheck());
     shown->setChecked(entry->Checked());
