@@ -23,11 +23,20 @@ QStringList Arguments(int argc, char** argv) {
   return arguments;
 }
 
+// The platform that draws into memory warns of each thing that only a real screen has; these warnings are of
+// no use.
+void LogQuietly(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (text.startsWith(QLatin1String("This plugin does not support"))) return;
+  std::cerr << text.toStdString() << std::endl;
+  if (type == QtFatalMsg) std::abort();
+}
+
 // Without a display a script plays all the same, on Qt's platform that draws into memory.
 void ChoosePlatform(const Options& options) {
   const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
   if (!options.script.isEmpty() && !display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(&LogQuietly);
   }
 }
 

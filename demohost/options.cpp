@@ -77,7 +77,7 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString& messa
   parser.addOptions(Known());
   if (!parser.parse(arguments)) throw OptionError(parser.errorText().toStdString());
   if (parser.isSet("help")) {
-    message = parser.helpText();
+    message = parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("demohost"));
     return std::nullopt;
   }
   if (parser.isSet("version")) {
