@@ -83,7 +83,7 @@ void List::Append(Row&& row, const char* key) {
   // Rows that were built one by one share the first row's names from here on.
   auto& shape = rows_.back().shape_;
   const auto& first = rows_.front().shape_;
-  if (shape.get() != first.get() && first && shape->sameSlots(*first)) shape = first;
+  if (shape && first && shape.get() != first.get() && shape->sameSlots(*first)) shape = first;
 }
 
 void List::removeRow(unsigned index) {
@@ -111,6 +111,7 @@ List List::select(std::string_view column, const StringVector& values) {
 }
 
 List List::filter(const Row& criteria, bool matchAll) const {
+  if (matchAll && !rows_.empty() && criteria.hasField("")) throw TException("ET10080");
   List result;
   for (const Row& row : rows_) {
     const auto agrees = [&](const auto& criterion) {

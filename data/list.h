@@ -68,6 +68,7 @@ class List : public Element {
   // A new list of the rows that agree with `criteria`. `matchAll`: every criterion's column has its value,
   // and a missing column counts as ""; no criteria keep all. Otherwise: at least one such column exists and
   // has the value; no criteria keep none. Stored rows don't change.
+  // ET10080 for a criterion without a name under `matchAll`.
   List filter(const Row& criteria, bool matchAll) const;
 
  protected:

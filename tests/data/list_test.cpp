@@ -70,6 +70,9 @@ TEST(List, ChecksIndexes) {
   list.removeRow(0);
   list.addRow(Of({{"OTHER", ""}}));
   EXPECT_EQ(list.size(), 1U);
+  list[0].removeField("OTHER");
+  list.addRow(Row());
+  EXPECT_EQ(list.size(), 2U);
 }
 
 TEST(List, RemovesRowsAndKeepsReferences) {
@@ -123,6 +126,10 @@ TEST(List, Filters) {
     EXPECT_EQ(Column(list.filter(Of(one.criteria), false)), one.any);
   }
   EXPECT_FALSE(list[0].hasField("C"));
+  Row nameless;
+  nameless.addField(Field());
+  EXPECT_EQ(KeyOf([&] { (void)list.filter(nameless, true); }), "ET10080");
+  EXPECT_EQ(list.filter(nameless, false).size(), 0U);
 }
 
 TEST(List, AssignmentKeepsTagAndEncoding) {
