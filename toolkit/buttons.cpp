@@ -74,8 +74,11 @@ TbsSkinSpeedButton::TbsSkinSpeedButton(TComponent* owner) : TbsSkinCustomButton(
 
 void TbsSkinSpeedButton::SetShowCaption(bool show) {
   auto* button = static_cast<QToolButton*>(Button());
-  if (button != nullptr)
-    button->setToolButtonStyle(show ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  if (button == nullptr) return;
+  button->setToolButtonStyle(show ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  if (show || !Hint().empty()) return;
+  SetHint(Caption());
+  SetShowHint(true);
 }
 
 TbsSkinMenuButton::TbsSkinMenuButton(TComponent* owner) : TbsSkinButton(owner) {
