@@ -6,10 +6,11 @@
 #include <limits>
 #include <string_view>
 
+#include "toolkit/decimal_text.h"
+
 namespace {
 
 constexpr std::size_t kDecimals = 2;
-constexpr std::size_t kGroup = 3;
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -102,10 +103,5 @@ std::string FormatAmount(const std::string& text) {
   std::string fraction(point == std::string_view::npos ? std::string_view() : rest.substr(point + 1));
   fraction.resize(kDecimals, '0');
 
-  std::string result(negative ? "-" : "");
-  const std::size_t first = whole.empty() ? 0 : (whole.size() - 1) % kGroup + 1;
-  result.append(whole.substr(0, first));
-  for (std::size_t at = first; at < whole.size(); at += kGroup)
-    result.append(",").append(whole.substr(at, kGroup));
-  return result.append(".").append(fraction);
+  return (negative ? "-" : "") + GroupThousands(whole) + "." + fraction;
 }

@@ -57,9 +57,10 @@ void TListModel::SetChecked(TListRow& row, bool checked) {
 void TListModel::CheckAll(bool checked) {
   if (rows_.empty()) return;
   for (const auto& row : rows_) row->checked = checked;
-  if (columnCount() > 0) {
-    Q_EMIT dataChanged(index(0, 0), index(Count() - 1, columnCount() - 1), {Qt::CheckStateRole});
-  }
+  // Only the columns with ticks: a view looks at each cell that it is told of.
+  int last = 0;
+  while (last + 1 < columnCount() && view_->Columns()[last]->Hidden()) ++last;
+  if (columnCount() > 0) Q_EMIT dataChanged(index(0, 0), index(Count() - 1, last), {Qt::CheckStateRole});
 }
 
 TListRow& TListModel::Insert(int index) {

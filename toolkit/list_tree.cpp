@@ -58,6 +58,8 @@ class TListSumBar : public QWidget {
     if (!fresh_) Renew();
     QPainter painter(this);
     painter.fillRect(rect(), palette().alternateBase());
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(0, 0, width(), 0);
     painter.setPen(palette().color(QPalette::Text));
     painter.setFont(tree_->font());
     for (int column = 0; column < texts_.size(); ++column) {
@@ -113,7 +115,9 @@ void TListTree::SetSums(std::function<QString(int column)> sums) {
 }
 
 void TListTree::mousePressEvent(QMouseEvent* event) {
+  const QPointer<TListTree> self(this);
   QTreeView::mousePressEvent(event);
+  if (!self) return;
   if (!indexAt(event->position().toPoint()).isValid()) clearSelection();
   Report(event);
 }
@@ -126,12 +130,32 @@ void TListTree::mouseReleaseEvent(QMouseEvent* event) {
 
 // Two quick clicks on a check box are two clicks: Qt takes the second as a double click and would ignore it.
 void TListTree::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QPointer<TListTree> self(this);
   if (OnCheckBox(event->position().toPoint())) {
     QTreeView::mousePressEvent(event);
   } else {
     QTreeView::mouseDoubleClickEvent(event);
   }
-  Report(event);
+  if (self) Report(event);
+}
+
+void TListTree::focusInEvent(QFocusEvent* event) {
+  QTreeView::focusInEvent(event);
+  ShowSelection();
+}
+
+void TListTree::focusOutEvent(QFocusEvent* event) {
+  QTreeView::focusOutEvent(event);
+  ShowSelection();
+}
+
+void TListTree::ShowSelection() {
+  QPalette colours;
+  if (list_->HideSelection() && !hasFocus()) {
+    colours.setBrush(QPalette::Highlight, colours.base());
+    colours.setBrush(QPalette::HighlightedText, colours.text());
+  }
+  setPalette(colours);
 }
 
 void TListTree::Report(QMouseEvent* event) {

@@ -15,11 +15,15 @@ class TListTree : public QTreeView {
   void SetGridLines(bool on);
   /// Text of a column's cell in the strip below the rows; unset: no strip.
   void SetSums(std::function<QString(int column)> sums);
+  /// Marks the selected row, or with HideSelection and without the focus doesn't.
+  void ShowSelection();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

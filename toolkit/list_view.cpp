@@ -98,14 +98,9 @@ void TCustomListView::SetGridLines(bool on) {
   if (Tree() != nullptr) Tree()->SetGridLines(on);
 }
 
-void TCustomListView::SetRowSelect(bool on) {
-  row_select_ = on;
-  if (Tree() != nullptr) Tree()->setAllColumnsShowFocus(on);
-}
-
 void TCustomListView::SetHideSelection(bool on) {
   hide_selection_ = on;
-  if (Tree() != nullptr) Tree()->viewport()->update();
+  if (Tree() != nullptr) Tree()->ShowSelection();
 }
 
 void TCustomListView::SetFullDrag(bool on) {

@@ -185,8 +185,9 @@ class TCustomListView : public TbsSkinControl {
   void SetCheckboxes(bool on);
   bool GridLines() const { return grid_lines_; }
   void SetGridLines(bool on);
+  /// Kept for the forms; a selected row is always marked over its whole width.
   bool RowSelect() const { return row_select_; }
-  void SetRowSelect(bool on);
+  void SetRowSelect(bool on) { row_select_ = on; }
   /// Kept for the forms; texts are never edited in place.
   bool ReadOnly() const { return read_only_; }
   void SetReadOnly(bool on) { read_only_ = on; }

@@ -1,5 +1,6 @@
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTreeView>
 
@@ -7,6 +8,7 @@
 #include "data/string_vector.h"
 #include "tests/toolkit/kvx_fixture.h"
 #include "toolkit/list_view.h"
+#include "toolkit/menu.h"
 #include "toolkit/text.h"
 
 namespace {
@@ -304,6 +306,37 @@ TEST_F(KvxListTest, TheUserWidensAndMovesColumns) {
   EXPECT_TRUE(view->isColumnHidden(1));
   EXPECT_EQ(view->columnWidth(3), 200);
   EXPECT_EQ(view->model()->headerData(0, Qt::Horizontal).toString(), "caption of PAYAMT");
+}
+
+TEST_F(KvxListTest, AColumnIsDraggedByItsHeader) {
+  list->SetFullDrag(true);
+  QWidget* header = view->header()->viewport();
+  const auto send = [&](QEvent::Type type, int x) {
+    const QPoint at(x, header->height() / 2);
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, header->mapToGlobal(at), button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(header, &event);
+  };
+  send(QEvent::MouseButtonPress, 20);
+  for (int x = 30; x < 215; x += 5) send(QEvent::MouseMove, x);
+  send(QEvent::MouseButtonRelease, 210);
+  EXPECT_EQ(list->ColumnIds(), (corvane::StringVector{"PAYAMT", "BILLNUM", "SECRET", "STATE"}));
+  EXPECT_EQ(view->columnWidth(1), 120);
+  EXPECT_EQ(view->header()->visualIndex(1), 1);
+}
+
+TEST_F(KvxListTest, TheRightButtonOpensThePopupMenu) {
+  Fill(2);
+  TPopupMenu menu(form);
+  menu.SetName("m_pmuListview");
+  menu.Items()->AddLine()->SetCaption("entry");
+  list->SetPopupMenu(&menu);
+  QContextMenuEvent event(QContextMenuEvent::Mouse, Text(1, 0), view->viewport()->mapToGlobal(Text(1, 0)));
+  QCoreApplication::sendEvent(view->viewport(), &event);
+  ASSERT_NE(menu.Widget(), nullptr);
+  EXPECT_TRUE(menu.Widget()->isVisible());
+  menu.Close();
 }
 
 TEST_F(KvxListTest, AHiddenColumnComesBackWithTheWidthItIsGiven) {
