@@ -3,19 +3,12 @@
 //
 // 1. User-interface thread only. Each Show ends with its Hide; a Hide without a form does nothing.
 // 2. Show and Hide pump messages once. While a form is up the whole process takes no clicks and keys: what
-// the user
-//    pressed meanwhile on the module or on the host is thrown away by Hide before the form goes, not
-//    delivered later.
+//    the user pressed meanwhile on the module or on the host is thrown away by Hide before the form goes,
+//    not delivered later.
 // 3. The thread that keeps the picture moving touches pictures only and has ended when Hide returns.
 #pragma once
 
-#include <QPointer>
-#include <string>
-
-#include "toolkit/animate.h"
-#include "toolkit/busy_painter.h"
-#include "toolkit/form.h"
-#include "toolkit/panels.h"
+class TForm;
 
 // Covers one exchange of a form with the bank. There is one for each class of form: the class name is the
 // key, so a second form of the class replaces the first one's display.
@@ -25,58 +18,3 @@ void HideBar(TForm* owner);
 // Covers a wait of the module itself; there is one. The owner may be null.
 void ShowWait(TForm* owner);
 void HideWait();
-
-// What tells the two busy forms apart.
-struct TBusyDesign {
-  const char* file;  // in the host's image directory
-  TCommonAVI animation;
-  int stopFrame;
-  int width;
-  int height;
-  TPosition position;
-};
-
-// A busy form. A missing or unreadable animation file leaves the built-in animation.
-class TBusyForm : public TForm {
-  Q_OBJECT
-
- public:
-  void BuildControls() override;
-  // Reads the host's image directory, "ENV.IMAGES" of "ENVIRONMENT"; a failing read goes up.
-  void Construct() override;
-
-  // Shows the form over all others without waiting, has it painted, and sets it moving.
-  void Begin();
-  // Throws away what the user has pressed meanwhile and takes the form away; the window that was active is
-  // active again.
-  void End();
-
-  TPanel* m_pnlmain = nullptr;
-  TAnimate* m_amtmain = nullptr;
-  std::string m_imagePath;  // the directory; from the show on the animation file
-
- protected:
-  TBusyForm(TComponent* owner, const TBusyDesign& design) : TForm(owner), m_design(design) {}
-
- private:
-  void FormShow(TObject* sender);
-  void StartPainter();
-
-  const TBusyDesign& m_design;
-  TBusyPainter m_painter;
-  QPointer<QWidget> m_before;  // the window that was active
-};
-
-class TBarForm : public TBusyForm {
-  Q_OBJECT
-
- public:
-  explicit TBarForm(TComponent* owner);
-};
-
-class TWaitForm : public TBusyForm {
-  Q_OBJECT
-
- public:
-  explicit TWaitForm(TComponent* owner);
-};

@@ -11,8 +11,8 @@ class TbsSkinButton;
 // the screen.
 int TextWidth(const TControl& control, int characters, int least);
 
-// Height of the text in the control's font, wrapped at a width; at most half of the screen, at least `least`.
-// Only the beginning of a very long text is measured.
+// Height of the text in the control's font, wrapped at a width; at most half of the screen, at least
+// `least`. Only the beginning of a very long text is measured.
 int TextHeight(const TControl& control, const std::string& text, int width, int least);
 
 // Gives a button the room that its caption needs in its font, at least the given size.

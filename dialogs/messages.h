@@ -1,6 +1,6 @@
-// All that the module says to the user. Texts come in ready-made; each call blocks until the user has closed
-// the form. The owner may be null: the form then belongs to the host's main window. User-interface thread
-// only.
+// All that the module says to the user. Texts come in ready-made; each call blocks until the user has
+// closed the form. The owner may be null: the form then belongs to the host's main window. User-interface
+// thread only.
 #pragma once
 
 #include <string>

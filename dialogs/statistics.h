@@ -1,69 +1,15 @@
-// The sums of a list screen: for each currency how many records there are and the sum of each amount column,
-// once for all records and once for the ticked ones.
+// The sums of a list screen: for each currency how many records there are and the sum of each amount
+// column, once for all records and once for the ticked ones.
 #pragma once
 
-#include <map>
 #include <string>
 
-#include "data/corvane.h"
-#include "framework/base_form.h"
-#include "toolkit/buttons.h"
-#include "toolkit/labels.h"
-#include "toolkit/list_view.h"
-#include "toolkit/panels.h"
+#include "data/string_vector.h"
+
+class TForm;
+class TKVXListView;
 
 // Shows the sums of a list view in a modal form, or one message if a record cannot be summed. `columns` are
 // the ids of the columns to sum, in order. The records are not changed. User-interface thread only.
 void ShowStatistics(TForm* owner, TKVXListView* listView, const std::string& caption,
                     const corvane::StringVector& columns);
-
-class TfrmStatistics : public TBaseForm {
-  Q_OBJECT
-
- public:
-  explicit TfrmStatistics(TComponent* owner);
-
-  void BuildControls() override;
-  void SetCaptions() override;
-  // Reads the column table of the owner's class; a failure takes the standard reporting, and the sums then
-  // have no captions.
-  void Construct() override;
-  void PreInitHook1() override {}
-  void PreInitHook2() override {}
-  void ResetForm() override;
-
-  // Fills both tables; true if they are ready. Any failure, a refused record or an amount that is no number,
-  // shows one message and gives false.
-  bool Prepare(TForm* owner, TKVXListView* listView, const corvane::StringVector& columns,
-               const std::string& caption);
-
-  TbsSkinButton* m_btnOk = nullptr;
-  TLabel* m_lbAll = nullptr;
-  TLabel* m_lbSelected = nullptr;
-  TbsSkinPanel* m_pnlSelected = nullptr;
-  TbsSkinPanel* m_pnlAll = nullptr;
-  TListView* m_ltvInfo = nullptr;
-  TbsSkinScrollBar* m_SkinScrollBarAllH = nullptr;
-  TbsSkinScrollBar* m_SkinScrollBarAllV = nullptr;
-  TListView* m_ltvSelected = nullptr;
-  TbsSkinScrollBar* m_SkinScrollBarSelectedV = nullptr;
-  TbsSkinScrollBar* m_SkinScrollBarSelectedH = nullptr;
-
- private:
-  // The column id under which a currency's number of records is kept.
-  static constexpr const char* kRecordCount = "_RecordCount_";
-
-  TListView* BuildTable(TbsSkinPanel* panel, const char* name, TbsSkinScrollBar* horizontal,
-                        TbsSkinScrollBar* vertical);
-  void Compute();
-  void AddRecords(bool checkedOnly);
-  void AddRecord(const TListItem* item);
-  void BuildColumns(TListView* table);
-  void Fill(TListView* table) const;
-
-  TKVXListView* m_listView = nullptr;  // not owned
-  corvane::StringVector m_sumColumns;
-  std::map<std::string, std::map<std::string, double>> m_sums;  // by currency text and column id
-  std::string m_ownerClass;
-  corvane::List m_fieldDefs;
-};

@@ -2,15 +2,12 @@
 // the host's font and input method because of the properties that it publishes.
 //
 // 1. Made by CreateForm: BuildControls makes the controls, SetCaptions gives them their keys, Construct is
-// the rest. A
-//    descendant's BuildControls, SetCaptions (where it has one to call) and Construct call their base's
-//    first.
+//    the rest. A descendant's BuildControls, SetCaptions (where it has one to call) and Construct call
+//    their base's first.
 // 2. Everything comes from g_pPubInfo and g_pTranslate at each show; a failing read goes up as their
-// exception and
-//    leaves that show unfinished.
+//    exception and leaves that show unfinished.
 // 3. User-interface thread only. A message to the host returns when the host has answered it, and the host
-// may call the
-//    form from within; the form is consistent before it sends.
+//    may call the form from within; the form is consistent before it sends.
 #pragma once
 
 #include <cstdint>

@@ -4,6 +4,6 @@
 
 class TForm;
 
-// Translates the tree of controls, then the action lists and menus that the form owns. A failing look-up goes
-// up, with what was translated before it left translated.
+// Translates the tree of controls, then the action lists and menus that the form owns. A failing look-up
+// goes up, with what was translated before it left translated.
 void TranslateForm(TForm& form);

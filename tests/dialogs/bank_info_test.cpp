@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "dialogs/busy.h"
+#include "dialogs/busy_form.h"
 #include "tests/support/form_host.h"
 
 namespace {

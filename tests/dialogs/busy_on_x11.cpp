@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "dialogs/busy.h"
+#include "dialogs/busy_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
 

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "dialogs/busy_form.h"
 #include "dialogs/busy_frames.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/calendar_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
 

@@ -152,6 +152,8 @@ TEST_F(Messages, DetailPaneOpensClosesAndIsCopied) {
   host.SetText("UI12010", "详情");
   WhenShown<TFrmErrorMsg> step([](TFrmErrorMsg& form) {
     const int closed = form.Height();
+    EXPECT_EQ(form.Width(), 451);
+    EXPECT_EQ(closed, 355 - form.m_memo->Height() - 28);
     EXPECT_FALSE(form.m_memo->Visible());
     EXPECT_EQ(form.m_btnDetail->Caption(), Ansi("详情"));
     form.m_btnDetail->Click();

@@ -4,6 +4,7 @@
 
 #include "dialogs/com_msg.h"
 #include "dialogs/error_msg.h"
+#include "dialogs/statistics_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
 #include "toolkit/text.h"
