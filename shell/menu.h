@@ -1,0 +1,26 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+/// What the module offers in the host's menu, and the one screen behind each item.
+namespace norvik {
+
+struct MenuItem {
+  std::string_view item;
+  /// Opens the item's screen, or brings the same one back: one that was closed is shown anew and runs its
+  /// reset, one that is open or minimised comes forward as it was. A failure while the screen is made or
+  /// shown goes up.
+  void (*open)(const std::string& item);
+  /// Destroys the screen if it exists.
+  void (*destroy)();
+};
+
+/// The items in the order of the menu.
+std::span<const MenuItem> Menu();
+
+/// The menu as the text of an "iniplus" document.
+std::string MenuText();
+
+}  // namespace norvik

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "data/corvane.h"
+#include "platform/host_api.h"
+#include "tests/host/fake_host.h"
+
+/// The built module library, loaded as a host loads it.
+class ModuleLibrary {
+ public:
+  explicit ModuleLibrary(const char* path = NORVIK_QRY);
+  ModuleLibrary(const ModuleLibrary&) = delete;
+  ModuleLibrary& operator=(const ModuleLibrary&) = delete;
+  ~ModuleLibrary();
+
+  /// CallFunc with the row of an item.
+  void Pick(const std::string& item) const;
+
+  /// MenuConfig, read and given back.
+  std::string Menu() const;
+
+  norvik_init_module InitModule;
+  norvik_menu_config MenuConfig;
+  norvik_free_buff FreeBuff;
+  norvik_call_func CallFunc;
+  norvik_release Release;
+
+ private:
+  void* m_library;
+};
+
+/// A fake host with all libraries and a main window that writes down its messages.
+class WindowedHost : public fakehost::FakeHost {
+ public:
+  WindowedHost();
+  ~WindowedHost();
+
+  norvik_handle publicInformation;
+  QWidget mainWindow;
+  std::vector<std::uint32_t> messages;
+
+ private:
+  norvik_handle m_window;
+};
+
+/// The process's window with that object name, null if there is none or it was destroyed.
+QWidget* WindowOf(const std::string& name);
+
+/// The keys of the corvane::TException that an action throws; none if it doesn't throw.
+template <class Action>
+std::vector<std::string> KeysOf(Action action) {
+  try {
+    action();
+  } catch (const corvane::TException& exception) {
+    const auto errors = exception.getErrors();
+    return {errors.begin(), errors.end()};
+  }
+  return {};
+}
