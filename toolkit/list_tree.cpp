@@ -20,11 +20,20 @@ namespace {
 /// Gives the rows some room above and below the text.
 class RowDelegate : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit RowDelegate(TListTree* tree) : QStyledItemDelegate(tree), tree_(tree) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowRoom);
   }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (tree_->HidesSelection()) option->state &= ~QStyle::State_Selected;
+  }
+
+ private:
+  TListTree* tree_;
 };
 
 }  // namespace
@@ -149,10 +158,15 @@ void TListTree::focusOutEvent(QFocusEvent* event) {
   ShowSelection();
 }
 
+bool TListTree::HidesSelection() const {
+  return list_->HideSelection() && !hasFocus();
+}
+
+// A style takes the row's colour from the palette and a skin the cells' from their state (see RowDelegate).
 void TListTree::ShowSelection() {
   QPalette colours;
-  if (list_->HideSelection() && !hasFocus()) {
-    colours.setBrush(QPalette::Highlight, colours.base());
+  if (HidesSelection()) {
+    colours.setBrush(QPalette::Highlight, Qt::transparent);
     colours.setBrush(QPalette::HighlightedText, colours.text());
   }
   setPalette(colours);

@@ -15,7 +15,9 @@ class TListTree : public QTreeView {
   void SetGridLines(bool on);
   /// Text of a column's cell in the strip below the rows; unset: no strip.
   void SetSums(std::function<QString(int column)> sums);
-  /// Marks the selected row, or with HideSelection and without the focus doesn't.
+  /// Whether the selected row isn't marked: with HideSelection, and without the focus.
+  bool HidesSelection() const;
+  /// Marks the selected row, or not, as things are now.
   void ShowSelection();
 
  protected:

@@ -20,6 +20,7 @@ TCustomListView::TCustomListView(TComponent* owner)
   SetWidget(tree);
   SetTabStop(true);
   tree->setModel(model_);
+  tree->ShowSelection();
   ConnectHeader();
   connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this](const QItemSelection& selected, const QItemSelection& deselected) {

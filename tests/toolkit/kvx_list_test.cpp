@@ -222,6 +222,17 @@ TEST_F(KvxListTest, TellsWhatIsSelected) {
   EXPECT_EQ(list->ItemIndex(), -1);
 }
 
+TEST_F(KvxListTest, HidesTheSelectionWithoutTheFocusWhereAsked) {
+  Fill(3);
+  view->clearFocus();
+  list->SetHideSelection(true);
+  const QImage bare = view->grab().toImage();
+  list->SetItemIndex(1);
+  EXPECT_EQ(view->grab().toImage(), bare);
+  list->SetHideSelection(false);
+  EXPECT_NE(view->grab().toImage(), bare);
+}
+
 TEST_F(KvxListTest, DeletingKeepsTheOtherHandles) {
   Fill(6);
   TListItem* last = list->Items()[5];
