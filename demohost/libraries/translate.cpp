@@ -13,12 +13,13 @@ void Release(char* buffer) {
   ReleaseBuffer(buffer);
 }
 
-// The text of a key, empty where it has none; a section is the beginning of its keys.
+// The text of a key, empty where it has none; a section is the beginning of its keys. A caption that a form
+// keeps as designed is a key, too.
 std::uint8_t Lookup(char** buffer, std::int32_t* length, const char* section, const char* key, char* error) {
   return Answered(buffer, length, error, kShortError, [&] {
     const std::string name = Text(key);
     if (name.rfind(Text(section), 0) != 0) return std::string();
-    return norvik::AnsiFromUtf8(CurrentText(name));
+    return norvik::AnsiFromUtf8(CurrentText(norvik::Utf8FromAnsi(name)));
   });
 }
 

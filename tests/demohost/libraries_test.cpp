@@ -32,7 +32,7 @@ class LibrariesTest : public testing::Test {
   void WriteTexts() const {
     folder_.Write("texts/zh_CN.txt", "UI44008=票号\nET10016=报文有误\nBK30005=日期有误\n");
     folder_.Write("texts/zh_TW.txt", "UI44008=票號\n");
-    folder_.Write("texts/en.txt", "UI44008=Bill number\n");
+    folder_.Write("texts/en.txt", "UI44008=Bill number\n银行备注=Bank remark\n");
   }
 
   template <class Function>
@@ -150,6 +150,7 @@ TEST_F(LibrariesTest, TranslateKeysByTheLanguageOfTheMoment) {
   EXPECT_EQ(Translate("", ""), "");
   store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", "English");
   EXPECT_EQ(Translate("UI44", "UI44008"), "Bill number");
+  EXPECT_EQ(Translate(AnsiFromUtf8("银行").c_str(), AnsiFromUtf8("银行备注").c_str()), "Bank remark");
 }
 
 TEST_F(LibrariesTest, TurnErrorKeysIntoTextsLineByLine) {
