@@ -1,0 +1,92 @@
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <string>
+
+#include "docs/minimal_host.h"
+
+namespace {
+
+template <typename Function>
+Function Export(void* module, const char* name) {
+  void* const found = dlsym(module, name);
+  EXPECT_NE(found, nullptr) << name;
+  return reinterpret_cast<Function>(found);
+}
+
+QWidget* FormOf(const QString& className) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == className) return widget;
+  }
+  return nullptr;
+}
+
+// The module in the host of the guide, from loading to unloading.
+class MinimalHost : public testing::Test {
+ protected:
+  void SetUp() override {
+    m_module = dlopen(NORVIK_MODULE, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(m_module, nullptr) << dlerror();
+    static const norvik_handle kPublicInformation = minimal_host_open(nullptr);
+    ASSERT_EQ(Export<norvik_init_module>(m_module, "InitModule")(kPublicInformation), 0U);
+  }
+
+  void TearDown() override {
+    if (!m_module) return;
+    Export<norvik_release>(m_module, "Release")();
+    dlclose(m_module);
+  }
+
+  void Pick(const std::string& item) {
+    const std::string request = "<row><ItemName>" + item + "</ItemName></row>";
+    Export<norvik_call_func>(m_module, "CallFunc")(request.c_str(), 0);
+  }
+
+  void* m_module = nullptr;
+};
+
+}  // namespace
+
+TEST_F(MinimalHost, ReadsTheMenu) {
+  char* menu = nullptr;
+  Export<norvik_menu_config>(m_module, "MenuConfig")(&menu);
+  ASSERT_NE(menu, nullptr);
+  EXPECT_STREQ(menu,
+               "<?xml version=\"1.0\" encoding=\"UTF-8\"?><iniplus><section name=\"MENU\">"
+               "<row><ItemName>ITEM6066</ItemName></row><row><ItemName>ITEM6067</ItemName></row>"
+               "<row><ItemName>ITEM6068</ItemName></row></section></iniplus>");
+  Export<norvik_free_buff>(m_module, "FreeBuff")(menu);
+}
+
+TEST_F(MinimalHost, RunsOneQuery) {
+  Pick("ITEM6066");
+  QWidget* const form = FormOf("TfrmNorvikQry");
+  ASSERT_NE(form, nullptr);
+  EXPECT_TRUE(form->isVisible());
+  auto* const query = form->findChild<QAbstractButton*>("m_spdQuery");
+  auto* const list = form->findChild<QAbstractItemView*>("m_lvMain");
+  ASSERT_TRUE(query && list);
+  EXPECT_EQ(list->model()->rowCount(), 0);
+  query->click();
+  ASSERT_EQ(list->model()->rowCount(), 1);
+  const char* const kRow[] = {"1030005200000001", "250,000.00", "In custody"};
+  for (int column = 0; column < 3; ++column) {
+    const std::string text = list->model()->index(0, column).data().toString().toStdString();
+    EXPECT_EQ(text, kRow[column]) << column;
+  }
+}
+
+TEST_F(MinimalHost, AnUnknownItemOpensNothing) {
+  const qsizetype before = QApplication::topLevelWidgets().size();
+  Pick("ITEM0000");
+  EXPECT_EQ(QApplication::topLevelWidgets().size(), before);
+}
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}
