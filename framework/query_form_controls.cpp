@@ -85,6 +85,8 @@ void TQueryForm::BuildActions() {
     }
     this->*line.action = action;
   }
+  // Nothing is ticked in a list that has not been filled yet.
+  for (TAction* action : {m_actOutput, m_actPrint, m_actDetail, m_actDelete}) action->SetEnabled(false);
 }
 
 void TQueryForm::BuildMenus() {

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
+constexpr int kControlWidth = 130;
 
 bool Has(const char* text) {
   return *text != '\0';
@@ -62,7 +63,10 @@ TGridLayout ConditionTable::Build(TBaseForm* form, TbsSkinExPanel* panel, Condit
   TGridLayout grid(panel);
   grid.SetMargins(kMargin, kMargin, kMargin, kMargin);
   grid.SetSpacing(kGap);
-  for (int field = 0; field < kFields; ++field) grid.SetColumnStretch(field * kCellsOfField + 1, 1);
+  for (int field = 0; field < kFields; ++field) {
+    grid.SetColumnStretch(field * kCellsOfField + 1, 1);
+    grid.SetColumnMinimum(field * kCellsOfField + 1, kControlWidth);
+  }
   for (const Condition& condition : m_conditions) {
     if (condition.panel != which) continue;
     const auto [row, field, rows] = condition.cell;
