@@ -41,7 +41,7 @@ Client::Client(const Options& options)
       texts_(options.share / "texts"),
       tables_(ReadTables(options.share)),
       clock_(options.today),
-      bank_(OpenBank(BankFile(options), Plan(options))),
+      bank_(OpenBank(BankFile(options), Plan(options)), options.today),
       directory_(BankFile(options), options.directory_delay),
       store_(options.config),
       mark_(nullptr),

@@ -8,6 +8,7 @@
 
 #include "demohost/client.h"
 #include "demohost/script/player.h"
+#include "demohost/text_file.h"
 
 namespace {
 
@@ -31,11 +32,16 @@ void LogQuietly(QtMsgType type, const QMessageLogContext&, const QString& text) 
   if (type == QtFatalMsg) std::abort();
 }
 
-// Without a display a script plays all the same, on Qt's platform that draws into memory.
+// Without a display a script plays all the same, on Qt's platform that draws into memory, with a screen of a
+// usual size.
 void ChoosePlatform(const Options& options) {
   const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
   if (!options.script.isEmpty() && !display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::filesystem::path screen = options.data / "screen.json";
+    demohost::ReplaceFile(screen,
+                          R"({"windowFrameMargins": false, "screens": [{"name": "memory", "x": 0, "y": 0,
+      "width": 1366, "height": 900, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + screen.string()));
     qInstallMessageHandler(&LogQuietly);
   }
 }

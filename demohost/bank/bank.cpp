@@ -1,7 +1,10 @@
 #include "demohost/bank/bank.h"
 
 #include "demohost/bank/answer.h"
+#include "demohost/bank/enquiries.h"
+#include "demohost/bank/orders.h"
 #include "demohost/bank/refuse.h"
+#include "demohost/bank/request.h"
 #include "demohost/refusals.h"
 #include "demohost/words.h"
 #include "platform/code_page.h"
@@ -12,18 +15,9 @@ namespace {
 // A row of a request's account list names this many accounts at most.
 constexpr std::size_t kAccountsInRow = 20;
 
-// The top-level fields of a request, in UTF-8.
-std::map<std::string, std::string> FieldsOf(const corvane::CorvaneStream& request) {
-  std::map<std::string, std::string> fields;
-  for (const auto& [name, field] : request.getFields()) {
-    fields[norvik::Utf8FromAnsi(name)] = norvik::Utf8FromAnsi(field.getValue());
-  }
-  return fields;
-}
-
 }  // namespace
 
-Bank::Bank(Database database) : database_(std::move(database)) {
+Bank::Bank(Database database, Day today) : database_(std::move(database)), today_(today) {
   for (const BankAccount& account : Accounts()) accounts_.insert(account.number);
   Statement codes = database_.Prepare("SELECT DICTIONARY, CODE FROM code");
   while (codes.Step()) codes_.emplace(codes.Text(0), codes.Text(1));
@@ -31,8 +25,17 @@ Bank::Bank(Database database) : database_(std::move(database)) {
 
 const std::map<std::string, Bank::Handler>& Bank::Handlers() {
   static const std::map<std::string, Handler> kHandlers = {
-      {"EBBADQDB", &Bank::QueryRecords},
-      {"EBBADQAH", &Bank::QueryInstitutions},
+      {"EBBADQDB", std::mem_fn(&Bank::QueryRecords)},
+      {"EBBADQAH", std::mem_fn(&Bank::QueryInstitutions)},
+      {"EBBADEHQ", [](Bank& bank, auto& request) { return EcdsHistory(bank.database_, request); }},
+      {"EBBADERQ", [](Bank& bank, auto& request) { return EcdsRegistration(bank.database_, request); }},
+      {"EBBADHHQ", [](Bank& bank, auto& request) { return LargeValueResult(bank.database_, request); }},
+      {"COMSTTKP", [](Bank& bank, auto& request) { return SynchronizeStates(bank.database_, request); }},
+      {"COMREASON", [](Bank& bank, auto& request) { return FailureReasons(bank.database_, request); }},
+      {"EBBCMCOQ",
+       [](Bank& bank, auto& request) { return CancelOrders(bank.database_, request, bank.today_); }},
+      {"COMQRYAT", [](Bank& bank, auto& request) { return AuditTrail(bank.database_, request); }},
+      {"COMQRYFW", [](Bank& bank, auto& request) { return ApprovalFlow(bank.database_, request); }},
   };
   return kHandlers;
 }
@@ -48,7 +51,7 @@ std::string Bank::Exchange(const std::string& transaction, const std::string& re
     throw Refused(refusal::kBadRequest);
   }
   try {
-    return (this->*handler->second)(stream).toString();
+    return handler->second(*this, stream).toString();
   } catch (const DatabaseError& error) {
     throw Refused(refusal::kBankFailure, error.what());
   }
@@ -81,14 +84,13 @@ std::vector<std::string> Bank::RequestedAccounts(corvane::CorvaneStream& request
 }
 
 corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
-  const std::map<std::string, std::string> fields = FieldsOf(request);
-  const auto code = fields.find("BSNCODE");
-  if (code == fields.end()) throw Refused(refusal::kMissingField, "BSNCODE");
-  const Business* business = FindBusiness(code->second);
-  if (business == nullptr) throw Refused(refusal::kUnknownBusiness, code->second);
+  const Fields fields = FieldsOf(request);
+  const std::string& code = Required(fields, "BSNCODE");
+  const Business* business = FindBusiness(code);
+  if (business == nullptr) throw Refused(refusal::kUnknownBusiness, code);
   const std::vector<std::string> accounts = RequestedAccounts(request, "resultList");
   Where where = BuildWhere(*business, fields,
-                           [this](auto dictionary, auto code_) { return IsCode(dictionary, code_); });
+                           [this](auto dictionary, auto value) { return IsCode(dictionary, value); });
   AddOneOf(where, "b.CUSTACC", accounts);
   Statement statement =
       database_.Prepare("SELECT " + business->columns + " FROM " + business->tables + " WHERE 1" + where.sql +
@@ -99,7 +101,7 @@ corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
 }
 
 corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) {
-  if (FieldsOf(request).count("SRC") == 0) throw Refused(refusal::kMissingField, "SRC");
+  Required(FieldsOf(request), "SRC");
   const std::vector<std::string> accounts = RequestedAccounts(request, "userDataList");
   Where where;
   AddOneOf(where, "ACCNO", accounts);

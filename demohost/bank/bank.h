@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -8,6 +9,7 @@
 #include "data/corvane.h"
 #include "demohost/bank/conditions.h"
 #include "demohost/bank/database.h"
+#include "demohost/calendar.h"
 
 namespace demohost {
 
@@ -21,7 +23,8 @@ struct BankAccount {
 // thread.
 class Bank {
  public:
-  explicit Bank(Database database);
+  // today: the bank's day.
+  Bank(Database database, Day today);
 
   // The answer stream to a request stream, both as text in the code page. Throws Refused for whatever the
   // bank turns down, a failure of its own included.
@@ -31,7 +34,7 @@ class Bank {
   std::vector<BankAccount> Accounts();
 
  private:
-  using Handler = corvane::CorvaneStream (Bank::*)(corvane::CorvaneStream&);
+  using Handler = std::function<corvane::CorvaneStream(Bank& bank, corvane::CorvaneStream& request)>;
   static const std::map<std::string, Handler>& Handlers();
 
   corvane::CorvaneStream QueryRecords(corvane::CorvaneStream& request);
@@ -41,6 +44,7 @@ class Bank {
   bool IsCode(std::string_view dictionary, std::string_view code) const;
 
   Database database_;
+  Day today_;
   std::set<std::string> accounts_;
   std::set<std::pair<std::string, std::string>> codes_;
 };

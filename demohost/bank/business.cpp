@@ -65,10 +65,13 @@ const Business* FindBusiness(std::string_view code) {
   static const std::array<Business, 3> kBusinesses = {{
       {"CB200310", kBillColumns, kBillTables, "b.ID", Conditions({}), {}, {}},
       {"CB200320",
-       std::string("x.APPLYNO, x.APPREST, x.APPTYPE, x.APPDATE, x.CUSTRMK, x.BANKRMK, ") + kBillColumns +
-           kHandlingColumns,
-       std::string(kBillTables) + " JOIN application x ON x.BILL = b.ID", "x.ID",
-       Conditions({"x.APPDATE", "x.APPLYNO", "x.APPTYPE", "LOANTYPEAPP", "x.APPREST", {}}), "APLYDTS",
+       std::string(
+           "x.APPLYNO, x.APPREST, x.APPTYPE, x.APPDATE, x.CUSTRMK, x.BANKRMK, o.ORDERNO, o.STT, o.LASTOPRNO, "
+           "o.PREFLG, o.PREDATE, o.PRETIME, o.FLOWID, o.OPRNM, o.SMTDATE, o.SMTTIME, o.INMEMO, ") +
+           kBillColumns + kHandlingColumns,
+       std::string(kBillTables) +
+           " JOIN application x ON x.BILL = b.ID JOIN orders o ON o.APPLICATION = x.ID",
+       "x.ID", Conditions({"x.APPDATE", "x.APPLYNO", "x.APPTYPE", "LOANTYPEAPP", "x.APPREST", {}}), "APLYDTS",
        "APLYDTE"},
       {"CB200330", std::string("x.BSNFLWNO, x.APPTYPE, x.BSNDAT, ") + kBillColumns + kHandlingColumns,
        std::string(kBillTables) + " JOIN event x ON x.BILL = b.ID", "x.ID",

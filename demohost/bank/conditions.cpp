@@ -12,8 +12,6 @@
 namespace demohost {
 namespace {
 
-using Fields = std::map<std::string, std::string>;
-
 // "AC00" asks for bills of every type.
 constexpr std::string_view kEveryType = "AC00";
 // The bank answers for less than this many days at once, where it limits a range at all.
@@ -68,12 +66,6 @@ void AddCondition(Where& where, const Condition& condition, const std::string& v
   }
 }
 
-const std::string& Value(const Fields& fields, std::string_view name) {
-  const auto found = fields.find(std::string(name));
-  if (found == fields.end()) throw Refused(refusal::kMissingField, std::string(name));
-  return found->second;
-}
-
 // Both values stand for one column, and the values before were found good.
 bool Reversed(ConditionKind from, const std::string& start, const std::string& end) {
   if (start.empty() || end.empty()) return false;
@@ -86,7 +78,7 @@ void CheckRanges(const Business& business, const Fields& fields) {
     const bool range = from.kind == ConditionKind::kDateFrom || from.kind == ConditionKind::kAmountFrom;
     // The end of a range stands behind its start in the table.
     const Condition& to = business.conditions[at + 1];
-    if (range && Reversed(from.kind, Value(fields, from.field), Value(fields, to.field))) {
+    if (range && Reversed(from.kind, Required(fields, from.field), Required(fields, to.field))) {
       throw Refused(refusal::kReversedRange, std::string(to.field));
     }
   }
@@ -94,8 +86,8 @@ void CheckRanges(const Business& business, const Fields& fields) {
 
 void CheckLimitedRange(const Business& business, const Fields& fields) {
   if (business.limited_from.empty()) return;
-  const std::string& start = Value(fields, business.limited_from);
-  const std::string& end = Value(fields, business.limited_to);
+  const std::string& start = Required(fields, business.limited_from);
+  const std::string& end = Required(fields, business.limited_to);
   if (start.empty() && end.empty()) return;
   if (start.empty()) throw Refused(refusal::kMissingDate, std::string(business.limited_from));
   if (end.empty()) throw Refused(refusal::kMissingDate, std::string(business.limited_to));
@@ -120,7 +112,7 @@ void AddOneOf(Where& where, std::string_view column, std::span<const std::string
 Where BuildWhere(const Business& business, const Fields& fields, const IsCode& is_code) {
   Where where;
   for (const Condition& condition : business.conditions) {
-    const std::string& value = Value(fields, condition.field);
+    const std::string& value = Required(fields, condition.field);
     const bool any = value.empty() || (condition.field == "BILLTYP" && value == kEveryType);
     if (any) continue;
     if (condition.column.empty()) throw Refused(refusal::kForeignCondition, std::string(condition.field));

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "demohost/bank/database.h"
+#include "demohost/bank/request.h"
 
 namespace demohost {
 
@@ -57,8 +58,7 @@ using IsCode = std::function<bool(std::string_view dictionary, std::string_view 
 // The conditions of a request of this business. `fields` holds every field of the request in UTF-8. Throws
 // Refused for a missing field, a value that its kind doesn't take, a range that ends before its start and a
 // condition that the business doesn't have; the detail is the field's name.
-Where BuildWhere(const Business& business, const std::map<std::string, std::string>& fields,
-                 const IsCode& is_code);
+Where BuildWhere(const Business& business, const Fields& fields, const IsCode& is_code);
 
 // Adds "AND <column> IN (...)" for the values.
 void AddOneOf(Where& where, std::string_view column, std::span<const std::string> values);

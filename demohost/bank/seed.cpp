@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "demohost/bank/schema.h"
+#include "demohost/bank/seed_orders.h"
 #include "demohost/bank/seed_records.h"
 
 namespace demohost {
@@ -43,9 +44,13 @@ void Make(const std::filesystem::path& file, const BankPlan& plan, std::int32_t 
   database.Run("BEGIN");
   database.Run(SchemaSql());
   FillBank(database, plan);
+  FillEnquiries(database, plan);
+  FillOrders(database, plan);
   database.Run(
       "CREATE INDEX bill_account ON bill (CUSTACC); CREATE INDEX application_bill ON application (BILL);"
-      "CREATE INDEX event_bill ON event (BILL)");
+      "CREATE INDEX event_bill ON event (BILL); CREATE INDEX enquiry_bill ON enquiry (BILL);"
+      "CREATE INDEX registration_bill ON registration (BILL); CREATE INDEX order_application ON orders "
+      "(APPLICATION)");
   database.SetVersion(fingerprint);
   database.Run("COMMIT");
 }

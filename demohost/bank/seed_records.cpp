@@ -1,28 +1,16 @@
 #include "demohost/bank/seed_records.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "demohost/bank/insert.h"
 #include "demohost/bank/names.h"
 #include "demohost/bank/random.h"
+#include "demohost/bank/seed_words.h"
 
 namespace demohost {
 namespace {
 
 using std::chrono::days;
-
-std::string Digits(const char* format, std::int64_t number) {
-  char text[32];
-  std::snprintf(text, sizeof text, format, static_cast<long long>(number));
-  return text;
-}
-
-std::string Join(std::initializer_list<std::string_view> parts) {
-  std::string whole;
-  for (const std::string_view part : parts) whole += part;
-  return whole;
-}
 
 struct Account {
   std::string number;
@@ -63,9 +51,9 @@ class Filler {
   void AddApplication(Insert& applications, std::int64_t id);
   void AddEvent(Insert& events, std::int64_t id);
 
-  // A code of the table that stands for something; "" where the table has none. The first round over the
-  // records takes the codes in turn, so that each is borne by one.
-  std::string Code(const std::string& dictionary, std::int64_t record);
+  std::string Code(const std::string& dictionary, std::int64_t record) {
+    return SeedCode(plan_, dictionary, record, random_);
+  }
   Day Back(std::uint32_t most) { return plan_.today - days(random_.Below(most + 1)); }
   Party Firm();
   std::string Person() { return Join({random_.Pick(names::Surnames()), random_.Pick(names::GivenNames())}); }
@@ -78,16 +66,6 @@ class Filler {
   std::vector<Branch> branches_;
   std::vector<Branch> accepting_;
 };
-
-std::string Filler::Code(const std::string& dictionary, std::int64_t record) {
-  const auto found = plan_.codes.find(dictionary);
-  std::vector<std::string> codes;
-  if (found != plan_.codes.end()) codes = found->second;
-  std::erase_if(codes, [](const std::string& code) { return code == "-9999" || code == "AC00"; });
-  if (codes.empty()) return {};
-  const auto turn = static_cast<std::size_t>(record);
-  return turn < codes.size() ? codes[turn] : random_.Pick(codes);
-}
 
 Party Filler::Firm() {
   const names::City& city = random_.Pick(names::Cities());

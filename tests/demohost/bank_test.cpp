@@ -11,8 +11,6 @@
 namespace demohost {
 namespace {
 
-using Fields = std::map<std::string, std::string>;
-
 constexpr const char* kFields[] = {"AGTBHNM", "BILLNUM", "BILLSID", "BILLTYP", "BATCHNO", "PTENDNM",
                                    "ACCPNAM", "AGTSTAT", "BKRMKTY", "DUEDATS", "DUEDATE", "AMTBEGN",
                                    "AMTENDS", "APLYDTS", "APLYDTE", "SAVEDTS", "SAVEDTE", "HASIMPN",
@@ -22,7 +20,7 @@ class BankTest : public testing::Test {
  protected:
   BankTest()
       : database_(OpenBank(folder_ / "bank.sqlite", TestPlan(500))),
-        bank_(OpenBank(folder_ / "bank.sqlite", TestPlan(500))) {
+        bank_(OpenBank(folder_ / "bank.sqlite", TestPlan(500)), *DayOf("20260615")) {
     for (const BankAccount& account : bank_.Accounts()) accounts_.push_back(account.number);
   }
 

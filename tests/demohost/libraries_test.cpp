@@ -20,7 +20,7 @@ class LibrariesTest : public testing::Test {
  protected:
   LibrariesTest()
       : texts_((WriteTexts(), folder_ / "texts")),
-        bank_(OpenBank(folder_ / "bank.sqlite", TestPlan(20))),
+        bank_(OpenBank(folder_ / "bank.sqlite", TestPlan(20)), *DayOf("20260615")),
         store_(folder_ / "config") {
     store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", "Simplified Chinese");
     store_.KeepIniplus("COLUMN_INFO");

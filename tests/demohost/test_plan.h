@@ -15,7 +15,8 @@ inline BankPlan TestPlan(std::int64_t bills) {
            {"LOANRESULT", {"01", "02"}},
            {"LOANTYPEAPP", {"01", "02", "03"}},
            {"BUSITYPE", {"01", "02"}},
-           {"TRANSMK", {"EM00", "EM01"}}}};
+           {"TRANSMK", {"EM00", "EM01"}},
+           {"SIGNINFOTYPE", {"01", "02"}}}};
 }
 
 }  // namespace demohost

@@ -1,0 +1,95 @@
+#include "demohost/bank/enquiries.h"
+
+#include "demohost/bank/answer.h"
+#include "demohost/bank/refuse.h"
+#include "demohost/bank/request.h"
+#include "demohost/refusals.h"
+#include "platform/code_page.h"
+
+namespace demohost {
+namespace {
+
+// The bill's data as an enquiry's answer shows them.
+constexpr const char* kHeadColumns =
+    "ID, BILLNUM, BILLTYP, ACCPBNM || ACPNM AS ACCPBNM, ISSDATE, DUEDATE, "
+    "printf('%d.%02d', CENTS / 100, CENTS % 100) AS PMMONEY";
+
+constexpr const char* kEnquiryColumns =
+    "e.QURYDAT, e.QURYBNO, e.QURYBNM, e.QURYCNT, e.RPLYDAT, e.RPLYBNO, e.RPLYBNM, e.RPLYCNT, e.QURYRST, "
+    "b.QURYNUM";
+
+// A bill of one account, named by one more column.
+struct BillName {
+  const char* column;
+  std::string value;
+};
+
+// A number that names a bill is never empty, though some bills lack it.
+std::int64_t AddHead(Database& database, const std::string& account, const std::vector<BillName>& names,
+                     corvane::CorvaneStream& answer) {
+  std::string sql = std::string("SELECT ") + kHeadColumns + " FROM bill WHERE CUSTACC = ?";
+  for (const BillName& name : names) {
+    if (name.value.empty()) throw Refused(refusal::kUnknownBill, name.column);
+    sql += std::string(" AND ") + name.column + " = ?";
+  }
+  Statement bill = database.Prepare(sql);
+  int parameter = 0;
+  bill.Bind(++parameter, account);
+  for (const BillName& name : names) bill.Bind(++parameter, name.value);
+  if (!bill.Step()) throw Refused(refusal::kUnknownBill, names.front().value);
+  for (int column = 1; column < bill.ColumnCount(); ++column) {
+    answer.addField(
+        corvane::Field(bill.ColumnName(column), norvik::AnsiFromUtf8(std::string(bill.Text(column)))));
+  }
+  return bill.Number(0);
+}
+
+// The bill's data and what `records` (with the bill's number as its parameter) finds about it.
+corvane::CorvaneStream Enquire(Database& database, const std::string& account,
+                               const std::vector<BillName>& names, const std::string& records) {
+  corvane::CorvaneStream head;
+  const std::int64_t bill = AddHead(database, account, names, head);
+  Statement statement = database.Prepare(records);
+  statement.Bind(1, bill);
+  corvane::List list = ResultList(statement);
+  corvane::CorvaneStream answer = Answer(list);
+  answer.addFields(head.getFieldsRow());
+  return answer;
+}
+
+corvane::CorvaneStream EnquireEcds(Database& database, const corvane::CorvaneStream& request,
+                                   const std::string& records) {
+  const Fields fields = FieldsOf(request);
+  const std::string& kind = Required(fields, "QURYTYP");
+  if (kind != "1" && kind != "2") throw Refused(refusal::kUnknownCode, "QURYTYP");
+  const char* column = kind == "1" ? "BILLSID" : "QURYNUM";
+  return Enquire(database, Required(fields, "CUSTACC"), {{column, Required(fields, column)}}, records);
+}
+
+std::string EnquiriesOf(const char* system) {
+  return std::string("SELECT ") + kEnquiryColumns +
+         " FROM enquiry e JOIN bill b ON b.ID = e.BILL WHERE e.BILL = ? AND e.SYSTEM = '" + system +
+         "' ORDER BY e.ID";
+}
+
+}  // namespace
+
+corvane::CorvaneStream EcdsHistory(Database& database, const corvane::CorvaneStream& request) {
+  return EnquireEcds(database, request, EnquiriesOf("ECDS"));
+}
+
+corvane::CorvaneStream EcdsRegistration(Database& database, const corvane::CorvaneStream& request) {
+  return EnquireEcds(database, request,
+                     "SELECT r.INFOTYP, r.REGIDAT, r.REGINAM, r.REGIBNO, r.REGIBNM, r.REGICNT, "
+                     "printf('%d.%02d', b.CENTS / 100, b.CENTS % 100) AS PAYAMT, b.CRYTYPE, b.QURYNUM "
+                     "FROM registration r JOIN bill b ON b.ID = r.BILL WHERE r.BILL = ? ORDER BY r.ID");
+}
+
+corvane::CorvaneStream LargeValueResult(Database& database, const corvane::CorvaneStream& request) {
+  const Fields fields = FieldsOf(request);
+  return Enquire(database, Required(fields, "CUSTACC"),
+                 {{"BILLSID", Required(fields, "BILLSID")}, {"BILLNUM", Required(fields, "BILLNUM")}},
+                 EnquiriesOf("HVPS"));
+}
+
+}  // namespace demohost
