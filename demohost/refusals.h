@@ -4,8 +4,8 @@
 #include <string_view>
 
 // The keys that this host and its bank refuse with, beside those of the module itself. Each has a text in
-// every language of share/texts. Where a failure has a detail (a field, a file, an account), it follows the
-// key as a second line, which the error service shows as it is.
+// every language of share/texts. Where a failure has a detail (a field, a file, an account), it stands before
+// the key as a line of its own, which the error service shows as it is.
 namespace demohost::refusal {
 
 // From the bank.

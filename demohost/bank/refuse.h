@@ -16,8 +16,9 @@ class Refused : public std::runtime_error {
   std::string Key() const { return what(); }
   const std::string& Detail() const { return detail_; }
 
-  // The key, and the detail as a second line where there is one.
-  std::string Lines() const { return detail_.empty() ? Key() : Key() + "\r\n" + detail_; }
+  // The key, and before it the detail as a line of its own where there is one: an error dialog shows the last line at
+  // once and the others on request.
+  std::string Lines() const { return detail_.empty() ? Key() : detail_ + "\r\n" + Key(); }
 
  private:
   std::string detail_;

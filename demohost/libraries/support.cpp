@@ -17,8 +17,23 @@ std::int32_t Idle() {
   return 0;
 }
 
-std::string Lines(std::string_view key, std::string_view detail) {
-  return Refused(key, std::string(detail)).Lines();
+// The longest detail that leaves room for a key behind it in a caller's error text, bytes.
+constexpr std::size_t kLongestDetail = 200;
+
+// As many whole characters of narrow text as fit into `size` bytes.
+std::string_view Fitting(std::string_view text, std::size_t size) {
+  std::size_t length = 0;
+  while (length < text.size()) {
+    const std::size_t character = norvik::CharacterLength(text, length);
+    if (length + character > size) break;
+    length += character;
+  }
+  return text.substr(0, length);
+}
+
+std::string Lines(const Refused& refused) {
+  const std::string detail = norvik::AnsiFromUtf8(refused.Detail());
+  return Refused(refused.Key(), std::string(Fitting(detail, kLongestDetail))).Lines();
 }
 
 }  // namespace
@@ -55,25 +70,20 @@ std::size_t OutstandingBuffers() {
 
 void WriteError(char* error, std::size_t size, std::string_view text) {
   if (error == nullptr) return;
-  std::size_t length = 0;
-  while (length < text.size()) {
-    const std::size_t character = norvik::CharacterLength(text, length);
-    if (length + character >= size) break;
-    length += character;
-  }
-  std::memcpy(error, text.data(), length);
-  error[length] = '\0';
+  text = Fitting(text, size - 1);
+  std::memcpy(error, text.data(), text.size());
+  error[text.size()] = '\0';
 }
 
 std::string ErrorLines() {
   try {
     throw;
   } catch (const Refused& refused) {
-    return norvik::AnsiFromUtf8(refused.Lines());
+    return Lines(refused);
   } catch (const corvane::TException& exception) {
     return exception.getMessage("\r\n");
   } catch (const std::exception& exception) {
-    return norvik::AnsiFromUtf8(Lines(refusal::kHostFailure, exception.what()));
+    return Lines(Refused(refusal::kHostFailure, exception.what()));
   } catch (...) {
     return std::string(refusal::kHostFailure);
   }

@@ -63,7 +63,8 @@ QString ControlText(QWidget* control) {
 QString DialogText(QWidget* dialog) {
   QStringList lines = {dialog->windowTitle()};
   for (const QLabel* label : dialog->findChildren<QLabel*>()) {
-    if (label->isVisible() && !label->text().trimmed().isEmpty()) lines << label->text();
+    const bool says = label->isVisible() && !label->property("decoration").toBool();
+    if (says && !label->text().trimmed().isEmpty()) lines << label->text();
   }
   for (const QPlainTextEdit* memo : dialog->findChildren<QPlainTextEdit*>()) {
     if (memo->isVisible() && !memo->toPlainText().isEmpty()) lines << memo->toPlainText();

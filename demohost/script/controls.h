@@ -29,7 +29,8 @@ T* FindControlAs(QWidget* window, const QString& name) {
 // title.
 QString ControlText(QWidget* control);
 
-// The title of a dialog and all that its labels and memos say, a line each.
+// The title of a dialog and all that its labels and memos say, a line each; not what bears the property
+// "decoration".
 QString DialogText(QWidget* dialog);
 
 // Types the text into the control that has the focus in the window, character by character.

@@ -170,6 +170,7 @@ Operator::Action Operator::Choose(const QStringList& words) {
   auto* dialog = qobject_cast<QFileDialog*>(Dialog());
   if (dialog == nullptr) throw NotYet(QStringLiteral("no file dialog is open"));
   return [dialog, file = QFileInfo(words[0]).absoluteFilePath()] {
+    QDir().mkpath(QFileInfo(file).path());
     const QString ending = QStringLiteral("*.") + QFileInfo(file).suffix().toLower();
     for (const QString& filter : dialog->nameFilters()) {
       if (!filter.contains(ending)) continue;

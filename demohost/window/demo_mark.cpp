@@ -55,6 +55,7 @@ void DemoMark::Mark(QWidget* window) {
   if (BadgeOf(window) == nullptr) {
     auto* badge = new QLabel(text_, window);
     badge->setObjectName(kBadge);
+    badge->setProperty("decoration", true);
     badge->setAttribute(Qt::WA_TransparentForMouseEvents);
     badge->setFocusPolicy(Qt::NoFocus);
     badge->setStyleSheet(

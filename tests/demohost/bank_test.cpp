@@ -176,13 +176,13 @@ TEST_F(BankTest, RefusesAWrongRequestByKeyAndPlace) {
   const auto query = [this](const Fields& fields, const char* business = "CB200310") {
     return RefusalOf("EBBADQDB", Request(business, fields, Groups()));
   };
-  EXPECT_EQ(RefusalOf("EBBADXXX", Request("CB200310", {}, Groups())), "BK30001\r\nEBBADXXX");
+  EXPECT_EQ(RefusalOf("EBBADXXX", Request("CB200310", {}, Groups())), "EBBADXXX\r\nBK30001");
   EXPECT_EQ(RefusalOf("EBBADQDB", "<stream><A>"), "BK30002");
   EXPECT_EQ(RefusalOf("EBBADQDB", ""), "BK30002");
-  EXPECT_EQ(RefusalOf("EBBADQDB", "<stream/>"), "BK30003\r\nBSNCODE");
-  EXPECT_EQ(query({}, "CB999999"), "BK30004\r\nCB999999");
+  EXPECT_EQ(RefusalOf("EBBADQDB", "<stream/>"), "BSNCODE\r\nBK30003");
+  EXPECT_EQ(query({}, "CB999999"), "CB999999\r\nBK30004");
   EXPECT_EQ(RefusalOf("EBBADQDB", Request("CB200310", {}, {})), "BK30007");
-  EXPECT_EQ(RefusalOf("EBBADQDB", Request("CB200310", {}, {"123"})), "BK30009\r\n123");
+  EXPECT_EQ(RefusalOf("EBBADQDB", Request("CB200310", {}, {"123"})), "123\r\nBK30009");
   EXPECT_EQ(RefusalOf("EBBADQDB", Request("CB200310", {}, {accounts_[0] + "|"})), "BK30009");
   std::string many = accounts_[0];
   for (int at = 1; at < 21; ++at) many += "|" + accounts_[static_cast<std::size_t>(at)];
@@ -192,20 +192,20 @@ TEST_F(BankTest, RefusesAWrongRequestByKeyAndPlace) {
     Fields fields;
     const char* refusal;
   } cases[] = {
-      {"CB200310", {{"DUEDATS", "20260230"}}, "BK30005\r\nDUEDATS"},
-      {"CB200310", {{"SAVEDTE", "2026"}}, "BK30005\r\nSAVEDTE"},
-      {"CB200310", {{"SAVEDTS", "20260611"}, {"SAVEDTE", "20260610"}}, "BK30006\r\nSAVEDTE"},
-      {"CB200310", {{"AMTBEGN", "9"}, {"AMTENDS", "8.99"}}, "BK30006\r\nAMTENDS"},
-      {"CB200310", {{"AMTBEGN", "1,000"}}, "BK30011\r\nAMTBEGN"},
-      {"CB200310", {{"AMTENDS", "-1"}}, "BK30011\r\nAMTENDS"},
-      {"CB200310", {{"BILLTYP", "AC99"}}, "BK30010\r\nBILLTYP"},
-      {"CB200310", {{"AGTSTAT", "02||D0"}}, "BK30010\r\nAGTSTAT"},
-      {"CB200310", {{"APPLYNO", "A"}}, "BK30012\r\nAPPLYNO"},
-      {"CB200310", {{"APLYDTS", "20260101"}}, "BK30012\r\nAPLYDTS"},
-      {"CB200320", {{"BSNFLOW", "1"}}, "BK30012\r\nBSNFLOW"},
-      {"CB200320", {{"APLYDTS", "20260101"}, {"APLYDTE", "20260701"}}, "BK30013\r\nAPLYDTE"},
-      {"CB200330", {{"APLYDTS", "20260101"}}, "BK30014\r\nAPLYDTE"},
-      {"CB200330", {{"APLYDTE", "20260101"}}, "BK30014\r\nAPLYDTS"},
+      {"CB200310", {{"DUEDATS", "20260230"}}, "DUEDATS\r\nBK30005"},
+      {"CB200310", {{"SAVEDTE", "2026"}}, "SAVEDTE\r\nBK30005"},
+      {"CB200310", {{"SAVEDTS", "20260611"}, {"SAVEDTE", "20260610"}}, "SAVEDTE\r\nBK30006"},
+      {"CB200310", {{"AMTBEGN", "9"}, {"AMTENDS", "8.99"}}, "AMTENDS\r\nBK30006"},
+      {"CB200310", {{"AMTBEGN", "1,000"}}, "AMTBEGN\r\nBK30011"},
+      {"CB200310", {{"AMTENDS", "-1"}}, "AMTENDS\r\nBK30011"},
+      {"CB200310", {{"BILLTYP", "AC99"}}, "BILLTYP\r\nBK30010"},
+      {"CB200310", {{"AGTSTAT", "02||D0"}}, "AGTSTAT\r\nBK30010"},
+      {"CB200310", {{"APPLYNO", "A"}}, "APPLYNO\r\nBK30012"},
+      {"CB200310", {{"APLYDTS", "20260101"}}, "APLYDTS\r\nBK30012"},
+      {"CB200320", {{"BSNFLOW", "1"}}, "BSNFLOW\r\nBK30012"},
+      {"CB200320", {{"APLYDTS", "20260101"}, {"APLYDTE", "20260701"}}, "APLYDTE\r\nBK30013"},
+      {"CB200330", {{"APLYDTS", "20260101"}}, "APLYDTE\r\nBK30014"},
+      {"CB200330", {{"APLYDTE", "20260101"}}, "APLYDTS\r\nBK30014"},
       {"CB200320", {{"APLYDTS", "20260101"}, {"APLYDTE", "20260630"}}, "answered"},
   };
   for (const auto& [business, fields, refusal] : cases) {
@@ -221,7 +221,7 @@ TEST_F(BankTest, RefusesARequestThatLacksAnyField) {
       if (name != field) shorter.addField(value);
     }
     shorter.addList(request.getList("resultList"));
-    EXPECT_EQ(RefusalOf("EBBADQDB", shorter.toString()), std::string("BK30003\r\n") + field);
+    EXPECT_EQ(RefusalOf("EBBADQDB", shorter.toString()), field + std::string("\r\nBK30003"));
   }
 }
 
@@ -238,14 +238,14 @@ TEST_F(BankTest, NamesTheInstitutionsOfAnAccount) {
   const std::string number = institutions(accounts_[0])[0].getValue("AGTBHNM");
   EXPECT_EQ(Count("CUSTACC = '" + accounts_[0] + "' AND AGTBHNM <> '" + number + "'"), 0);
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>1</SRC></stream>"), "BK30007");
-  EXPECT_EQ(RefusalOf("EBBADQAH", "<stream/>"), "BK30003\r\nSRC");
+  EXPECT_EQ(RefusalOf("EBBADQAH", "<stream/>"), "SRC\r\nBK30003");
 }
 
 TEST_F(BankTest, TellsOfItsOwnFailure) {
   database_.Run("DROP TABLE custody");
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>1</SRC><list name=\"userDataList\"><row><CUSTACC>" +
                                       accounts_[0] + "</CUSTACC></row></list></stream>"),
-            "BK30016\r\nno such table: custody");
+            "no such table: custody\r\nBK30016");
 }
 
 TEST(Amount, ReadsPlainAmountsAlone) {

@@ -108,14 +108,14 @@ TEST_F(EnquiriesTest, RefuseWhatNamesNoBillOfTheAccount) {
     Fields fields;
     std::string refusal;
   } cases[] = {
-      {"EBBADEHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "BK30003\r\nQURYTYP"},
-      {"EBBADEHQ", {{"QURYTYP", "3"}, {"CUSTACC", bill[1]}}, "BK30010\r\nQURYTYP"},
-      {"EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}}, "BK30003\r\nCUSTACC"},
-      {"EBBADEHQ", {{"QURYTYP", "2"}, {"QURYNUM", ""}, {"CUSTACC", bill[1]}}, "BK30015\r\nQURYNUM"},
-      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", "99"}, {"CUSTACC", bill[1]}}, "BK30015\r\n99"},
-      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"CUSTACC", other[0]}}, "BK30015\r\n" + bill[0]},
-      {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}, {"BILLNUM", "1"}}, "BK30015\r\n" + bill[0]},
-      {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "BK30003\r\nBILLNUM"},
+      {"EBBADEHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "QURYTYP\r\nBK30003"},
+      {"EBBADEHQ", {{"QURYTYP", "3"}, {"CUSTACC", bill[1]}}, "QURYTYP\r\nBK30010"},
+      {"EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}}, "CUSTACC\r\nBK30003"},
+      {"EBBADEHQ", {{"QURYTYP", "2"}, {"QURYNUM", ""}, {"CUSTACC", bill[1]}}, "QURYNUM\r\nBK30015"},
+      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", "99"}, {"CUSTACC", bill[1]}}, "99\r\nBK30015"},
+      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"CUSTACC", other[0]}}, bill[0] + "\r\nBK30015"},
+      {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}, {"BILLNUM", "1"}}, bill[0] + "\r\nBK30015"},
+      {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "BILLNUM\r\nBK30003"},
   };
   for (const auto& [code, fields, refusal] : cases) EXPECT_EQ(RefusalOf(code, fields), refusal) << code;
 }
@@ -131,8 +131,8 @@ TEST_F(EnquiriesTest, SynchronizeTheStatesOfOpenOrders) {
   EXPECT_EQ(list[0].getValue("STT"), open[1]);
   EXPECT_EQ(list[1].getValue("STT"), done[1]);
   EXPECT_EQ(First("SELECT STT FROM orders WHERE ORDERNO = '" + open[0] + "'")[0], open[1]);
-  EXPECT_EQ(RefusalOf("COMSTTKP", {}, {{{"RECORDID", "4"}, {"ORDERNO", "none"}}}), "BK30017\r\nnone");
-  EXPECT_EQ(RefusalOf("COMSTTKP", {}), "BK30003\r\nuserDataList");
+  EXPECT_EQ(RefusalOf("COMSTTKP", {}, {{{"RECORDID", "4"}, {"ORDERNO", "none"}}}), "none\r\nBK30017");
+  EXPECT_EQ(RefusalOf("COMSTTKP", {}), "userDataList\r\nBK30003");
 }
 
 TEST_F(EnquiriesTest, GiveReasonsOfEveryKind) {
@@ -177,9 +177,9 @@ TEST_F(EnquiriesTest, CancelWhatMayGoAndListTheRest) {
   EXPECT_EQ(First("SELECT STT FROM orders WHERE ORDERNO = '" + numbers[0] + "'")[0], "9");
 
   EXPECT_EQ(RefusalOf("EBBCMCOQ", {{"BSNCODE", "X"}, {"TRNSUM", "2"}, {"TOTALTRAM", "1"}}, rows),
-            "BK30002\r\nTRNSUM");
+            "TRNSUM\r\nBK30002");
   rows[4]["TRNAMT"] = "x";
-  EXPECT_EQ(RefusalOf("EBBCMCOQ", head, rows), "BK30011\r\nTRNAMT");
+  EXPECT_EQ(RefusalOf("EBBCMCOQ", head, rows), "TRNAMT\r\nBK30011");
 }
 
 TEST_F(EnquiriesTest, ARefusedBatchChangesNothing) {
@@ -188,7 +188,7 @@ TEST_F(EnquiriesTest, ARefusedBatchChangesNothing) {
   EXPECT_EQ(RefusalOf("EBBCMCOQ", head,
                       {{{"ID", "0"}, {"ORDERNO", number}, {"TRNAMT", "1"}},
                        {{"ID", "1"}, {"ORDERNO", "none"}, {"TRNAMT", "1"}}}),
-            "BK30017\r\nnone");
+            "none\r\nBK30017");
   EXPECT_EQ(First("SELECT STT FROM orders WHERE ORDERNO = '" + number + "'")[0], "0");
 }
 
@@ -197,7 +197,7 @@ TEST_F(EnquiriesTest, TellTheApprovalOfAnOrderAndOfAFlow) {
   corvane::CorvaneStream trail = Ask("COMQRYAT", {{"ORDERNO", order[0]}});
   EXPECT_EQ(std::to_string(trail.getList("resultList").size()), order[1]);
   EXPECT_EQ(trail.getList("resultList")[0].getValue("STEPNO"), "1");
-  EXPECT_EQ(RefusalOf("COMQRYAT", {{"ORDERNO", "none"}}), "BK30017\r\nnone");
+  EXPECT_EQ(RefusalOf("COMQRYAT", {{"ORDERNO", "none"}}), "none\r\nBK30017");
 
   corvane::CorvaneStream flow = Ask("COMQRYFW", {{"FLOWID", "F32001"}});
   EXPECT_EQ(flow.getValue("AUDITTOTAL"), "2");
@@ -207,7 +207,7 @@ TEST_F(EnquiriesTest, TellTheApprovalOfAnOrderAndOfAFlow) {
     EXPECT_FALSE(list.getAttribute("PSTNM").empty()) << level;
     EXPECT_TRUE(list[0].hasField("CSTNMCN")) << level;
   }
-  EXPECT_EQ(RefusalOf("COMQRYFW", {{"FLOWID", "none"}}), "BK30017\r\nnone");
+  EXPECT_EQ(RefusalOf("COMQRYFW", {{"FLOWID", "none"}}), "none\r\nBK30017");
 }
 
 }  // namespace

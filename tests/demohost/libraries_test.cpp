@@ -114,7 +114,7 @@ TEST_F(LibrariesTest, ReadAndWriteThePublicInformation) {
   EXPECT_NE(field.find(">ITEM6066<"), std::string::npos) << field;
   EXPECT_EQ(set_field("ENVIRONMENT", "<A>", error), 0);
   EXPECT_STREQ(error, "HS40002");
-  EXPECT_EQ(Read<const char*>("", 40, "CMLGNONE"), "!HS40001\r\nCMLGNONE");
+  EXPECT_EQ(Read<const char*>("", 40, "CMLGNONE"), "!CMLGNONE\r\nHS40001");
 
   Find<std::int32_t(const char*, const char*)>("", 80)(
       "COLUMN_INFO", "<iniplus><section name=\"T\"><row><A>1</A></row></section></iniplus>");
@@ -122,7 +122,7 @@ TEST_F(LibrariesTest, ReadAndWriteThePublicInformation) {
   EXPECT_EQ(list.size(), 1u);
   EXPECT_EQ(corvane::List(Read<const char*, const char*>("", 90, "COLUMN_INFO", "Other")).size(), 0u);
   Find<std::int32_t(const char*)>("", 81)("COLUMN_INFO");
-  EXPECT_EQ(Read<const char*>("", 82, "COLUMN_INFO"), "!HS40001\r\nCOLUMN_INFO");
+  EXPECT_EQ(Read<const char*>("", 82, "COLUMN_INFO"), "!COLUMN_INFO\r\nHS40001");
 
   Find<std::int32_t(const char*, std::uint32_t)>("", 122)("TfrmX", 7);
   EXPECT_EQ(Find<std::uint32_t(const char*)>("", 123)("TfrmX"), 7u);
@@ -192,7 +192,7 @@ TEST_F(LibrariesTest, CarryAnExchangeAndItsRefusal) {
   Find<void(char*)>("HANDLE_SAFECOM", 4)(answer);
   answer = nullptr;
   EXPECT_EQ(exchange("EBBADQDB", "<stream/>", 1, &answer, &length, error), 0);
-  EXPECT_STREQ(error, "BK30003\r\nBSNCODE");
+  EXPECT_STREQ(error, "BSNCODE\r\nBK30003");
   EXPECT_EQ(answer, nullptr);
 
   std::int64_t now = 0;

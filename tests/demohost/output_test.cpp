@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <regex>
 
 #include "demohost/bank/refuse.h"
 #include "demohost/output/export.h"
@@ -145,7 +146,8 @@ TEST(Report, RepeatsItsHeadOnEachPage) {
   EXPECT_GE(titles, 3);
   EXPECT_EQ(count("备注"), titles / 2) << "the title stands twice on a page, as title and in the head";
   EXPECT_EQ(count("LASTROW"), 1);
-  EXPECT_EQ(count("1 / " + std::to_string(titles / 2)), 1);
+  EXPECT_TRUE(std::regex_search(pages, std::regex("1 ?/ ?" + std::to_string(titles / 2))))
+      << pages.substr(0, 4000);
   const std::string info = OutputOf("pdfinfo " + (folder / "prints/a.pdf").string());
   EXPECT_NE(info.find("842 x 595 pts (A4)"), std::string::npos) << info;
 }
