@@ -31,7 +31,7 @@ TKVXCustomDateTimeEdit::TKVXCustomDateTimeEdit(TComponent* owner) : TCustomEdit(
   label_->setTextFormat(Qt::PlainText);
   label_->hide();
   button_ = new QToolButton(Edit());
-  button_->setIcon(StockPixmap(siCalendar, kPictureSize));
+  button_->setIcon(StockIcon(siCalendar));
   button_->setIconSize(QSize(kPictureSize, kPictureSize));
   button_->setAutoRaise(true);
   button_->setFocusPolicy(Qt::NoFocus);

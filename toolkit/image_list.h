@@ -37,6 +37,9 @@ enum TStockImage {
 /// One of the stock pictures at a size in pixels.
 QPixmap StockPixmap(TStockImage image, int size);
 
+/// One of the stock pictures, drawn at the size that it is asked for in.
+QIcon StockIcon(TStockImage image);
+
 /// Pictures counted from 0.
 class TImageList : public TComponent {
   Q_OBJECT
