@@ -61,7 +61,7 @@ void CQueryCommon::DecodeDictColumn(corvane::List& rows, const std::string& colu
     CodeTexts texts(g_pPubInfo->GetIniplusList("BUSINESSDICT", dictName));
     for (unsigned i = 0; i < rows.size(); ++i) {
       const std::string* text = texts.TextOf(Value(rows[i], column));
-      if (text != nullptr) rows[i][column] = *text;
+      if (text != nullptr) SetColumn(rows[i], column, *text);
     }
   } catch (const corvane::TException& failure) {
     ReportException(failure);
@@ -114,4 +114,9 @@ void CQueryCommon::InsertNoChoiceEntry(TKVXComboBox* combo, const std::string& t
   combo->Keys().Insert(0, kNoChoiceKey);
   combo->Names().Insert(0, kNoChoiceKey);
   combo->Items().Insert(0, text);
+}
+
+void CQueryCommon::SetColumn(corvane::Row& row, const std::string& column, const std::string& text) {
+  row[column] = text;
+  row = corvane::Row(row);
 }

@@ -32,6 +32,10 @@ class CQueryCommon : public CMQueryIntf {
   // Without accounts the box is empty. Standard reporting; the box then stays as it was.
   void LoadAccountCombo(TKVXComboBox* combo, bool withPrompt);
 
+  // Sets a column of a row and packs the row again: values opened for writing take several times the room,
+  // which tells in an answer of many rows. References into the row end.
+  static void SetColumn(corvane::Row& row, const std::string& column, const std::string& text);
+
   // Puts an entry of the key kNoChoiceKey in front of the others; the chosen entry is up to the caller.
   static void InsertNoChoiceEntry(TKVXComboBox* combo, const std::string& text);
 

@@ -67,6 +67,7 @@ TGridLayout ConditionTable::Build(TBaseForm* form, TbsSkinExPanel* panel, Condit
     grid.SetColumnStretch(field * kCellsOfField + 1, 1);
     grid.SetColumnMinimum(field * kCellsOfField + 1, kControlWidth);
   }
+  int tabOrder = 0;
   for (const Condition& condition : m_conditions) {
     if (condition.panel != which) continue;
     const auto [row, field, rows] = condition.cell;
@@ -76,6 +77,7 @@ TGridLayout ConditionTable::Build(TBaseForm* form, TbsSkinExPanel* panel, Condit
         std::visit([&](auto** slot) { return MakeControl(form, condition, slot); }, condition.control);
     grid.Put(label, row, column, 1, 1, caRight);
     grid.Put(control, row, column + 1, rows, 1);
+    control->SetTabOrder(tabOrder++);
     if (!Has(condition.starName)) continue;
     TLabel* star = MakeLabel(form, condition.starName, "*");
     star->Font()->SetColor(clRed);

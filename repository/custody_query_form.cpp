@@ -245,7 +245,9 @@ void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
     m_pCommon->DecodeDictColumn(rows, column.field, column.dictionary);
   }
   if (Profile().namesInstitutions) {
-    for (corvane::Row& row : rows) row["BSNPUNM"] = g_pBankInfo->GetBankName(row.getValue("BSNPUNO"));
+    for (corvane::Row& row : rows) {
+      CQueryCommon::SetColumn(row, "BSNPUNM", g_pBankInfo->GetBankName(row.getValue("BSNPUNO")));
+    }
   }
   m_pCommon->FillListView(m_lvMain, rows);
 }

@@ -290,6 +290,29 @@ TEST_F(NorvikQry, OpensTheRecordOfTheTickedRow) {
   EXPECT_EQ(host.Requests("EBBADQDB").size(), asked);
 }
 
+TEST_F(NorvikQry, LeadsTheKeyboardThroughAllItHas) {
+  Open();
+  Query();
+  form->m_lvMain->Items()[0]->SetChecked(true);
+  form->m_lvMainClick(form);
+  form->m_pnlAdvance->SetRollState(false);
+  std::string order;
+  TWinControl* at = form->m_cbxAcc;
+  for (int i = 0; i < 40; ++i) {
+    if (at->Name().starts_with("m_pnl") == false) order += at->Name() + " ";
+    at->SetFocus();
+    form->SelectNext(at, true, true);
+    at = form->ActiveControl();
+    if (at == form->m_cbxAcc) break;
+  }
+  EXPECT_EQ(order,
+            "m_cbxAcc m_cbxBankNo m_edBatNo m_lbxAgentStt m_edBillId m_edNo m_cbxType m_dtStorageStartDate "
+            "m_dtStorageEndDate m_edBackName m_cbxBankRmk m_spdQuery m_dtDeadStartDate m_dtDeadEndDate "
+            "m_edMinAmount "
+            "m_edMaxAmount m_rgSelDate m_crbAllCheck m_spdSum m_lvMain m_btnTicketInfo m_btnECDSSignInfo "
+            "m_btnECDSHistoryInfo m_btnBigResult m_btnClose ");
+}
+
 TEST_F(NorvikQry, OpensWithoutAnyAccount) {
   host.SetAccounts(0);
   Open();
