@@ -1,0 +1,200 @@
+#include "framework/list_form.h"
+
+#include <QFileInfo>
+#include <utility>
+
+#include "dialogs/messages.h"
+#include "dialogs/statistics.h"
+#include "framework/m_interface.h"
+#include "framework/output_columns.h"
+#include "framework/select_column.h"
+#include "host/error.h"
+#include "host/pub_info.h"
+#include "toolkit/action.h"
+#include "toolkit/application.h"
+#include "toolkit/buttons.h"
+#include "toolkit/dialogs.h"
+#include "toolkit/list_view.h"
+#include "toolkit/menu.h"
+#include "toolkit/panels.h"
+#include "toolkit/text.h"
+
+namespace {
+
+// What the frame leaves free of the screen, pixels.
+constexpr int kFreeWidth = 120;
+constexpr int kFreeHeight = 220;
+
+constexpr int kAnnouncedForm = 1;  // Tag of a form that the host is told of
+constexpr int kCheckedRows = 2;    // GetDataVector: the ticked rows
+constexpr std::uint8_t kReasonFlag = 1;
+
+// The choices of the save dialog's filter, in its order.
+struct OutputKind {
+  const char* extension;
+  std::uint8_t type;
+};
+constexpr OutputKind kOutputKinds[] = {{".xls", 1}, {".txt", 3}, {".xml", 2}};
+
+std::string FontSetting(const char* item) {
+  return g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", item);
+}
+
+// A column that the user hid has width 0; one that was never shown has a greatest width of 1.
+std::vector<norvik::ShownColumn> ShownColumnsOf(TKVXListView* listView) {
+  std::vector<norvik::ShownColumn> shown;
+  for (int i = 0; i < listView->Columns().Count(); ++i) {
+    const TListColumn* column = listView->Columns()[i];
+    if (column->Width() == 0 || column->MaxWidth() == 1) continue;
+    shown.push_back({listView->ColumnIds()[static_cast<std::size_t>(i)], column->Caption()});
+  }
+  return shown;
+}
+
+}  // namespace
+
+void TListForm::Construct() {
+  TBaseForm::Construct();
+  m_lvMain->SetFullDrag(false);
+  SetTag(kAnnouncedForm);
+  SetPosition(poMainFormCenter);
+  SetWidth(Screen->Width() - kFreeWidth);
+  SetHeight(Screen->Height() - kFreeHeight);
+}
+
+void TListForm::ResetForm() {
+  TBaseForm::ResetForm();
+  m_crbAllCheck->SetChecked(false);
+  SetStatus({});
+  m_actSum->SetVisible(!m_lvMain->ShowSumRow());
+}
+
+void TListForm::FormShow(TObject* sender) {
+  TBaseForm::FormShow(sender);
+  if (m_pSelectColumn == nullptr) m_pSelectColumn = CreateForm<TfrmSelectColumn>(this, ClassName(), m_lvMain);
+}
+
+void TListForm::SaveLayout() {
+  if (m_pSelectColumn == nullptr) return;
+  const TFormPointer<TfrmSelectColumn> selectColumn(std::exchange(m_pSelectColumn, nullptr));
+  selectColumn->SaveColumnInfo();
+}
+
+void TListForm::m_lvMainClick(TObject*) {
+  const bool ticked = m_lvMain->CheckedCount() > 0;
+  OutputAction()->SetEnabled(ticked);
+  m_actPrint->SetEnabled(ticked);
+  m_crbAllCheck->SetEnabled(m_lvMain->Items().Count() > 0);
+}
+
+bool TListForm::TickAll() {
+  const bool all = m_crbAllCheck->Checked() && m_lvMain->Items().Count() > 0;
+  all ? m_lvMain->CheckAll() : m_lvMain->UnCheckAll();
+  OutputAction()->SetEnabled(all);
+  m_actPrint->SetEnabled(all);
+  return all;
+}
+
+void TListForm::ProcessResult(corvane::CorvaneStream& answer) {
+  Business().ApplyResultList(answer, "resultList", m_lvMain);
+  Business().RemoveCompletedItems(m_lvMain);
+}
+
+void TListForm::m_lvMainItemCheck(TObject* sender, TListItem*) {
+  m_lvMainClick(sender);
+}
+
+void TListForm::m_lvMainKeyPress(TObject*, char& key) {
+  if (key != ' ' || !m_lvMain->Checkboxes() || !m_lvMain->OnItemCheck) return;
+  if (TListItem* selected = m_lvMain->Selected()) m_lvMain->OnItemCheck(m_lvMain, selected);
+}
+
+void TListForm::m_lvMainSelectItem(TObject*, TListItem* item, bool selected) {
+  const corvane::Property* record = selected ? m_lvMain->PropertyOf(item) : nullptr;
+  const std::string reason = record == nullptr ? std::string() : record->getValue("Reason");
+  SetStatus(reason.empty() ? reason : ReasonText(reason));
+}
+
+std::string TListForm::ReasonText(const std::string& reason) {
+  const std::string text = g_pError->GetReasonText(reason, kReasonFlag);
+  return text.empty() ? reason : text;
+}
+
+void TListForm::SetStatus(const std::string& text) {
+  m_pnStatusText->SetCaption(text);
+}
+
+void TListForm::m_actHideColumnExecute(TObject*) {
+  m_pSelectColumn->PrepareColumnMenu(m_pumColumn);
+  const QPoint corner = m_tbHideColumn->ClientToScreen(0, m_tbHideColumn->Height());
+  m_pumColumn->Popup(corner.x(), corner.y());
+}
+
+void TListForm::m_actCloseExecute(TObject*) {
+  Close();
+}
+
+void TListForm::m_actSumExecute(TObject*) {
+  ShowStatistics(this, m_lvMain, Caption(), m_sumColumns);
+}
+
+corvane::List TListForm::CheckedRecords() {
+  corvane::List records;
+  m_lvMain->GetDataVector(records, kCheckedRows);
+  return records;
+}
+
+void TListForm::m_sdOutputTypeChange(TObject*) {
+  const int index = m_sdOutput->FilterIndex() - 1;
+  if (index < 0 || index >= static_cast<int>(std::size(kOutputKinds))) return;
+  m_sdOutput->SetDefaultExt(kOutputKinds[index].extension);
+  m_nOutputType = kOutputKinds[index].type;
+}
+
+std::string TListForm::AskOutputFile() {
+  if (!m_sdOutput->Execute(this)) return {};
+  const std::string fileName = m_sdOutput->FileName();
+  const bool kept = QFileInfo::exists(ToQt(fileName)) && !ShowConfirmMsg(TranslateKey("UI12572"), this);
+  return kept ? std::string() : fileName;
+}
+
+void TListForm::WriteRecords(const std::string& fileName, bool allColumns) {
+  corvane::List records = CheckedRecords();
+  corvane::Row head;
+  corvane::List columns;
+  try {
+    head["TYPENAME"] = TranslateKey("UI20000");
+    head["TYPEVAL"] = m_strExportType;
+    head["TITLENAME"] = TranslateKey("UI20001");
+    head["TITLEVAL"] = Caption();
+    head["FONTNAME"] = FontSetting("Name");
+    head["FONTSIZE"] = FontSetting("Size");
+    corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", ClassName());
+    columns = allColumns ? norvik::TableColumns(fieldDefs, &TBaseForm::TranslateKey)
+                         : norvik::ShownColumns(fieldDefs, ShownColumnsOf(m_lvMain));
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+    return;
+  }
+  Business().ExportRecords(fileName, head, columns, records, m_nOutputType);
+}
+
+void TListForm::m_actPrintExecute(TObject*) {
+  PrintChecked(Business());
+}
+
+void TListForm::PrintChecked(CMInterface& business) {
+  corvane::Row head;
+  try {
+    head = g_pPubInfo->GetIniplusRow("FIELDDEF", ClassName(), 0);
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+    return;
+  }
+  corvane::List records = CheckedRecords();
+  business.PrintRecords(ClassName(), {}, head, records);
+}
+
+void TListForm::m_actPrintSetExecute(TObject*) {
+  Business().PrintSetup(ClassName());
+}
