@@ -7,6 +7,7 @@
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "repository/qry_info.h"
+#include "toolkit/action.h"
 #include "toolkit/buttons.h"
 #include "toolkit/date_edit.h"
 #include "toolkit/list_box.h"
@@ -68,6 +69,9 @@ void TfrmNorvikQry::BuildControls() {
     this->*line.button = NewComponent<TbsSkinButton>(this, line.name);
     (this->*line.button)->SetAction(line.action);
   }
+  m_actECDSSignInfo->OnExecute = [this](TObject* sender) { m_actECDSSignInfoExecute(sender); };
+  m_actECDSHistoryInfo->OnExecute = [this](TObject* sender) { m_actECDSHistoryInfoExecute(sender); };
+  m_actBigResult->OnExecute = [this](TObject* sender) { m_actBigResultExecute(sender); };
   PlaceButtons({m_btnTicketInfo, m_btnECDSSignInfo, m_btnECDSHistoryInfo, m_btnBigResult});
   m_dtStorageStartDate->OnChange = [this](TObject* sender) { m_dtStorageStartDateChange(sender); };
   m_dtStorageEndDate->OnChange = [this](TObject* sender) { m_dtStorageEndDateChange(sender); };

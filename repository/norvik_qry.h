@@ -5,6 +5,8 @@
 
 #include "repository/custody_query_form.h"
 
+class TEnquiryForm;
+
 class TfrmNorvikQry : public TCustodyQueryForm {
   Q_OBJECT
 
@@ -24,6 +26,14 @@ class TfrmNorvikQry : public TCustodyQueryForm {
   virtual void m_dtStorageEndDateChange(TObject*) {}
   virtual void m_dtDeadStartDateChange(TObject*) {}
   virtual void m_dtDeadEndDateChange(TObject*) {}
+
+  // The enquiries on the ticked bill: each asks the bank and shows the answer in a dialog of its own. A bill
+  // without the number that the enquiry goes by is told, and nothing is asked.
+  virtual void m_actECDSHistoryInfoExecute(TObject* sender);
+  virtual void m_actECDSSignInfoExecute(TObject* sender);
+  virtual void m_actBigResultExecute(TObject* sender);
+  // Sets the three actions of the enquiries; m_actTicketInfo stays as it is.
+  void EnableRowActions(bool on);
 
   TKVXEdit* m_edBatNo = nullptr;
   TKVXListBox* m_lbxAgentStt = nullptr;
@@ -47,4 +57,10 @@ class TfrmNorvikQry : public TCustodyQueryForm {
     return {m_dtDeadStartDate, m_dtDeadEndDate};
   }
   TRecordInfoForm* NewRecordView() override;
+
+ private:
+  struct Enquiry;
+
+  void Enquire(const Enquiry& enquiry);
+  void ShowAnswer(const Enquiry& enquiry, const corvane::Row& fields);
 };

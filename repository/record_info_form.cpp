@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/translate.h"
+#include "repository/caption_value.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
 #include "toolkit/labels.h"
@@ -67,13 +68,8 @@ void TRecordInfoForm::BuildPanel(const norvik::RecordPanel& panel) {
   grid.SetColumnStretch(1, 1);
   for (std::size_t i = 0; i < panel.rows.size(); ++i) {
     const norvik::RecordRow& row = panel.rows[i];
-    auto* caption = NewComponent<TLabel>(this, row.label);
-    auto* value = NewComponent<TLabel>(this, (std::string(row.label) + "Val").c_str());
-    caption->SetCaption(Ansi(row.designCaption));
-    value->SetWordWrap(true);
-    value->SetSelectable(true);
-    grid.Put(caption, static_cast<int>(i), 0, 1, 1, caRight);
-    grid.Put(value, static_cast<int>(i), 1);
+    const auto [caption, value] =
+        norvik::PutCaptionValue(this, grid, static_cast<int>(i), 0, row.label, row.designCaption);
     m_rows.push_back({row, caption, value});
   }
 }
