@@ -33,6 +33,8 @@ void TDetailForm::BuildControls() {
   TListForm::BuildControls();
   BuildActionList("m_iglDetail");
   BuildActions(this, m_alMain, kActions);
+  // Nothing is ticked in a list that has not been filled yet.
+  for (TAction* action : {m_actOutPut, m_actPrint, m_actAudit}) action->SetEnabled(false);
   BuildMenus();
   MakeControl(this, bsSkinSpeedButton1, "bsSkinSpeedButton1", m_actGo);
   m_tbDetail = BuildToolBar("m_tbDetail", {bsSkinSpeedButton1});
