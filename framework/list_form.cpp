@@ -71,7 +71,12 @@ void TListForm::ResetForm() {
 
 void TListForm::FormShow(TObject* sender) {
   TBaseForm::FormShow(sender);
+  SelectColumn();
+}
+
+TfrmSelectColumn* TListForm::SelectColumn() {
   if (m_pSelectColumn == nullptr) m_pSelectColumn = CreateForm<TfrmSelectColumn>(this, ClassName(), m_lvMain);
+  return m_pSelectColumn;
 }
 
 void TListForm::SaveLayout() {
@@ -125,7 +130,7 @@ void TListForm::SetStatus(const std::string& text) {
 }
 
 void TListForm::m_actHideColumnExecute(TObject*) {
-  m_pSelectColumn->PrepareColumnMenu(m_pumColumn);
+  SelectColumn()->PrepareColumnMenu(m_pumColumn);
   const QPoint corner = m_tbHideColumn->ClientToScreen(0, m_tbHideColumn->Height());
   m_pumColumn->Popup(corner.x(), corner.y());
 }

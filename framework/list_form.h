@@ -46,7 +46,7 @@ class TListForm : public TBaseForm {
   virtual void ProcessResult(corvane::CorvaneStream& answer);
 
   // The first show makes the owner of the columns, which gives them the user's widths. A layout document that
-  // can't be read goes up.
+  // can't be read goes up; the next use of the columns tries again.
   void FormShow(TObject* sender) override;
 
   // The check-all box was clicked.
@@ -128,6 +128,9 @@ class TListForm : public TBaseForm {
   void PrintChecked(CMInterface& business);
   // Saves the list's layout and ends the owner of the columns; nothing before the first show.
   void SaveLayout();
+
+  // The owner of the columns, made where it isn't there yet. Goes up as FormShow.
+  TfrmSelectColumn* SelectColumn();
 
   TfrmSelectColumn* m_pSelectColumn = nullptr;  // owned; null until the first show
   std::string m_strExportType;                  // value of TYPEVAL in an export's head

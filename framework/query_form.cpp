@@ -70,7 +70,7 @@ void TQueryForm::m_lvMainItemCheck(TObject* sender, TListItem* item) {
 }
 
 void TQueryForm::m_actHideColumnExecute(TObject* sender) {
-  m_pSelectColumn->m_bDialogOffered = m_bColumnDialog;
+  SelectColumn()->m_bDialogOffered = m_bColumnDialog;
   TListForm::m_actHideColumnExecute(sender);
 }
 

@@ -48,7 +48,7 @@ class TForm : public TWinControl {
   /// OnClose runs once, at the end of the loop.
   void Close();
   /// Shows the form and returns its modal result, not 0, when it has been closed. Until then no other window
-  /// of the process takes input. An exception of OnShow ends it and goes up, with the form hidden.
+  /// of the process takes input. A failing OnShow is reported, and the form shows all the same.
   int ShowModal();
   int ModalResult() const { return modal_result_; }
   /// A number other than 0 ends ShowModal as soon as the running event is over.
