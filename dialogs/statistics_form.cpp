@@ -162,7 +162,7 @@ void TfrmStatistics::BuildColumns(TListView* table) {
 void TfrmStatistics::Fill(TListView* table) const {
   table->Items().Clear();
   for (const auto& [currency, sums] : m_sums) {
-    const auto sumOf = [&sums](const std::string& id) {
+    const auto sumOf = [&sums = sums](const std::string& id) {
       const auto found = sums.find(id);
       return found == sums.end() ? 0.0 : found->second;
     };
