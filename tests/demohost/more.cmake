@@ -5,6 +5,8 @@ target_link_libraries(${target} PRIVATE norvik_module)
 
 # Each script of the host is played against the built module, with a user's folders of its own.
 if(TARGET NorvikQry)
+  add_dependencies(demohost_tests NorvikQry)
+  target_compile_definitions(demohost_tests PRIVATE DEMOHOST_TEST_MODULE="$<TARGET_FILE:NorvikQry>")
   file(GLOB scripts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/demohost/scripts/*.op)
   foreach(script IN LISTS scripts)
     get_filename_component(name ${script} NAME_WE)
