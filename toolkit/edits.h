@@ -103,6 +103,9 @@ class TMemo : public TWinControl {
   /// A line end counts as two.
   int MaxLength() const { return limits_.max_length; }
   void SetMaxLength(int bytes) { limits_.max_length = bytes; }
+  /// Most characters that the user can enter, 0: no limit; counted as in TInputLimits.
+  int MaxCharacters() const { return limits_.max_characters; }
+  void SetMaxCharacters(int characters) { limits_.max_characters = characters; }
   /// Which scroll bars may appear; without a horizontal one the lines wrap.
   void SetScrollBars(TScrollStyle style);
 

@@ -45,11 +45,18 @@ int NarrowLength(const QString& text) {
   return static_cast<int>(FromQt(text).size() + static_cast<std::size_t>(text.count(QLatin1Char('\n'))));
 }
 
+int CharacterCount(const QString& text) {
+  const auto low_surrogate = [](QChar c) { return c.isLowSurrogate(); };
+  return static_cast<int>(text.size() + text.count(QLatin1Char('\n')) -
+                          std::count_if(text.begin(), text.end(), low_surrogate));
+}
+
 QString LimitInput(const TInputLimits& limits, const QString& before, const QString& after, int& cursor) {
   const TChange change = ChangedPart(before, after, cursor);
   const QString head = after.first(change.begin);
   const QString tail = after.sliced(change.end);
   int length = NarrowLength(head) + NarrowLength(tail);
+  int count = CharacterCount(head) + CharacterCount(tail);
   QString kept;
   for (qsizetype at = change.begin; at < change.end;) {
     const qsizetype size = after[at].isHighSurrogate() && at + 1 < change.end ? 2 : 1;
@@ -58,10 +65,13 @@ QString LimitInput(const TInputLimits& limits, const QString& before, const QStr
     const std::string narrow = FromQt(character);
     if (!LetsIn(limits, character, narrow)) continue;
     const int bytes = NarrowLength(character);
+    const int characters = CharacterCount(character);
     if (limits.max_length > 0 && length + bytes > limits.max_length) break;
+    if (limits.max_characters > 0 && count + characters > limits.max_characters) break;
     if (!Accepts(limits, head + kept + character + tail)) continue;
     kept += character;
     length += bytes;
+    count += characters;
   }
   const QString result = head + kept + tail;
   if (!Accepts(limits, result) && Accepts(limits, before)) return before;

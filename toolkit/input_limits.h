@@ -10,7 +10,9 @@
 struct TInputLimits {
   /// Most bytes of narrow text, 0: no limit.
   int max_length = 0;
-  /// Line ends are let in and count as two bytes.
+  /// Most characters, however many bytes each takes, 0: no limit.
+  int max_characters = 0;
+  /// Line ends are let in and count as two bytes, and as two characters.
   bool multi_line = false;
   /// Whether one character, its narrow text, may stand in the field; unset: any.
   std::function<bool(std::string_view character)> allows;
@@ -20,6 +22,9 @@ struct TInputLimits {
 
 /// Bytes of a text as narrow text, line ends as two.
 int NarrowLength(const QString& text);
+
+/// Characters of a text, line ends as two.
+int CharacterCount(const QString& text);
 
 /// What becomes of a field's text when one step of the user's made `after` out of `before`, with the cursor
 /// behind what came in. Of the part that came in, characters that aren't allowed are left out, and it ends
