@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "dialogs/busy_form.h"
+#include "dialogs/form_owner.h"
 #include "toolkit/application.h"
 
 namespace {
@@ -13,10 +14,6 @@ namespace {
 // with it.
 std::map<std::string, QPointer<TBarForm>> g_bars;
 QPointer<TWaitForm> g_wait;
-
-TComponent* OwnerOf(TForm* owner) {
-  return owner != nullptr ? static_cast<TComponent*>(owner) : Application;
-}
 
 // Messages are pumped here, so the form may have gone with its owner behind each step.
 void TakeAway(QPointer<TBusyForm> form) {

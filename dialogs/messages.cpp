@@ -2,16 +2,12 @@
 
 #include "dialogs/com_msg.h"
 #include "dialogs/error_msg.h"
+#include "dialogs/form_owner.h"
 #include "host/error.h"
-#include "toolkit/application.h"
 
 namespace {
 
 constexpr const char* kLineEnd = "\r\n";
-
-TComponent* OwnerOf(TForm* owner) {
-  return owner != nullptr ? static_cast<TComponent*>(owner) : Application;
-}
 
 bool ShowMessage(const std::string& text, TMessageMode mode, TForm* owner) {
   const TFormPointer<TFrmComMsg> form(CreateForm<TFrmComMsg>(OwnerOf(owner), text, mode));
