@@ -1,0 +1,193 @@
+#include "dialogs/audit_foot_form.h"
+
+#include <utility>
+
+#include "dialogs/font_fit.h"
+#include "dialogs/memo_break.h"
+#include "dialogs/messages.h"
+#include "dialogs/view_bsn_flow.h"
+#include "framework/m_query_intf.h"
+#include "host/pub_info.h"
+#include "toolkit/conversion.h"
+#include "toolkit/layout.h"
+
+namespace {
+
+constexpr int kMargin = 12;
+constexpr int kGap = 8;
+constexpr int kPurposeWidth = 468;  // 78 bytes of the smallest font
+constexpr int kAmountTag = 2;
+constexpr int kRightTag = 5;
+
+constexpr const char* kFlowTransaction = "COMQRYFW";
+constexpr const char* kFirstLevel = "PSTLEVEL0";
+constexpr const char* kNoFlow = "UI42801";
+constexpr const char* kAmountUnit = "UI42802";
+
+}  // namespace
+
+// A caption and the value beside it: a field, and behind it, where there is one, a text and a second field.
+struct TfrmEBillAuditFoot::Line {
+  TLabel* TfrmEBillAuditFoot::*caption;
+  const char* captionName;
+  const char* captionKey;
+  TLabel* TfrmEBillAuditFoot::*value;
+  const char* valueName;
+  const char* field;
+  const char* join = "";
+  const char* secondField = "";
+};
+
+using TFoot = TfrmEBillAuditFoot;
+const TfrmEBillAuditFoot::Line TfrmEBillAuditFoot::kLines[] = {
+    {&TFoot::m_lbBsn, "m_lbBsn", "UI42780", &TFoot::m_lbBsnValue, "m_lbBsnValue", "BSNName"},
+    {&TFoot::m_lbOpor, "m_lbOpor", "UI42781", &TFoot::m_lbOporName, "m_lbOporName", "OPRNM"},
+    {&TFoot::m_lbOporTime, "m_lbOporTime", "UI42782", &TFoot::m_lbOponTimeValue, "m_lbOponTimeValue",
+     "SMTDATE", " ", "SMTTIME"},
+    {&TFoot::m_lbPay, "m_lbPay", "UI42783", &TFoot::m_lbPayAcc, "m_lbPayAcc", "ACCPACC", "-", "ACCPNAM"},
+    {&TFoot::m_lbRcv, "m_lbRcv", "UI42784", &TFoot::m_lbRcvAcc, "m_lbRcvAcc", "PYEEACC", "-", "PYEENAM"},
+    {&TFoot::m_lbPayAmt, "m_lbPayAmt", "UI42785", &TFoot::m_lbAmtValue, "m_lbAmtValue", "PAYAMT"},
+    {&TFoot::m_lbCryType, "m_lbCryType", "UI42786", &TFoot::m_lbCryValue, "m_lbCryValue", "CRYTYPE"},
+    {&TFoot::m_lbPurpose, "m_lbPurpose", "UI42788", &TFoot::m_lbPurValue, "m_lbPurValue", "INMEMO"}};
+
+TfrmEBillAuditFoot::TfrmEBillAuditFoot(TComponent* owner, corvane::Row record, corvane::List auditList)
+    : TBaseForm(owner), m_record(std::move(record)), m_auditList(std::move(auditList)) {}
+
+void TfrmEBillAuditFoot::BuildControls() {
+  TBaseForm::BuildControls();
+  m_pnBasicInfo = NewComponent<TbsSkinPanel>(this, "m_pnBasicInfo");
+  bsSkinPanel1 = NewComponent<TbsSkinPanel>(this, "bsSkinPanel1");
+  m_pnAuditFoot = NewComponent<TbsSkinPanel>(this, "m_pnAuditFoot");
+  m_btnViewFlow = NewComponent<TbsSkinButton>(this, "m_btnViewFlow");
+  m_btnClose = NewComponent<TbsSkinButton>(this, "m_btnClose");
+  BuildBasicInfo();
+  BuildList();
+  m_btnViewFlow->OnClick = [this](TObject* sender) { m_btnViewFlowClick(sender); };
+  m_btnClose->OnClick = [this](TObject*) { Close(); };
+  TColumnLayout column(this);
+  column.SetMargins(kMargin, kMargin, kMargin, kMargin);
+  column.SetSpacing(kGap);
+  column.Add(m_pnBasicInfo);
+  column.Add(m_pnAuditFoot, 1);
+  column.Add(bsSkinPanel1);
+  TRowLayout buttons(bsSkinPanel1);
+  buttons.SetSpacing(kGap);
+  buttons.AddStretch();
+  buttons.Add(m_btnViewFlow);
+  buttons.Add(m_btnClose);
+  SetBorderStyle(bsSizeable);
+  SetPosition(poMainFormCenter);
+  SetWidth(660);
+  SetHeight(520);
+}
+
+void TfrmEBillAuditFoot::BuildBasicInfo() {
+  TGridLayout grid(m_pnBasicInfo);
+  grid.SetSpacing(kGap);
+  grid.SetColumnStretch(1, 1);
+  int row = 0;
+  for (const Line& line : kLines) {
+    this->*line.caption = NewComponent<TLabel>(this, line.captionName);
+    this->*line.value = NewComponent<TLabel>(this, line.valueName);
+    (this->*line.value)->SetSelectable(true);
+    grid.Put(this->*line.caption, row, 0, 1, 1, caRight);
+    grid.Put(this->*line.value, row++, 1);
+  }
+  m_lbPurValue->SetWordWrap(true);
+  m_lbPurValue->SetLayout(tlTop);
+  m_lbPurValue->SetWidth(kPurposeWidth);
+}
+
+void TfrmEBillAuditFoot::BuildList() {
+  m_lvMain = NewComponent<TKVXListView>(this, "m_lvMain");
+  m_sbListH = NewComponent<TbsSkinScrollBar>(this, "m_sbListH", sbHorizontal);
+  m_sbListV = NewComponent<TbsSkinScrollBar>(this, "m_sbListV", sbVertical);
+  m_lvMain->SetViewStyle(vsReport);
+  m_lvMain->SetReadOnly(true);
+  m_lvMain->SetGridLines(true);
+  m_lvMain->SetRowSelect(true);
+  TColumnLayout(m_pnAuditFoot).Add(m_lvMain, 1);
+  m_sbListH->AttachTo(m_lvMain);
+  m_sbListV->AttachTo(m_lvMain);
+}
+
+void TfrmEBillAuditFoot::SetCaptions() {
+  SetCaption("UI42778");
+  m_pnBasicInfo->SetCaption("UI42779");
+  m_pnAuditFoot->SetCaption("UI42789");
+  m_btnViewFlow->SetCaption("UI42790");
+  m_btnClose->SetCaption("UI42791");
+  for (const Line& line : kLines) (this->*line.caption)->SetCaption(line.captionKey);
+}
+
+void TfrmEBillAuditFoot::Construct() {
+  TBaseForm::Construct();
+  try {
+    BuildColumns();
+  } catch (const corvane::TException& failure) {
+    ReportException(failure);
+  } catch (const EConvertError& failure) {
+    ReportException(corvane::TException(std::string(failure.what())));
+  }
+}
+
+// Of the display formats this list knows the amount and the right edge alone.
+void TfrmEBillAuditFoot::BuildColumns() {
+  CMQueryIntf business;
+  corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", ClassName());
+  for (corvane::Row& fieldDef : fieldDefs) {
+    corvane::Row columnRow;
+    std::string caption;
+    business.AddListColumn(m_lvMain, fieldDef, columnRow, caption);
+    TListColumn* column = m_lvMain->Columns()[m_lvMain->Columns().Count() - 1];
+    if (column->Tag() != kAmountTag && column->Tag() != kRightTag) column->SetTag(0);
+  }
+}
+
+void TfrmEBillAuditFoot::ResetForm() {
+  TBaseForm::ResetForm();
+  if (m_auditList.size() > 0) {
+    m_lvMain->Clear();
+    m_lvMain->Add(m_auditList, m_lvMain->ColumnIds().toString("; ", false));
+  }
+  ShowRecord();
+  SetDefaultButton(m_btnClose);
+  SetCancelButton(m_btnClose);
+  SetActiveControl(m_btnClose);
+}
+
+void TfrmEBillAuditFoot::ShowRecord() {
+  for (const Line& line : kLines) {
+    std::string value = m_record.getValue(line.field) + line.join;
+    if (line.secondField[0] != '\0') value += m_record.getValue(line.secondField);
+    (this->*line.value)->SetCaption(value);
+  }
+  m_lbAmtValue->SetCaption(m_lbAmtValue->Caption() + " " + TranslateKey(kAmountUnit));
+  const std::string purpose = norvik::BreakableMemo(m_lbPurValue->Caption());
+  m_lbPurValue->SetCaption(purpose);
+  // A purpose without end leaves the list and the buttons on the screen; the hint has all of it.
+  m_lbPurValue->SetHeight(TextHeight(*m_lbPurValue, purpose, kPurposeWidth, 0));
+  m_lbPurValue->SetHint(purpose);
+  m_lbPurValue->SetShowHint(true);
+}
+
+void TfrmEBillAuditFoot::m_btnViewFlowClick(TObject*) {
+  if (m_record.getValue("FLOWID").empty()) {
+    ShowWarnMsg(TranslateKey(kNoFlow), this);
+    return;
+  }
+  ShowFlow();
+}
+
+void TfrmEBillAuditFoot::ShowFlow() {
+  CMQueryIntf business;
+  corvane::CorvaneStream request, answer;
+  request.addField(m_record.getField("FLOWID"));
+  if (!business.SendRequest(kFlowTransaction, request, answer, this)) return;
+  if (answer.getList(kFirstLevel).size() == 0) {
+    ShowWarnMsg(TranslateKey(kNoFlow), this);
+    return;
+  }
+  const TFormPointer<TfrmViewBsnFlow> form(CreateForm<TfrmViewBsnFlow>(this, answer));
+  form->ShowModal();
+}

@@ -1,0 +1,65 @@
+// The form behind ShowAuditFoot.
+#pragma once
+
+#include "data/corvane.h"
+#include "framework/base_form.h"
+#include "toolkit/buttons.h"
+#include "toolkit/labels.h"
+#include "toolkit/list_view.h"
+#include "toolkit/panels.h"
+
+class TfrmEBillAuditFoot : public TBaseForm {
+  Q_OBJECT
+
+ public:
+  TfrmEBillAuditFoot(TComponent* owner, corvane::Row record, corvane::List auditList);
+
+  void BuildControls() override;
+  void SetCaptions() override;
+  // Builds the list's columns from the column table of this class; the user's saved layouts are not asked.
+  // Standard reporting, with the columns built so far.
+  void Construct() override;
+  void PreInitHook1() override {}
+  void PreInitHook2() override {}
+  void ResetForm() override;
+
+  TbsSkinPanel* m_pnBasicInfo = nullptr;
+  TLabel* m_lbOpor = nullptr;
+  TLabel* m_lbOporTime = nullptr;
+  TLabel* m_lbPay = nullptr;
+  TLabel* m_lbRcv = nullptr;
+  TLabel* m_lbPayAmt = nullptr;
+  TLabel* m_lbCryType = nullptr;
+  TLabel* m_lbPurpose = nullptr;
+  TLabel* m_lbBsn = nullptr;
+  TLabel* m_lbBsnValue = nullptr;
+  TLabel* m_lbOporName = nullptr;
+  TLabel* m_lbPayAcc = nullptr;
+  TLabel* m_lbRcvAcc = nullptr;
+  TLabel* m_lbOponTimeValue = nullptr;
+  TLabel* m_lbAmtValue = nullptr;
+  TLabel* m_lbCryValue = nullptr;
+  TLabel* m_lbPurValue = nullptr;
+  TbsSkinPanel* bsSkinPanel1 = nullptr;
+  TbsSkinPanel* m_pnAuditFoot = nullptr;
+  TKVXListView* m_lvMain = nullptr;
+  TbsSkinButton* m_btnViewFlow = nullptr;
+  TbsSkinButton* m_btnClose = nullptr;
+  TbsSkinScrollBar* m_sbListH = nullptr;
+  TbsSkinScrollBar* m_sbListV = nullptr;
+
+ private:
+  struct Line;
+  static const Line kLines[];
+
+  void BuildBasicInfo();
+  void BuildList();
+  void BuildColumns();
+  void ShowRecord();
+  void m_btnViewFlowClick(TObject* sender);
+  // Asks the bank for the record's flow and shows it; warns where there is none.
+  void ShowFlow();
+
+  corvane::Row m_record;
+  corvane::List m_auditList;
+};
