@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "dialogs/messages.h"
+#include "framework/batch_rows.h"
 #include "framework/column_order.h"
 #include "framework/m_interface.h"
 #include "host/pub_info.h"
@@ -69,11 +70,10 @@ void CMInterface::ApplyResultList(corvane::CorvaneStream& answer, const std::str
                                   TKVXListView* listView) {
   m_resultFlags.clear();
   for (const corvane::Row& row : answer.getList(listName)) {
-    const std::int32_t index = StrToIntDef(row.getValue("ID"), -1);
-    if (index < 0 || index >= listView->Items().Count()) continue;
+    const TListItem* item = norvik::ItemNamed(listView, row.getValue("ID"));
+    if (item == nullptr) continue;
     const std::string flag = row.getValue("FLAG");
-    m_resultFlags[index] = flag;
-    const TListItem* item = listView->Items()[index];
+    m_resultFlags[item->Index()] = flag;
     corvane::Property& record = *listView->PropertyOf(item);
     record["Reason"] = flag;
     record["Color"] = kRefusedColor;
