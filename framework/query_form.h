@@ -50,6 +50,14 @@ class TQueryForm : public TListForm {
   virtual void UpdateDeleteState();
   // Writes a record back to the selected item; does nothing without one.
   virtual void ModifySelected(corvane::Property& row);
+  // Fills a request to cancel the ticked records: their number, the sum of the face (or business) amounts,
+  // and a row for each.
+  virtual void BuildDeleteRequest(corvane::CorvaneStream& request);
+  // Fills a request to carry the ticked records out, at once or on a day that the user is asked for: values
+  // of `source`, the booking, and a row for each record. True if the user confirmed; the request is filled in
+  // either case, without a booking then.
+  virtual bool BuildDealRequest(corvane::CorvaneStream& source, corvane::CorvaneStream& request,
+                                bool startToday);
 
   void FormDestroy() override;
 
@@ -67,6 +75,12 @@ class TQueryForm : public TListForm {
   void m_actHideColumnExecute(TObject* sender) override;
   virtual void m_actSendToDesktopExecute(TObject* sender);
   virtual void m_actAuditExecute(TObject*) {}
+  // The batch actions. The action is off during its exchange; a row of an answer that names no item is
+  // skipped.
+  virtual void m_actSynStateExecute(TObject* sender);
+  virtual void m_actReasonExecute(TObject* sender);
+  virtual void m_actDeleteExecute(TObject* sender);
+  virtual void m_actViewAuditFootExecute(TObject* sender);
 
   // The frame: m_pnRight holds m_pnTop, m_pnCenter (conditions in m_pnlTop, then the list) and the buttons in
   // m_pnRightBottom.
@@ -127,4 +141,12 @@ class TQueryForm : public TListForm {
   void BuildFrame();
   void BuildConditions();
   bool AnyCheckedIn(const char* stateKey);
+  bool Exchange(TAction* action, const char* code, corvane::CorvaneStream& request,
+                corvane::CorvaneStream& answer);
+  // The ticked records in a state, as the rows that ask about them.
+  void AddRowsInState(corvane::CorvaneStream& request, const char* stateKey);
+  void TakeStates(corvane::CorvaneStream& answer);
+  void TakeReasons(corvane::CorvaneStream& answer);
+  // The ticked records' sum of the face amounts, or of the business amounts, with two decimals.
+  std::string CheckedTotal();
 };

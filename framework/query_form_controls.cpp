@@ -29,13 +29,13 @@ constexpr ActionLine<Q> kActions[] = {
     {&Q::m_actRecvSignInfo, "m_actRecvSignInfo", "UI42954", siDetail, &Q::m_actRecvSignInfoExecute},
     {&Q::m_actHideColumn, "m_actHideColumn", "UI40922", siColumns, &Q::m_actHideColumnExecute},
     {&Q::m_actSendToDesktop, "m_actSendToDesktop", "UI40923", siDesktop, &Q::m_actSendToDesktopExecute},
-    {&Q::m_actSynState, "m_actSynState", "UI52421", siSynchronize, nullptr},
-    {&Q::m_actReason, "m_actReason", "UI52435", siReason, nullptr},
+    {&Q::m_actSynState, "m_actSynState", "UI52421", siSynchronize, &Q::m_actSynStateExecute},
+    {&Q::m_actReason, "m_actReason", "UI52435", siReason, &Q::m_actReasonExecute},
     {&Q::m_actAudit, "m_actAudit", "UI12516", siAudit, &Q::m_actAuditExecute},
     {&Q::m_actClose, "m_actClose", "UI12517", siClose, &Q::m_actCloseExecute},
-    {&Q::m_actDelete, "m_actDelete", "UI54181", siDelete, nullptr},
+    {&Q::m_actDelete, "m_actDelete", "UI54181", siDelete, &Q::m_actDeleteExecute},
     {&Q::m_actSum, "m_actSum", "UI12580", siSum, &Q::m_actSumExecute},
-    {&Q::m_actViewAuditFoot, "m_actViewAuditFoot", "UI42803", siDetail, nullptr},
+    {&Q::m_actViewAuditFoot, "m_actViewAuditFoot", "UI42803", siDetail, &Q::m_actViewAuditFootExecute},
 };
 
 }  // namespace
