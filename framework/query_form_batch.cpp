@@ -3,10 +3,10 @@
 #include "dialogs/audit_foot.h"
 #include "dialogs/booking.h"
 #include "dialogs/messages.h"
+#include "framework/action_off.h"
 #include "framework/batch_rows.h"
 #include "framework/batch_values.h"
 #include "framework/query_form.h"
-#include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/list_view.h"
 
@@ -25,23 +25,11 @@ constexpr const char* kAskDelete = "UI53250";
 constexpr const char* kFaceAmount = "UI41034";
 constexpr const char* kBusinessAmount = "UI40427";
 
-// Takes an action away while its exchange runs.
-class DisabledAction {
- public:
-  explicit DisabledAction(TAction* action) : m_action(action) { m_action->SetEnabled(false); }
-  ~DisabledAction() { m_action->SetEnabled(true); }
-  DisabledAction(const DisabledAction&) = delete;
-  DisabledAction& operator=(const DisabledAction&) = delete;
-
- private:
-  TAction* m_action;
-};
-
 }  // namespace
 
 bool TQueryForm::Exchange(TAction* action, const char* code, corvane::CorvaneStream& request,
                           corvane::CorvaneStream& answer) {
-  const DisabledAction disabled(action);
+  const ActionOff off(action);
   return m_pIntf->SendRequest(code, request, answer, this);
 }
 

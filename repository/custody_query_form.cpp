@@ -2,6 +2,7 @@
 
 #include "dialogs/bank_info.h"
 #include "dialogs/messages.h"
+#include "framework/action_off.h"
 #include "host/translate.h"
 #include "repository/record_info_form.h"
 #include "toolkit/action.h"
@@ -46,18 +47,6 @@ constexpr RowActionLine kRowActions[] = {{&F::m_actTicketInfo, "m_actTicketInfo"
                                          {&F::m_actECDSSignInfo, "m_actECDSSignInfo", "UI44317"},
                                          {&F::m_actECDSHistoryInfo, "m_actECDSHistoryInfo", "UI44318"},
                                          {&F::m_actBigResult, "m_actBigResult", "UI44319"}};
-
-// An action that is off for the time of its own exchange.
-class ActionOff {
- public:
-  explicit ActionOff(TAction* action) : m_action(action) { m_action->SetEnabled(false); }
-  ~ActionOff() { m_action->SetEnabled(true); }
-  ActionOff(const ActionOff&) = delete;
-  ActionOff& operator=(const ActionOff&) = delete;
-
- private:
-  TAction* m_action;
-};
 
 }  // namespace
 
