@@ -8,6 +8,7 @@
 #include "dialogs/view_bsn_flow.h"
 #include "framework/m_query_intf.h"
 #include "host/pub_info.h"
+#include "platform/code_page.h"
 #include "toolkit/conversion.h"
 #include "toolkit/layout.h"
 
@@ -15,7 +16,8 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
-constexpr int kPurposeWidth = 468;  // 78 bytes of the smallest font
+constexpr int kPurposeWidth = 468;           // 78 bytes of the smallest font
+constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
 constexpr int kAmountTag = 2;
 constexpr int kRightTag = 5;
 
@@ -23,6 +25,14 @@ constexpr const char* kFlowTransaction = "COMQRYFW";
 constexpr const char* kFirstLevel = "PSTLEVEL0";
 constexpr const char* kNoFlow = "UI42801";
 constexpr const char* kAmountUnit = "UI42802";
+
+// The beginning of a text, at most so many bytes, without half a character.
+std::string Beginning(const std::string& text, std::size_t most) {
+  if (text.size() <= most) return text;
+  std::size_t end = 0;
+  for (std::size_t next = 0; next <= most; next += norvik::CharacterLength(text, next)) end = next;
+  return text.substr(0, end);
+}
 
 }  // namespace
 
@@ -90,6 +100,9 @@ void TfrmEBillAuditFoot::BuildBasicInfo() {
     this->*line.caption = NewComponent<TLabel>(this, line.captionName);
     this->*line.value = NewComponent<TLabel>(this, line.valueName);
     (this->*line.value)->SetSelectable(true);
+    // A long value is cut by the form and shows whole in its hint.
+    (this->*line.value)->SetShowHint(true);
+    (this->*line.value)->Widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid.Put(this->*line.caption, row, 0, 1, 1, caRight);
     grid.Put(this->*line.value, row++, 1);
   }
@@ -160,15 +173,14 @@ void TfrmEBillAuditFoot::ShowRecord() {
   for (const Line& line : kLines) {
     std::string value = m_record.getValue(line.field) + line.join;
     if (line.secondField[0] != '\0') value += m_record.getValue(line.secondField);
-    (this->*line.value)->SetCaption(value);
+    (this->*line.value)->SetCaption(Beginning(value, kLongestShown));
+    (this->*line.value)->SetHint((this->*line.value)->Caption());
   }
   m_lbAmtValue->SetCaption(m_lbAmtValue->Caption() + " " + TranslateKey(kAmountUnit));
   const std::string purpose = norvik::BreakableMemo(m_lbPurValue->Caption());
   m_lbPurValue->SetCaption(purpose);
-  // A purpose without end leaves the list and the buttons on the screen; the hint has all of it.
+  // A purpose without end leaves the list and the buttons on the screen.
   m_lbPurValue->SetHeight(TextHeight(*m_lbPurValue, purpose, kPurposeWidth, 0));
-  m_lbPurValue->SetHint(purpose);
-  m_lbPurValue->SetShowHint(true);
 }
 
 void TfrmEBillAuditFoot::m_btnViewFlowClick(TObject*) {

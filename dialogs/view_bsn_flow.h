@@ -25,9 +25,9 @@ class TfrmViewBsnFlow : public TBaseForm {
   void Construct() override;
   void PreInitHook1() override {}
   void PreInitHook2() override {}
-  // Builds the tree. An AUDITTOTAL that is no number raises the toolkit's EConvertError. A level without a
-  // list has a node without a name, up to as many levels as the answer has lists or kEmptyLevels, if that is
-  // more.
+  // Builds the tree. An AUDITTOTAL that is no number raises the toolkit's EConvertError, and the tree stays
+  // empty. A level without a list has a node without a name, up to as many levels as the answer has lists or
+  // kEmptyLevels, if that is more.
   void ResetForm() override;
 
   // Levels that are shown though the answer says nothing about them; bounds what an answer can ask for.

@@ -80,7 +80,7 @@ TEST_F(AuditRequests, ASingleAuditSendsVerdictAndRows) {
                 {true, true, ""},
                 true,
                 "",
-                "<AGREEFLAG>0</AGREEFLAG><AGREEREM></AGREEREM><BPBSNCODE>C</BPBSNCODE><FLAG>0</"
+                "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>C</BPBSNCODE><FLAG>0</"
                 "FLAG><SUBTYPE>7</SUBTYPE>" +
                     rows},
                {"refused, 200 bytes",

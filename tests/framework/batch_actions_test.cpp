@@ -283,13 +283,12 @@ TEST_F(BatchActions, ADealRequestCarriesTheBookingOfTheUser) {
       (row.confirms ? booking.m_btnOk : booking.m_btnCancel)->Click();
     });
     EXPECT_EQ(form->BuildDealRequest(source, request, false), row.confirms);
-    const std::string date = row.date;
+    const std::string date =
+        row.date[0] == '\0' ? "<PREDATE/>" : std::string("<PREDATE>") + row.date + "</PREDATE>";
     EXPECT_EQ(request.toString(),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream><AGREEFLAG></AGREEFLAG><AGREEREM></AGREEREM>"
-              "<BATNO></BATNO><BSNCODE>B</BSNCODE><DEALNOASK>1</DEALNOASK><FLAG></FLAG><FLOWID></FLOWID>"
-              "<PREDATE>" +
-                  date + "</PREDATE><PREFLG>" + row.flag + "</PREFLG><PRETIME></PRETIME><TALNUM></TALNUM>" +
-                  rows);
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream><AGREEFLAG/><AGREEREM/>"
+              "<BATNO/><BSNCODE>B</BSNCODE><DEALNOASK>1</DEALNOASK><FLAG/><FLOWID/>" +
+                  date + "<PREFLG>" + row.flag + "</PREFLG><PRETIME/><TALNUM/>" + rows);
   }
 }
 
@@ -299,7 +298,7 @@ TEST_F(BatchActions, TheScreenAuditsTheTickedRecords) {
   WhenShown<TfrmAudit> step([](TfrmAudit& audit) { audit.m_btnOk->Click(); });
   form->m_actAudit->Execute();
   EXPECT_EQ(Request("PAYAUDIT"),
-            "<AGREEFLAG>0</AGREEFLAG><AGREEREM></AGREEREM><BPBSNCODE>CB000001</BPBSNCODE><FLAG>0</FLAG>"
+            "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>CB000001</BPBSNCODE><FLAG>0</FLAG>"
             "<SUBTYPE>0</SUBTYPE><list "
             "name=\"userDataList\"><row><FLOWID>F1</FLOWID><ID>0</ID><ORDERNO>O1</ORDERNO>"
             "<TRNAMT>1</TRNAMT></row><row><FLOWID>F9</FLOWID><ID>8</ID><ORDERNO>O9</ORDERNO><TRNAMT>9</"
