@@ -16,7 +16,8 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
-constexpr int kPurposeWidth = 468;           // 78 bytes of the smallest font
+constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
+constexpr int kPurposeCharacters = 39;       // full-width ones in a line, 78 bytes
 constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
 constexpr int kAmountTag = 2;
 constexpr int kRightTag = 5;
@@ -179,8 +180,9 @@ void TfrmEBillAuditFoot::ShowRecord() {
   m_lbAmtValue->SetCaption(m_lbAmtValue->Caption() + " " + TranslateKey(kAmountUnit));
   const std::string purpose = norvik::BreakableMemo(m_lbPurValue->Caption());
   m_lbPurValue->SetCaption(purpose);
+  m_lbPurValue->SetWidth(TextWidth(*m_lbPurValue, kPurposeCharacters, kPurposeWidth));
   // A purpose without end leaves the list and the buttons on the screen.
-  m_lbPurValue->SetHeight(TextHeight(*m_lbPurValue, purpose, kPurposeWidth, 0));
+  m_lbPurValue->SetHeight(TextHeight(*m_lbPurValue, purpose, m_lbPurValue->Width(), 0));
 }
 
 void TfrmEBillAuditFoot::m_btnViewFlowClick(TObject*) {
