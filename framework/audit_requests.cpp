@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kCheckedRows = 2;          // GetDataVector: the ticked rows
 constexpr std::size_t kHourDigits = 10;  // "yyyymmddhh"
-constexpr const char* kSingleAudit = "0";
 constexpr const char* kBatchAudit = "1";
 constexpr const char* kBooked = "UI52019";
 constexpr const char* kPastBooking = "UI53317";
@@ -26,9 +25,7 @@ corvane::List TickedRecords(TKVXListView* listView) {
 
 void AddSingleAudit(corvane::CorvaneStream& request, bool agree, const std::string& opinion,
                     const std::string& code, std::int32_t subType) {
-  corvane::Row fields;
-  fields["FLAG"] = kSingleAudit;
-  norvik::SetVerdict(fields, agree, opinion, code);
+  corvane::Row fields = norvik::SingleAudit(agree, opinion, code);
   fields["SUBTYPE"] = std::to_string(subType);
   request.addFields(fields);
 }

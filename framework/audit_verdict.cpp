@@ -58,6 +58,13 @@ void SetVerdict(corvane::Row& fields, bool agree, const std::string& opinion, co
   fields["BPBSNCODE"] = code;
 }
 
+corvane::Row SingleAudit(bool agree, const std::string& opinion, const std::string& code) {
+  corvane::Row fields;
+  fields["FLAG"] = "0";
+  SetVerdict(fields, agree, opinion, code);
+  return fields;
+}
+
 bool IsPastBooking(const corvane::Row& record, const std::string& bookedText, const std::string& present) {
   if (!record.hasField("PREFLG") || record.getValue("PREFLG") != bookedText) return false;
   const std::string hour = record.getValue("PRETIME").substr(0, 2);

@@ -25,6 +25,9 @@ bool AskVerdict(bool& agree, std::string& opinion);
 // Sets AGREEFLAG ("0" agreed, "1" not), AGREEREM and BPBSNCODE.
 void SetVerdict(corvane::Row& fields, bool agree, const std::string& opinion, const std::string& code);
 
+// The fields of the audit of single records: FLAG "0" and the verdict.
+corvane::Row SingleAudit(bool agree, const std::string& opinion, const std::string& code);
+
 // Whether a record is booked for an hour before `present` ("yyyymmddhh"): its PREFLG is `bookedText`, and
 // PREDATE ("yyyy-mm-dd") with the first two characters of PRETIME make the smaller number. A record without
 // PREFLG is not booked; a booking whose date or time is no number counts as past.

@@ -8,5 +8,12 @@ class CMDetailIntf : public CMInterface {
   bool ReservedCheck1() override { return true; }
   bool ReservedCheck2() override { return true; }
   bool ReservedCheck3() override { return true; }
+
+  // Builds an audit request from the ticked records: the list "userDataList", and the fields of the
+  // approver's verdict under the business code `code`. False, which leaves the request unfinished: nothing is
+  // ticked or the opinion is too long, which is told, or the audit dialog is cancelled.
+  virtual bool BuildDetailAuditRequest(TKVXListView* listView, const std::string& code,
+                                       corvane::CorvaneStream& request);
+
   virtual bool ReservedCheck5() { return true; }
 };

@@ -4,6 +4,7 @@
 #include "dialogs/audit_form.h"
 #include "dialogs/com_msg.h"
 #include "framework/audit_verdict.h"
+#include "framework/m_detail_intf.h"
 #include "framework/m_query_intf.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
@@ -168,6 +169,37 @@ TEST_F(AuditRequests, NothingTickedAndADeclinedBookingSendNothing) {
     EXPECT_EQ(built, row.built);
     EXPECT_EQ(asked, row.built);
     EXPECT_EQ(request.getList("userDataList").size(), row.built ? 2u : 0u);
+  }
+}
+
+TEST_F(AuditRequests, ADetailAuditHasNoSubTypeAndAsksOfNoBooking) {
+  CMDetailIntf detail;
+  const std::string rows = kRows;
+  const struct {
+    const char* name;
+    std::initializer_list<int> ticked;
+    Verdict verdict;
+    bool built;
+    std::string message, text;
+  } cases[] = {
+      {"nothing ticked", {}, {}, false, "UI52869", ""},
+      {"refused",
+       {0, 1},
+       {true, false, "no"},
+       true,
+       "",
+       "<AGREEFLAG>1</AGREEFLAG><AGREEREM>no</AGREEREM><BPBSNCODE>C</BPBSNCODE><FLAG>0</FLAG>" + rows},
+      {"201 bytes", {0, 1}, {true, true, std::string(201, 'a')}, false, "UI52934", rows},
+      {"cancelled", {0, 1}, {false, true, ""}, false, "", rows}};
+  for (const auto& row : cases) {
+    Tick(row.ticked);
+    corvane::CorvaneStream request;
+    bool built = !row.built;
+    EXPECT_EQ(Run(row.verdict, true, [&] { built = detail.BuildDetailAuditRequest(list, "C", request); }),
+              row.message)
+        << row.name;
+    EXPECT_EQ(built, row.built) << row.name;
+    EXPECT_EQ(Text(request), row.text) << row.name;
   }
 }
 
