@@ -1,10 +1,13 @@
 #include "demohost/client.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QMessageBox>
 #include <algorithm>
 #include <cstdlib>
 
 #include "demohost/bank/refuse.h"
+#include "demohost/refusals.h"
 #include "demohost/shortcut.h"
 #include "demohost/skins.h"
 #include "demohost/window/print_settings.h"
@@ -16,6 +19,9 @@ namespace {
 // The message that tells a form of a new look.
 constexpr std::uint32_t kLookChanged = 0x7E9;
 
+// The key of the question whether a file may be replaced.
+constexpr std::string_view kMayReplace = "UI12572";
+
 // The captions of the menu items that this host knows; any other shows by its name.
 constexpr std::pair<std::string_view, std::string_view> kItemCaptions[] = {
     {"ITEM6066", "UI25826"},
@@ -25,6 +31,22 @@ constexpr std::pair<std::string_view, std::string_view> kItemCaptions[] = {
 
 QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void Provoke(const QString& what, const QString& key) {
+  Faults& faults = CurrentServices().faults;
+  const std::string name = key.toStdString();
+  if (what == QLatin1String("exchange")) {
+    faults.exchange = name.empty() ? std::string(refusal::kBankFailure) : name;
+  } else if (what == QLatin1String("text")) {
+    faults.texts.insert(name);
+  } else if (what == QLatin1String("entry")) {
+    faults.entries.insert(name);
+  } else if (what == QLatin1String("none")) {
+    faults = Faults();
+  } else {
+    throw std::invalid_argument("nothing called \"" + what.toStdString() + "\" can fail");
+  }
 }
 
 std::string ItemCaption(const Texts& texts, const std::string& language, const std::string& item) {
@@ -64,6 +86,7 @@ Client::Client(const Options& options)
   store_.SetHandle("BANK_PDATA", directory_.Handle());
   output_.print_folder = options.data / "prints";
   output_.made = [this](const std::filesystem::path& file) { Tell(HostWord::kSaved, file.string()); };
+  output_.may_replace = [this](const std::filesystem::path& file) { return MayReplace(file); };
   output_.print_settings = [this](const std::string&) {
     if (AskPrintSettings(store_, Setting("APPLICATION.LANG", "Language"), &window_)) Save();
   };
@@ -186,6 +209,17 @@ void Client::Tell(HostWord word, const std::string& detail) {
   window_.Tell(ToQt(text) + QStringLiteral(": ") + ToQt(detail));
 }
 
+bool Client::MayReplace(const std::filesystem::path& file) {
+  const std::string_view question = texts_.Find(Setting("APPLICATION.LANG", "Language"), kMayReplace);
+  QMessageBox box(QMessageBox::Question, window_.windowTitle(),
+                  ToQt(question) + QLatin1Char('\n') + ToQt(file.string()),
+                  QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Yes)->setObjectName(QStringLiteral("m_btnOk"));
+  box.button(QMessageBox::No)->setObjectName(QStringLiteral("m_btnNo"));
+  return box.exec() == QMessageBox::Yes;
+}
+
 void Client::MakeShortcut() {
   const auto field = [this](const char* name) {
     return norvik::Utf8FromAnsi(store_.FieldValue("ENVIRONMENT", std::string("CURSHORTCUT.") + name));
@@ -202,6 +236,7 @@ OperatorClient Client::ForOperator() {
   return {[this](const QString& item) { Pick(item.toStdString()); },
           [this](const QString& name) { ChooseLanguage(name.toStdString()); },
           [this](const QString& name, int size) { ChooseFont(name, size); },
+          [](const QString& what, const QString& key) { Provoke(what, key); },
           [this] { return forms_.Front(); }};
 }
 

@@ -55,6 +55,7 @@ class Client {
   void LookChanged();
   void Save();
   void MakeShortcut();
+  bool MayReplace(const std::filesystem::path& file);
   void TellFailure(const std::exception& failure);
   void Tell(HostWord word, const std::string& detail);
   std::string Setting(const char* section, const char* item) const;

@@ -107,7 +107,7 @@ TListTree::TListTree(TCustomListView* list) : list_(list) {
   setHorizontalScrollMode(ScrollPerPixel);
   setItemDelegate(new RowDelegate(this));
   header()->setStretchLastSection(false);
-  header()->setSectionsMovable(false);
+  header()->setSectionsMovable(true);
   header()->setFirstSectionMovable(true);
   header()->setHighlightSections(false);
 }

@@ -104,11 +104,6 @@ void TCustomListView::SetHideSelection(bool on) {
   if (Tree() != nullptr) Tree()->ShowSelection();
 }
 
-void TCustomListView::SetFullDrag(bool on) {
-  full_drag_ = on;
-  if (Tree() != nullptr) Tree()->header()->setSectionsMovable(on);
-}
-
 void TCustomListView::SetShowColumnHeaders(bool on) {
   show_column_headers_ = on;
   if (Tree() != nullptr) Tree()->setHeaderHidden(!on);

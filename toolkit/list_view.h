@@ -194,9 +194,9 @@ class TCustomListView : public TbsSkinControl {
   /// Whether the selection shows only with the focus.
   bool HideSelection() const { return hide_selection_; }
   void SetHideSelection(bool on);
-  /// Whether the user may drag columns to another place.
+  /// Kept for the forms; the user may always drag a column by its header to another place.
   bool FullDrag() const { return full_drag_; }
-  void SetFullDrag(bool on);
+  void SetFullDrag(bool on) { full_drag_ = on; }
   bool ShowColumnHeaders() const { return show_column_headers_; }
   void SetShowColumnHeaders(bool on);
 

@@ -21,12 +21,15 @@
 #include <stdexcept>
 
 #include "bench/list_view/peers.h"
+#include "data/corvane_stream.h"
 #include "data/list.h"
 
 namespace list_bench {
 namespace {
 
 const std::vector<std::string> kTasks = {"fill", "first paint", "tick all", "sum of ticked", "delete half"};
+
+constexpr const char* kReading = "reading";
 
 struct Measure {
   std::vector<double> seconds;  // one for each task
@@ -97,7 +100,26 @@ Measure Run(const Peer& peer, int rows) {
   return measure;
 }
 
+// Seconds that reading the bank's answer takes, from its text to its list of records.
+double ReadAnswer(int rows) {
+  corvane::List records = MakeRecords(rows);
+  records.setAttribute("name", "resultList");
+  corvane::CorvaneStream answer;
+  answer.addList(records);
+  const std::string text = answer.toString();
+  const double start = Seconds();
+  corvane::CorvaneStream read(text);
+  if (read.getList("resultList").size() != static_cast<std::uint32_t>(rows)) {
+    throw std::runtime_error("wrong number of rows read");
+  }
+  return Seconds() - start;
+}
+
 int Child(const std::string& name, int rows, int argc, char** argv) {
+  if (name == kReading) {
+    std::printf("%.9f\n", ReadAnswer(rows));
+    return 0;
+  }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   for (const Peer& peer : AllPeers()) {
@@ -110,25 +132,49 @@ int Child(const std::string& name, int rows, int argc, char** argv) {
   return 1;
 }
 
-Measure InChild(const std::string& name, int rows) {
+// Runs the child and hands its output to a function that says whether it could read it.
+template <class Reader>
+void RunChild(const std::string& name, int rows, Reader&& reader) {
   const std::string program = std::filesystem::read_symlink("/proc/self/exe").string();
   const std::string command = "'" + program + "' --child " + name + " " + std::to_string(rows);
   FILE* pipe = popen(command.c_str(), "r");
   if (!pipe) throw std::runtime_error("cannot start " + command);
+  const bool read = reader(pipe);
+  if (pclose(pipe) != 0 || !read) throw std::runtime_error("failed: " + command);
+}
+
+Measure InChild(const std::string& name, int rows) {
   Measure measure;
   measure.seconds.resize(kTasks.size());
-  char sum[64] = {};
-  bool read = true;
-  for (double& seconds : measure.seconds) read = std::fscanf(pipe, "%lf", &seconds) == 1 && read;
-  read = std::fscanf(pipe, "%lf %63s", &measure.memory, sum) == 2 && read;
-  measure.sum = sum;
-  if (pclose(pipe) != 0 || !read) throw std::runtime_error("failed: " + command);
+  RunChild(name, rows, [&measure](FILE* pipe) {
+    char sum[64] = {};
+    bool read = true;
+    for (double& seconds : measure.seconds) read = std::fscanf(pipe, "%lf", &seconds) == 1 && read;
+    read = std::fscanf(pipe, "%lf %63s", &measure.memory, sum) == 2 && read;
+    measure.sum = sum;
+    return read;
+  });
   return measure;
+}
+
+double ReadingInChild(int rows) {
+  double seconds = 0;
+  RunChild(kReading, rows, [&seconds](FILE* pipe) { return std::fscanf(pipe, "%lf", &seconds) == 1; });
+  return seconds;
 }
 
 double Median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
   return values[values.size() / 2];
+}
+
+// The first two tasks make what the operator waits for after the reading.
+void PrintBesideReading(const std::vector<Measure>& ours, const std::vector<double>& reading) {
+  std::vector<double> shown;
+  for (const Measure& one : ours) shown.push_back(one.seconds[0] + one.seconds[1]);
+  const double read = Median(reading);
+  std::printf("\nReading the answer takes %.2f ms; fill and first paint together take %.2f times that.\n",
+              read * 1000, Median(shown) / read);
 }
 
 void Print(int rows, const std::map<std::string, std::vector<Measure>>& measures) {
@@ -158,8 +204,10 @@ void Print(int rows, const std::map<std::string, std::vector<Measure>>& measures
 
 int Parent(int rows, int repeats) {
   std::map<std::string, std::vector<Measure>> measures;
+  std::vector<double> reading;
   std::string sum;
   for (int repeat = 0; repeat < repeats; ++repeat) {
+    reading.push_back(ReadingInChild(rows));
     for (const Peer& peer : AllPeers()) {
       measures[peer.name].push_back(InChild(peer.name, rows));
       if (sum.empty()) sum = measures[peer.name].back().sum;
@@ -167,6 +215,7 @@ int Parent(int rows, int repeats) {
     }
   }
   Print(rows, measures);
+  PrintBesideReading(measures.at(AllPeers().front().name), reading);
   return 0;
 }
 

@@ -10,6 +10,14 @@ InfoStore& Store() {
   return *CurrentServices().store;
 }
 
+// The store, for a read of what stands under a key. Throws Refused.
+const InfoStore& StoreWith(const std::string& key) {
+  if (CurrentServices().faults.entries.contains(key)) {
+    throw Refused(refusal::kUnknownEntry, norvik::Utf8FromAnsi(key));
+  }
+  return Store();
+}
+
 // Runs a function whose failure the caller isn't told about.
 template <class Body>
 std::int32_t Reported(Body&& body) noexcept {
@@ -44,11 +52,12 @@ std::uint8_t SetField(const char* block, const char* xml, char* error) {
 
 std::uint8_t GetField(char** buffer, std::int32_t* length, const char* block, const char* name, char* error) {
   return Answered(buffer, length, error, kShortError,
-                  [&] { return Store().GetField(Text(block), Text(name)).toString(); });
+                  [&] { return StoreWith(Text(block)).GetField(Text(block), Text(name)).toString(); });
 }
 
 std::uint8_t GetList(char** buffer, std::int32_t* length, const char* key, char* error) {
-  return Answered(buffer, length, error, kShortError, [&] { return Store().GetList(Text(key)).toString(); });
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return StoreWith(Text(key)).GetList(Text(key)).toString(); });
 }
 
 std::int32_t SetIni(const char* key, const char* xml) {
@@ -60,13 +69,14 @@ std::int32_t RemoveIni(const char* key) {
 }
 
 std::uint8_t GetIni(char** buffer, std::int32_t* length, const char* key, char* error) {
-  return Answered(buffer, length, error, kShortError, [&] { return Store().GetIni(Text(key)).toString(); });
+  return Answered(buffer, length, error, kShortError,
+                  [&] { return StoreWith(Text(key)).GetIni(Text(key)).toString(); });
 }
 
 std::uint8_t GetIniValue(char** buffer, std::int32_t* length, const char* key, const char* section,
                          const char* item, char* error) {
   return Answered(buffer, length, error, kShortError,
-                  [&] { return Store().GetIniValue(Text(key), Text(section), Text(item)); });
+                  [&] { return StoreWith(Text(key)).GetIniValue(Text(key), Text(section), Text(item)); });
 }
 
 std::int32_t SetIniplus(const char* key, const char* xml) {
@@ -79,19 +89,20 @@ std::int32_t RemoveIniplus(const char* key) {
 
 std::uint8_t GetIniplus(char** buffer, std::int32_t* length, const char* key, char* error) {
   return Answered(buffer, length, error, kShortError,
-                  [&] { return Store().GetIniplus(Text(key)).toString(); });
+                  [&] { return StoreWith(Text(key)).GetIniplus(Text(key)).toString(); });
 }
 
 std::uint8_t GetIniplusRow(char** buffer, std::int32_t* length, const char* key, const char* section,
                            char* error, std::int32_t index) {
-  return Answered(buffer, length, error, kShortError,
-                  [&] { return Store().GetIniplusRow(Text(key), Text(section), index).toString(); });
+  return Answered(buffer, length, error, kShortError, [&] {
+    return StoreWith(Text(key)).GetIniplusRow(Text(key), Text(section), index).toString();
+  });
 }
 
 std::uint8_t GetIniplusList(char** buffer, std::int32_t* length, const char* key, const char* section,
                             char* error) {
   return Answered(buffer, length, error, kShortError,
-                  [&] { return Store().GetIniplusList(Text(key), Text(section)).toString(); });
+                  [&] { return StoreWith(Text(key)).GetIniplusList(Text(key), Text(section)).toString(); });
 }
 
 std::int32_t SetHandle(const char* key, std::uint32_t value) {

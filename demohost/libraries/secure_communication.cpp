@@ -1,6 +1,8 @@
 #include <chrono>
 #include <thread>
+#include <utility>
 
+#include "demohost/bank/refuse.h"
 #include "demohost/libraries/libraries.h"
 
 namespace demohost {
@@ -13,9 +15,11 @@ void Release(char* buffer) {
 std::uint8_t Exchange(const char* code, const char* request, std::int32_t, char** answer,
                       std::int32_t* length, char* error) {
   return Answered(answer, length, error, kLongError, [&] {
-    const Services& services = CurrentServices();
+    Services& services = CurrentServices();
     // The line to the bank is slow; the caller waits, as it would for a real one.
     std::this_thread::sleep_for(std::chrono::milliseconds(services.delay_milliseconds));
+    const std::string refused = std::exchange(services.faults.exchange, {});
+    if (!refused.empty()) throw Refused(refused);
     return services.bank->Exchange(Text(code), Text(request));
   });
 }

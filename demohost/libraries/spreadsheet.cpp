@@ -18,7 +18,10 @@ void Tell(const std::filesystem::path& file) {
 std::uint8_t ExportWorkbook(const char* path, const char* head, const char* columns, const char* data,
                             char* error) {
   return Guarded(error, kLongError, [&] {
-    Tell(WriteWorkbook(PathOf(path), ReadExport(Text(head), Text(columns), Text(data))));
+    const std::filesystem::path file =
+        WriteWorkbook(PathOf(path), ReadExport(Text(head), Text(columns), Text(data)),
+                      CurrentServices().output->may_replace);
+    if (!file.empty()) Tell(file);
   });
 }
 

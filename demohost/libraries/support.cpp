@@ -48,6 +48,7 @@ std::string CurrentLanguage() {
 }
 
 std::string CurrentText(std::string_view key) {
+  if (CurrentServices().faults.texts.contains(key)) return {};
   return std::string(CurrentServices().texts->Find(CurrentLanguage(), key));
 }
 

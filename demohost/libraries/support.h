@@ -10,6 +10,7 @@
 
 #include "demohost/bank/bank.h"
 #include "demohost/bank_clock.h"
+#include "demohost/faults.h"
 #include "demohost/info_store.h"
 #include "demohost/output/output.h"
 #include "demohost/texts.h"
@@ -28,6 +29,7 @@ struct Services {
   int delay_milliseconds = 0;
   // A failure that the caller isn't told about, in UTF-8.
   std::function<void(const std::string& text)> report;
+  Faults faults = {};
 };
 
 // The services of the libraries that are registered now. The functions of a host's library get no context, so

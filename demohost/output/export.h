@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -40,9 +41,13 @@ std::vector<ExportColumn> ReadColumns(const corvane::List& columns);
 // Writes an Office Open XML workbook: title and head, the captions, which stay in sight, and the rows.
 // Amounts are numbers with two decimals and dates are dates; whatever isn't one, and everything else, is
 // text. Under a name that ends in .xls the file gets the ending .xlsx, so that no program asks about an
-// ending that belies the content; that file must not exist yet. The file is made beside and put in place in
-// one step. Returns where the workbook stands. Throws Refused with kNotExported.
-std::filesystem::path WriteWorkbook(const std::filesystem::path& path, const ExportSheet& sheet);
+// ending that belies the content; since the caller can't know of a file of that name, may_replace is asked
+// where there is one. The file is made beside and put in place in one step. Returns where the workbook
+// stands, empty where it was not to be replaced. Throws Refused with kNotExported, also for a file in the way
+// and nobody to ask.
+std::filesystem::path WriteWorkbook(
+    const std::filesystem::path& path, const ExportSheet& sheet,
+    const std::function<bool(const std::filesystem::path&)>& may_replace = {});
 
 // Writes the captions and the rows as lines of text in UTF-8 with a byte order mark, ended by "\r\n", cells
 // divided by the separator; a cell that holds the separator, a quote or a line end stands in quotes, its

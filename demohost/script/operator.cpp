@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHash>
@@ -52,7 +53,7 @@ Operator::Action Operator::Prepare(const ScriptStep& step) {
       {"choose", &Operator::Choose},    {"expect", &Operator::Expect},   {"wait", &Operator::Nothing},
       {"patience", &Operator::Nothing}, {"picture", &Operator::Picture}, {"print", &Operator::Print},
       {"say", &Operator::Say},          {"close", &Operator::Close},     {"language", &Operator::Language},
-      {"font", &Operator::Font},
+      {"font", &Operator::Font},        {"fail", &Operator::Fail},       {"remove", &Operator::Remove},
   };
   return (this->*kPreparers.value(step.command))(step.words);
 }
@@ -99,7 +100,12 @@ Operator::Action Operator::Window(const QStringList& words) {
 }
 
 Operator::Action Operator::Press(const QStringList& words) {
-  auto* button = ControlAs<QAbstractButton>(words[0], "button");
+  // A panel is pressed at its heading, the button that is its own child.
+  QWidget* control = Control(words[0]);
+  auto* button = control->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
+  if (qobject_cast<QAbstractButton*>(control) != nullptr || button == nullptr) {
+    button = ControlAs<QAbstractButton>(words[0], "button");
+  }
   RequireEnabled(button);
   return [button] {
     button->setFocus(Qt::MouseFocusReason);
@@ -226,6 +232,14 @@ Operator::Action Operator::Language(const QStringList& words) {
 
 Operator::Action Operator::Font(const QStringList& words) {
   return [this, name = words[0], size = words[1].toInt()] { client_.font(name, size); };
+}
+
+Operator::Action Operator::Remove(const QStringList& words) {
+  return [file = words[0]] { QFile::remove(file); };
+}
+
+Operator::Action Operator::Fail(const QStringList& words) {
+  return [this, what = words[0], key = words.value(1)] { client_.fail(what, key); };
 }
 
 void Operator::ExpectDialog(const QString& text) {

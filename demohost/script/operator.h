@@ -18,6 +18,9 @@ struct OperatorClient {
   std::function<void(const QString& item)> pick;
   std::function<void(const QString& name)> language;
   std::function<void(const QString& name, int size)> font;
+  // Makes something of the host go wrong: "exchange" the next one, with the key of a refusal; "text" a key's
+  // text and "entry" a read of the public information, from now on; "none" ends all that.
+  std::function<void(const QString& what, const QString& key)> fail;
   // The window of the module that is in front, null if there is none.
   std::function<QWidget*()> front;
 };
@@ -70,10 +73,14 @@ class Operator {
   Action Close(const QStringList& words);
   Action Language(const QStringList& words);
   Action Font(const QStringList& words);
+  Action Remove(const QStringList& words);
+  Action Fail(const QStringList& words);
 
   void ExpectDialog(const QString& text);
   void ExpectCount(const QString& what, const QStringList& words);
   void ExpectCell(const QString& place, const QString& text);
+  void ExpectColumn(const QString& caption, const QString& state);
+  void ExpectFocus(const QWidget* control);
   void ExpectState(const QString& state, const QString& control);
 
   // The dialog, else the chosen window, else the client's front window. Throws NotYet.

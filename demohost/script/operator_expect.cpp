@@ -38,6 +38,10 @@ Operator::Action Operator::Expect(const QStringList& words) {
     ExpectCell(words[1], words[2]);
   } else if (kind == QLatin1String("file")) {
     if (!QFileInfo::exists(words[1])) throw NotYet(QStringLiteral("there is no file %1").arg(words[1]));
+  } else if (kind == QLatin1String("column")) {
+    ExpectColumn(words[1], words[2]);
+  } else if (kind == QLatin1String("focus")) {
+    ExpectFocus(Control(words[1]));
   } else {
     ExpectState(kind, words[1]);
   }
@@ -60,6 +64,23 @@ void Operator::ExpectCell(const QString& place, const QString& text) {
     return RequireText(model->index(row, column).data().toString(), text);
   }
   throw NotYet(QStringLiteral("the list has no column \"%1\"").arg(caption));
+}
+
+void Operator::ExpectColumn(const QString& caption, const QString& state) {
+  const bool wanted = state == QLatin1String("shown");
+  if (!wanted && state != QLatin1String("hidden"))
+    throw NotYet(QStringLiteral("a column is shown or hidden"));
+  bool shown = false;
+  for (const TableColumn& column : ReadList(*List(), 0, 0).columns)
+    shown = shown || column.caption == caption;
+  if (shown != wanted) throw NotYet(QStringLiteral("it isn't"));
+}
+
+void Operator::ExpectFocus(const QWidget* control) {
+  const QWidget* focus = Target()->focusWidget();
+  if (focus != nullptr && (focus == control || control->isAncestorOf(focus))) return;
+  while (focus != nullptr && focus->objectName().isEmpty()) focus = focus->parentWidget();
+  throw NotYet(QStringLiteral("the focus is on %1").arg(focus == nullptr ? QString() : focus->objectName()));
 }
 
 void Operator::ExpectState(const QString& state, const QString& control) {

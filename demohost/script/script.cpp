@@ -38,6 +38,8 @@ const QHash<QString, CommandRule>& Commands() {
       {"close", {0, 0, "close"}},
       {"language", {1, 1, "language NAME"}},
       {"font", {2, 2, "font NAME SIZE"}},
+      {"remove", {1, 1, "remove FILE"}},
+      {"fail", {1, 2, "fail exchange|text|entry|none [KEY]"}},
   };
   return kCommands;
 }
@@ -57,6 +59,8 @@ const QHash<QString, CommandRule>& Expectations() {
       {"checked", {1, 1, "expect checked CONTROL"}},
       {"unchecked", {1, 1, "expect unchecked CONTROL"}},
       {"file", {1, 1, "expect file FILE"}},
+      {"column", {2, 2, "expect column CAPTION shown|hidden"}},
+      {"focus", {1, 1, "expect focus CONTROL"}},
   };
   return kExpectations;
 }

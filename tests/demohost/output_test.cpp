@@ -121,8 +121,9 @@ TEST(Export, LeavesTheOldFileWholeWhereItFails) {
   const Folder folder;
   folder.Write("a.xlsx", "old");
   EXPECT_THROW(WriteWorkbook(folder / "a.xls", Sheet()), Refused);
+  EXPECT_EQ(WriteWorkbook(folder / "a.xls", Sheet(), [](const auto&) { return false; }), "");
   EXPECT_EQ(ReadFile(folder / "a.xlsx"), "old");
-  WriteWorkbook(folder / "a.xlsx", Sheet());
+  WriteWorkbook(folder / "a.xls", Sheet(), [&](const auto& file) { return file == folder / "a.xlsx"; });
   EXPECT_NE(ReadFile(folder / "a.xlsx"), "old");
   EXPECT_THROW(WriteWorkbook(folder / "none/a.xlsx", Sheet()), Refused);
   folder.Write("file", "");

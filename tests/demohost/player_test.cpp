@@ -111,6 +111,7 @@ class PlayerTest : public testing::Test {
     Operator hand(
         {[this](const QString& item) { picked_ << item; }, [this](const QString& name) { picked_ << name; },
          [this](const QString& name, int size) { picked_ << name + QString::number(size); },
+         [this](const QString& what, const QString& key) { picked_ << what + key; },
          [this]() -> QWidget* { return screen_.isVisible() ? &screen_ : nullptr; }},
         out);
     Player player(ParseScript(script), hand);
