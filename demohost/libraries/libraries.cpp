@@ -1,26 +1,27 @@
 #include "demohost/libraries/libraries.h"
 
 namespace demohost {
-namespace {
 
-norvik_handle Register(const std::vector<norvik_ordinal>& table) {
-  return norvik_module_register(table.data(), table.size());
-}
+const std::array<HostLibrary, 6> kHostLibraries = {{
+    {"public information", nullptr, &PublicInformationTable},
+    {"translation", "HANDLE_TRANSLATE", &TranslateTable},
+    {"errors", "HANDLE_ERROR", &ErrorTable},
+    {"print", "HANDLE_PRINT", &PrintTable},
+    {"secure communication", "HANDLE_SAFECOM", &SecureCommunicationTable},
+    {"spreadsheet", "HANDLE_EXCEL", &SpreadsheetTable},
+}};
 
-}  // namespace
-
-Libraries::Libraries(Services services) {
+Libraries::Libraries(Services services, std::optional<MissingFunction> missing) {
   CurrentServices() = std::move(services);
-  public_information_ = Register(PublicInformationTable());
-  modules_.push_back(public_information_);
-  const std::pair<const char*, std::vector<norvik_ordinal>> others[] = {
-      {"HANDLE_TRANSLATE", TranslateTable()}, {"HANDLE_ERROR", ErrorTable()},
-      {"HANDLE_PRINT", PrintTable()},         {"HANDLE_SAFECOM", SecureCommunicationTable()},
-      {"HANDLE_EXCEL", SpreadsheetTable()},
-  };
-  for (const auto& [key, table] : others) {
-    modules_.push_back(Register(table));
-    CurrentServices().store->SetHandle(key, modules_.back());
+  for (std::size_t library = 0; library < kHostLibraries.size(); ++library) {
+    std::vector<norvik_ordinal> table = kHostLibraries[library].table();
+    if (missing && missing->library == library) {
+      std::erase_if(table, [&](const norvik_ordinal& entry) { return entry.ordinal == missing->ordinal; });
+    }
+    modules_.push_back(norvik_module_register(table.data(), table.size()));
+    if (const char* key = kHostLibraries[library].handle_key) {
+      CurrentServices().store->SetHandle(key, modules_.back());
+    }
   }
 }
 

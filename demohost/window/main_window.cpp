@@ -14,15 +14,11 @@
 #include "demohost/client_data.h"
 #include "demohost/host_words.h"
 #include "demohost/texts.h"
+#include "demohost/window/form_messages.h"
 
 namespace demohost {
 namespace {
 
-// Messages of the module's forms: a desktop shortcut is wanted; a form was shown, closed, activated.
-constexpr std::uint32_t kShortcut = 0x7FC;
-constexpr std::uint32_t kShown = 0x824;
-constexpr std::uint32_t kClosed = 0x825;
-constexpr std::uint32_t kActivated = 0x826;
 // The system command that brings a window back, and its parameter.
 constexpr std::uint32_t kSystemCommand = 274;
 constexpr std::uintptr_t kRestore = 61728;
@@ -64,16 +60,16 @@ void MainWindow::Tell(const QString& text) {
 intptr_t MainWindow::Procedure(void* context, uint32_t message, uintptr_t wparam, intptr_t) {
   auto* window = static_cast<MainWindow*>(context);
   switch (message) {
-    case kShortcut:
+    case form_message::kShortcut:
       window->actions_.make_shortcut();
       return 1;
-    case kShown:
+    case form_message::kShown:
       window->forms_.Shown(wparam);
       break;
-    case kClosed:
+    case form_message::kClosed:
       window->forms_.Closed(wparam);
       break;
-    case kActivated:
+    case form_message::kActivated:
       window->forms_.Activated(wparam);
       break;
     default:
