@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "demohost/check/check.h"
 #include "demohost/client.h"
 #include "demohost/script/player.h"
 #include "demohost/text_file.h"
@@ -81,6 +82,10 @@ int main(int argc, char** argv) {
     options = demohost::ParseOptions(Arguments(argc, argv), message);
     std::cout << message.toStdString();
     if (!options) return EXIT_SUCCESS;
+    if (!options->check.empty()) {
+      qInstallMessageHandler(&LogQuietly);
+      return demohost::check::Run(*options);
+    }
     ChoosePlatform(*options);
     // The options are this program's own; Qt gets none of them.
     int none = 1;

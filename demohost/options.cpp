@@ -9,6 +9,13 @@
 namespace demohost {
 namespace {
 
+// How the check starts the process of a case.
+QCommandLineOption CheckFolder() {
+  QCommandLineOption option("check-folder", {}, "folder");
+  option.setFlags(QCommandLineOption::HiddenFromHelp);
+  return option;
+}
+
 const QList<QCommandLineOption>& Known() {
   static const QList<QCommandLineOption> kKnown = {
       {"script", "Play an operator's script; - reads it from the standard input.", "file"},
@@ -25,6 +32,10 @@ const QList<QCommandLineOption>& Known() {
       {"directory-delay", "How much longer the bank directory takes to fill, milliseconds (0).", "ms"},
       {"language", "The language of this run: \"Simplified Chinese\", \"Traditional Chinese\" or English.",
        "name"},
+      {"check", "Check a module against the contract with a host, instead of running a client.", "module"},
+      {"case", "The only case of the check to play.", "name"},
+      {"limit", "How long a case of the check may take, seconds (20).", "s"},
+      CheckFolder(),
       {{"h", "help"}, "Show this help."},
       {{"v", "version"}, "Show the version."},
   };
@@ -100,6 +111,10 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString& messa
   options.delay = MillisecondsOr(parser, "delay", 0);
   options.directory_delay = MillisecondsOr(parser, "directory-delay", 0);
   options.patience = MillisecondsOr(parser, "patience", options.patience);
+  if (parser.isSet("check")) options.check = PathOr(parser, "check", {});
+  options.check_case = parser.value("case").toStdString();
+  options.check_limit = static_cast<int>(NumberOr(parser, "limit", options.check_limit, 3600));
+  options.check_folder = PathOf(parser.value("check-folder"));
   options.script = parser.value("script");
   options.open = parser.value("open").toStdString();
   options.language = parser.value("language").toStdString();

@@ -27,6 +27,11 @@ struct Options {
   QString script;           // a script's file, "-" for the standard input, empty for none
   std::string open;         // a menu item to open at start
   std::string language;     // instead of the saved one, for this run
+
+  std::filesystem::path check;         // the module to check against the contract; empty for no check
+  std::string check_case;              // the only case to play; empty for all
+  int check_limit = 20;                // seconds that a case may take
+  std::filesystem::path check_folder;  // set in the process of a case: its files
 };
 
 // The command line is wrong; what() says how, in UTF-8.

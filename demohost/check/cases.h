@@ -1,0 +1,52 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "demohost/check/case_run.h"
+
+namespace demohost::check {
+
+// A named case of the check.
+struct Case {
+  const char* name;
+  const char* sentence;        // what holds for a module that passes
+  const char* needs;           // the case before it without which it is skipped; "" for none
+  void (*play)(CaseRun& run);  // fails through `run`, or returns
+  int time = 1;                // how many times the limit it may take
+  bool for_each_item = false;  // one for each item of the menu, whose name follows `name`
+};
+
+// The order in which they are played.
+std::span<const Case> Cases();
+
+// The case of a name and the item in that name; null if there is none.
+struct NamedCase {
+  const Case* found;
+  std::string item;
+};
+NamedCase FindCase(std::string_view name);
+
+// What the cases do; the sentence of each stands in Cases().
+void Load(CaseRun& run);
+void Exports(CaseRun& run);
+void Start(CaseRun& run);
+// library: its place in kHostLibraries.
+void StartWithout(CaseRun& run, std::size_t library);
+void MenuText(CaseRun& run);
+void MenuOwnBuffers(CaseRun& run);
+void MenuHostBuffer(CaseRun& run);
+void FreeNull(CaseRun& run);
+void CallUnstarted(CaseRun& run);
+void CallBadRequest(CaseRun& run);
+void CallUnknown(CaseRun& run);
+void OpenItem(CaseRun& run);
+void ReleaseUnstarted(CaseRun& run);
+void ReleaseFailedStart(CaseRun& run);
+void ReleaseOpen(CaseRun& run);
+void ReleaseClosed(CaseRun& run);
+void ReleaseTwice(CaseRun& run);
+void Cycles(CaseRun& run);
+
+}  // namespace demohost::check

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QWidget>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "demohost/bank/bank.h"
+#include "demohost/bank_clock.h"
+#include "demohost/bank_directory.h"
+#include "demohost/client_data.h"
+#include "demohost/info_store.h"
+#include "demohost/libraries/libraries.h"
+#include "demohost/options.h"
+#include "demohost/output/output.h"
+#include "demohost/texts.h"
+
+namespace demohost::check {
+
+// Makes what all cases of a check share in the folder: the bank and the skins. Throws FileError,
+// DatabaseError or std::filesystem::filesystem_error.
+void PrepareFolder(const Options& options, const std::filesystem::path& folder);
+
+// The host that a case plays: everything that a module may ask for, a main window that isn't shown, and an
+// eye on the module's windows. Needs a QApplication.
+class CheckHost {
+ public:
+  // folder: one that PrepareFolder has made.
+  CheckHost(const Options& options, const std::filesystem::path& folder);
+  ~CheckHost();
+  CheckHost(const CheckHost&) = delete;
+  CheckHost& operator=(const CheckHost&) = delete;
+
+  // The handle that InitModule takes.
+  norvik_handle PublicInformation() const { return libraries_->PublicInformation(); }
+  // Registers the six libraries anew, whole or without one function; no module may hold them.
+  void RegisterLibraries(std::optional<MissingFunction> missing = std::nullopt);
+
+  // The module's windows: those that weren't there when this host was made; Shown are the visible ones.
+  std::vector<QWidget*> Windows() const;
+  std::vector<QWidget*> ShownWindows() const;
+  // How often the main window was sent a message.
+  int Told(std::uint32_t message) const;
+  // The forms that have a handle under their class names.
+  const std::set<std::string>& FormHandles() const { return form_handles_; }
+
+ private:
+  static intptr_t Procedure(void* context, uint32_t message, uintptr_t wparam, intptr_t lparam);
+
+  Texts texts_;
+  Tables tables_;
+  BankClock clock_;
+  Bank bank_;
+  BankDirectory directory_;
+  InfoStore store_;
+  Output output_;
+  QWidget window_;
+  norvik_handle window_handle_;
+  std::optional<Libraries> libraries_;
+  std::set<QWidget*> windows_of_host_;
+  std::map<std::uint32_t, int> told_;
+  std::set<std::string> form_handles_;
+};
+
+}  // namespace demohost::check
