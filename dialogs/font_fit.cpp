@@ -33,8 +33,10 @@ int TextHeight(const TControl& control, const std::string& text, int width, int 
 }
 
 void FitButton(TbsSkinButton& button, int leastWidth, int leastHeight) {
+  // A skin has a least width of its own, which it enforces when the button shows.
+  button.Widget()->ensurePolished();
   const QFontInfo font(button.Widget()->font());
-  button.SetWidth(
-      std::max(leastWidth, MetricsOf(button).horizontalAdvance(ToQt(button.Caption())) + 2 * kButtonSide));
+  const int text = MetricsOf(button).horizontalAdvance(ToQt(button.Caption())) + 2 * kButtonSide;
+  button.SetWidth(std::max({leastWidth, text, button.Widget()->sizeHint().width()}));
   button.SetHeight(std::max(leastHeight, font.pixelSize() + kButtonFrame));
 }
