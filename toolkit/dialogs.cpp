@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QPointer>
 
 #include "toolkit/application.h"
@@ -26,6 +28,16 @@ QStringList NameFilters(const QString& filter) {
   return names;
 }
 
+/// What a file is goes by its name: a look into the file could wait for ever where reading it waits.
+class NamedFiles : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& info) const override { return icon(info.isDir() ? Folder : File); }
+  QString type(const QFileInfo& info) const override {
+    return QMimeDatabase().mimeTypeForFile(info, QMimeDatabase::MatchExtension).comment();
+  }
+};
+
 }  // namespace
 
 std::string TSaveDialog::WithExtension(const std::string& name) const {
@@ -35,9 +47,11 @@ std::string TSaveDialog::WithExtension(const std::string& name) const {
 
 bool TSaveDialog::Execute(TForm* parent) {
   const QPointer<TSaveDialog> self(this);
+  NamedFiles files;
   const QPointer<QFileDialog> dialog(
       new QFileDialog(parent == nullptr ? QApplication::activeWindow() : parent->Widget()));
   const QStringList names = NameFilters(ToQt(filter_));
+  dialog->setIconProvider(&files);
   dialog->setObjectName(objectName());
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
@@ -53,7 +67,8 @@ bool TSaveDialog::Execute(TForm* parent) {
     FireEvent(OnTypeChange, this);
   });
   const bool accepted = dialog->exec() == QDialog::Accepted;
-  if (dialog == nullptr || self == nullptr) return false;
+  if (self == nullptr) delete dialog.data();
+  if (dialog == nullptr) return false;
   if (accepted) file_name_ = WithExtension(FromQt(dialog->selectedFiles().value(0)));
   delete dialog.data();
   return accepted;

@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -81,6 +83,25 @@ TEST(SaveDialog, AsksNothingAboutAnExistingFileAndLeavesItAlone) {
   dialog->SetFilter(Ansi(kFilter));
   EXPECT_TRUE(Play(dialog, 0, file.fileName(), true));
   EXPECT_EQ(file.size(), 4);
+}
+
+TEST(SaveDialog, ListsAFolderWithoutReadingItsFiles) {
+  const QString waits = "/proc/kmsg";  // a privileged reader waits in it for the next message
+  if (!QFileInfo::exists(waits)) GTEST_SKIP();
+  auto* dialog = NewComponent<TSaveDialog>(Application, "m_sdOutput");
+  dialog->SetFileName("/proc/bills.xls");
+  QString type;
+  QTimer look;
+  look.callOnTimeout([&] {
+    auto* shown = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(shown, nullptr);
+    const auto* files = shown->findChild<QFileSystemModel*>();
+    type = files->index(waits, 2).data().toString();
+    if (!type.isEmpty()) shown->reject();
+  });
+  look.start(5);
+  EXPECT_FALSE(dialog->Execute());
+  EXPECT_FALSE(type.isEmpty());
 }
 
 TEST(SaveDialog, ACancelKeepsTheNameOfBefore) {
