@@ -16,8 +16,8 @@ class Refused : public std::runtime_error {
   std::string Key() const { return what(); }
   const std::string& Detail() const { return detail_; }
 
-  // The key, and before it the detail as a line of its own where there is one: an error dialog shows the last line at
-  // once and the others on request.
+  // The key, and before it the detail as a line of its own where there is one: an error dialog shows the last
+  // line at once and the others on request.
   std::string Lines() const { return detail_.empty() ? Key() : detail_ + "\r\n" + Key(); }
 
  private:

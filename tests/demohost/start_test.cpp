@@ -70,7 +70,7 @@ TEST(Options, RefuseWhatTheyDoNotTake) {
   }
   QString message;
   EXPECT_FALSE(ParseOptions({"demohost", "--help"}, message));
-  EXPECT_TRUE(message.startsWith("Usage: demohost [options]")) << message.toStdString();
+  EXPECT_TRUE(message.startsWith("Usage: ")) << message.toStdString();
   EXPECT_FALSE(ParseOptions({"demohost", "--version"}, message));
 }
 
