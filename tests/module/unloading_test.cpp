@@ -17,21 +17,26 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
-// What the program holds of its allocator, in bytes, and how far both may grow in 900 lives: less than one
-// small object for each, since the allocator's own books waver.
+// What the program holds of its allocator, and of the system, in bytes.
 struct Memory {
   std::ptrdiff_t held;
   std::ptrdiff_t resident;
 };
 
-constexpr Memory kMostGrowth = {900 * 64, 2 << 20};
-
+// How far both may grow in 900 lives.
 #if defined(__SANITIZE_ADDRESS__)
-// Freed memory stays resident in the sanitizer's quarantine, so only what is held counts.
+// Here the C library's list of exit functions grows by some 600 bytes at each load, also of a library that is
+// loaded and never called; a lost object is found by the leak check at the end. Freed memory stays resident
+// in quarantine.
+constexpr Memory kMostGrowth = {900 * 1024, 1};
+
 Memory MemoryNow() {
   return {static_cast<std::ptrdiff_t>(__sanitizer_get_current_allocated_bytes()), 0};
 }
 #else
+// Less than one small object for each life; the allocator's own books waver.
+constexpr Memory kMostGrowth = {900 * 64, 2 << 20};
+
 std::ptrdiff_t ResidentBytes() {
   long total = 0;
   long resident = 0;
