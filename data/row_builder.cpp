@@ -14,13 +14,26 @@ void RowBuilder::reset(std::string_view name, const AttributeMap& attributes) {
 }
 
 void RowBuilder::addField(const Field& field) {
-  if (!general_ && !IsNext(field)) Generalize();
-  if (general_) {
-    row_.addField(field);
+  if (!field.hasExtra() && expects(field.name())) {
+    addExpected(field.getValue());
     return;
   }
-  bytes_ += field.getValue();
+  if (!general_) Generalize();
+  row_.addField(field);
+}
+
+bool RowBuilder::expects(std::string_view name) const {
+  const auto slot = static_cast<std::uint32_t>(ends_.size());
+  return !general_ && expected_ && slot < expected_->slotCount() && sameText(expected_->name(slot), name);
+}
+
+void RowBuilder::addExpected(std::string_view value) {
+  bytes_ += value;
   ends_.push_back(bytes_.size());
+}
+
+const std::string& RowBuilder::lastExpected() const {
+  return expected_->name(static_cast<std::uint32_t>(ends_.size() - 1));
 }
 
 Row RowBuilder::build() {
@@ -36,12 +49,6 @@ Row RowBuilder::build() {
   }
   expected_ = built.shape_;
   return built;
-}
-
-bool RowBuilder::IsNext(const Field& field) const {
-  const std::size_t slot = ends_.size();
-  return expected_ && slot < expected_->slotCount() && !field.hasExtra() &&
-         expected_->name(static_cast<std::uint32_t>(slot)) == field.name();
 }
 
 void RowBuilder::Generalize() {

@@ -19,11 +19,15 @@ class RowBuilder {
   void reset(std::string_view name, const AttributeMap& attributes);
   // Adds a column, or replaces it.
   void addField(const Field& field);
+  // True where the row before had a column `name` at this place, and the rows agree up to here.
+  bool expects(std::string_view name) const;
+  // Adds the column that is expected, and the name of the last one added so.
+  void addExpected(std::string_view value);
+  const std::string& lastExpected() const;
   // The row as it is; the builder keeps it until the next reset.
   Row build();
 
  private:
-  bool IsNext(const Field& field) const;
   // Goes on with a real row, which can have any columns.
   void Generalize();
 

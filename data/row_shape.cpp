@@ -10,13 +10,17 @@ namespace {
 std::size_t Hash(std::string_view key) {
   std::uint64_t head = 0;
   std::uint64_t tail = 0;
-  if (key.size() >= 8) {
+  const std::size_t size = key.size();
+  if (size >= 8) {
     std::memcpy(&head, key.data(), 8);
-    std::memcpy(&tail, key.data() + key.size() - 8, 8);
+    std::memcpy(&tail, key.data() + size - 8, 8);
+  } else if (size >= 4) {
+    std::memcpy(&head, key.data(), 4);
+    std::memcpy(&tail, key.data() + size - 4, 4);
   } else {
-    std::memcpy(&head, key.data(), key.size());
+    for (const char byte : key) head = head << 8 | static_cast<unsigned char>(byte);
   }
-  std::uint64_t mixed = (head ^ key.size()) * 0x9E3779B97F4A7C15U;
+  std::uint64_t mixed = (head ^ size) * 0x9E3779B97F4A7C15U;
   mixed = (mixed ^ mixed >> 29 ^ tail) * 0xBF58476D1CE4E5B9U;
   return static_cast<std::size_t>(mixed ^ mixed >> 32);
 }
@@ -28,7 +32,7 @@ std::uint32_t RowShape::find(std::string_view key) const {
   const std::size_t mask = table_.size() - 1;
   for (std::size_t at = Hash(key) & mask; table_[at] != 0; at = (at + 1) & mask) {
     const std::uint32_t slot = table_[at] - 1;
-    if (name(slot) == key) return slot;
+    if (sameText(name(slot), key)) return slot;
   }
   return kNoSlot;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,27 @@
 #include "data/shared.h"
 
 namespace corvane {
+
+// Whether two short texts are the same; names are compared so often that a call for each would show.
+inline bool sameText(std::string_view left, std::string_view right) {
+  const std::size_t size = left.size();
+  if (size != right.size()) return false;
+  const auto differ = [&](std::size_t at, auto word) {
+    auto other = word;
+    std::memcpy(&word, left.data() + at, sizeof word);
+    std::memcpy(&other, right.data() + at, sizeof other);
+    return word != other;
+  };
+  if (size >= 8) {
+    for (std::size_t at = 0; at + 8 < size; at += 8)
+      if (differ(at, std::uint64_t())) return false;
+    return !differ(size - 8, std::uint64_t());
+  }
+  if (size >= 4) return !differ(0, std::uint32_t()) && !differ(size - 4, std::uint32_t());
+  for (std::size_t at = 0; at < size; ++at)
+    if (left[at] != right[at]) return false;
+  return true;
+}
 
 // Which columns a row has, and in which slot of its cells each value lies. Rows of one list share a shape,
 // and so their names. A slot never changes while its column lives; the slot of a removed column serves the

@@ -18,7 +18,7 @@ bool SAXContentHandlerImpl::startElement(std::string_view, const AttributeMap&) 
 }
 
 bool SAXContentHandlerImpl::endElement(std::string_view) {
-  field.setValue(chars);
+  field.getValue().swap(chars);
   chars.clear();
   return true;
 }
@@ -76,16 +76,45 @@ bool RowSAXHandler::close(int level, std::string_view) {
   return level <= 2;
 }
 
+void RowsSAXHandler::openColumn(std::string_view localName, const AttributeMap& attributes) {
+  const bool expected = attributes.empty() && row_.expects(localName);
+  column_ = expected ? Column::kExpected : Column::kInField;
+  if (!expected) resetField(localName, attributes);
+}
+
+void RowsSAXHandler::closeColumn() {
+  if (column_ == Column::kExpected) {
+    row_.addExpected(field.getValue());
+    column_ = Column::kAdded;
+  } else {
+    row_.addField(closedField());
+  }
+}
+
+Row RowsSAXHandler::closeRow() {
+  closedField();
+  return row_.build();
+}
+
+const Field& RowsSAXHandler::closedField() {
+  if (column_ == Column::kAdded) {
+    field.Element::clear();
+    field.setName(row_.lastExpected());
+    column_ = Column::kInField;
+  }
+  return field;
+}
+
 bool ListSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
   switch (level) {
     case 1:
       reset(*target_, localName, attributes);
       return true;
     case 2:
-      row_.reset(localName, attributes);
+      openRow(localName, attributes);
       return true;
     case 3:
-      resetField(localName, attributes);
+      openColumn(localName, attributes);
       return true;
     default:
       return false;
@@ -93,8 +122,8 @@ bool ListSAXHandler::open(int level, std::string_view localName, const Attribute
 }
 
 bool ListSAXHandler::close(int level, std::string_view) {
-  if (level == 2) target_->addRow(row_.build());
-  if (level == 3) row_.addField(field);
+  if (level == 2) target_->addRow(closeRow());
+  if (level == 3) closeColumn();
   return level <= 3;
 }
 
@@ -105,9 +134,11 @@ bool CorvaneStreamSAXHandler::open(int level, std::string_view localName, const 
   else if (level == 2 && localName == "list")
     reset(list_, localName, attributes);
   else if (level <= 3 && localName == "row")
-    row_.reset(localName, attributes);
-  else
+    openRow(localName, attributes);
+  else if (level == 2)
     resetField(localName, attributes);
+  else
+    openColumn(localName, attributes);
   return true;
 }
 
@@ -115,13 +146,13 @@ bool CorvaneStreamSAXHandler::close(int level, std::string_view localName) {
   if (level == 2 && localName == "list")
     closeList();
   else if (level == 2 && localName == "row")
-    target_->addRow(row_.build());
+    target_->addRow(closeRow());
   else if (level == 2)
-    target_->addField(field);
+    target_->addField(closedField());
   else if (level == 3 && localName == "row")
-    list_.addRow(row_.build());
+    list_.addRow(closeRow());
   else if (level == 3 || level == 4)
-    row_.addField(field);
+    closeColumn();
   return level <= 4;
 }
 
@@ -157,9 +188,9 @@ bool IniplusSAXHandler::open(int level, std::string_view localName, const Attrib
   else if (level == 2 && localName == "section")
     reset(section_, localName, attributes);
   else if (level == 3 && localName == "row")
-    row_.reset(localName, attributes);
+    openRow(localName, attributes);
   else if (level == 4)
-    resetField(localName, attributes);
+    openColumn(localName, attributes);
   else
     return false;
   return true;
@@ -167,8 +198,8 @@ bool IniplusSAXHandler::open(int level, std::string_view localName, const Attrib
 
 bool IniplusSAXHandler::close(int level, std::string_view) {
   if (level == 2) target_->addSection(std::move(section_));
-  if (level == 3) section_.addRow(row_.build());
-  if (level == 4) row_.addField(field);
+  if (level == 3) section_.addRow(closeRow());
+  if (level == 4) closeColumn();
   return level <= 4;
 }
 

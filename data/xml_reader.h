@@ -90,9 +90,31 @@ class RowSAXHandler : public DocumentSAXHandler {
   Row* target_;
 };
 
-class ListSAXHandler : public DocumentSAXHandler {
+// The handler of a class of documents that holds rows. A column that the row before had at the same place
+// goes to the row without passing through `field`, which learns its name only where that is asked for.
+class RowsSAXHandler : public DocumentSAXHandler {
+ protected:
+  using DocumentSAXHandler::DocumentSAXHandler;
+  void openRow(std::string_view localName, const AttributeMap& attributes) {
+    row_.reset(localName, attributes);
+  }
+  void openColumn(std::string_view localName, const AttributeMap& attributes);
+  // Adds the element that has ended to the row.
+  void closeColumn();
+  Row closeRow();
+  // The element that has ended, by name and value.
+  const Field& closedField();
+
+ private:
+  enum class Column : unsigned char { kInField, kExpected, kAdded };
+
+  RowBuilder row_;
+  Column column_ = Column::kInField;  // kAdded: ended and added, its name still missing in `field`
+};
+
+class ListSAXHandler : public RowsSAXHandler {
  public:
-  explicit ListSAXHandler(List* target) : DocumentSAXHandler(target), target_(target) {}
+  explicit ListSAXHandler(List* target) : RowsSAXHandler(target), target_(target) {}
 
  protected:
   bool open(int level, std::string_view localName, const AttributeMap& attributes) override;
@@ -100,12 +122,11 @@ class ListSAXHandler : public DocumentSAXHandler {
 
  private:
   List* target_;
-  RowBuilder row_;
 };
 
-class CorvaneStreamSAXHandler : public DocumentSAXHandler {
+class CorvaneStreamSAXHandler : public RowsSAXHandler {
  public:
-  explicit CorvaneStreamSAXHandler(CorvaneStream* target) : DocumentSAXHandler(target), target_(target) {}
+  explicit CorvaneStreamSAXHandler(CorvaneStream* target) : RowsSAXHandler(target), target_(target) {}
 
  protected:
   bool open(int level, std::string_view localName, const AttributeMap& attributes) override;
@@ -115,7 +136,6 @@ class CorvaneStreamSAXHandler : public DocumentSAXHandler {
   void closeList();
 
   CorvaneStream* target_;
-  RowBuilder row_;
   List list_;
 };
 
@@ -132,9 +152,9 @@ class IniSAXHandler : public DocumentSAXHandler {
   IniSection section_;
 };
 
-class IniplusSAXHandler : public DocumentSAXHandler {
+class IniplusSAXHandler : public RowsSAXHandler {
  public:
-  explicit IniplusSAXHandler(Iniplus* target) : DocumentSAXHandler(target), target_(target) {}
+  explicit IniplusSAXHandler(Iniplus* target) : RowsSAXHandler(target), target_(target) {}
 
  protected:
   bool open(int level, std::string_view localName, const AttributeMap& attributes) override;
@@ -143,7 +163,6 @@ class IniplusSAXHandler : public DocumentSAXHandler {
  private:
   Iniplus* target_;
   IniplusSection section_;
-  RowBuilder row_;
 };
 
 // What became of a reading: the key, and for a person the place in the text and the reason.

@@ -217,6 +217,40 @@ void NarrowCharacter(const CodePage& page, Utf8Character character, std::string&
     AppendCode(code, out);
 }
 
+// The code of a character of UTF-8; 0 where the page lacks it. A character never takes more bytes in a page
+// than in UTF-8.
+unsigned NarrowCode(const CodePage& page, std::string_view utf8, std::size_t& at) {
+  const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(utf8[at + offset]); };
+  // Most are of three bytes; E0 and ED, which don't go with every second byte, take the long way.
+  if (at + 3 <= utf8.size() && byte(0) > 0xE0 && byte(0) < 0xF0 && byte(0) != 0xED &&
+      (byte(1) & 0xC0) == 0x80 && (byte(2) & 0xC0) == 0x80) {
+    const unsigned unit = (byte(0) & 0x0FU) << 12 | (byte(1) & 0x3FU) << 6 | (byte(2) & 0x3FU);
+    at += 3;
+    return page.code[unit];
+  }
+  const Utf8Character character = Utf8At(utf8, at);
+  at += character.size;
+  return character.valid && character.value < 0x10000 ? page.code[character.value] : 0U;
+}
+
+void AppendNarrow(const CodePage& page, std::string_view utf8, std::string& out) {
+  const std::size_t before = out.size();
+  out.resize(before + utf8.size());
+  char* to = out.data() + before;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const std::size_t plain = AsciiRun(utf8.substr(at));
+    std::memcpy(to, utf8.data() + at, plain);
+    to += plain;
+    at += plain;
+    while (at < utf8.size() && static_cast<signed char>(utf8[at]) < 0) {
+      const unsigned code = NarrowCode(page, utf8, at);
+      if (code > 0xFF) *to++ = static_cast<char>(code >> 8);
+      *to++ = code == 0 ? '?' : static_cast<char>(code & 0xFF);
+    }
+  }
+  out.resize(static_cast<std::size_t>(to - out.data()));
+}
+
 std::size_t DecodeValidUtf8(std::string_view text, std::size_t& at, std::size_t end, char* out) {
   char* to = out;
   while (at < end) {
@@ -291,20 +325,17 @@ std::string AnsiFromUtf8(std::string_view utf8) {
 
 void AppendAnsiFromUtf8(std::string_view utf8, std::string& out) {
   const CodePage* page = TablesFor(0);
+  if (page) {
+    AppendNarrow(*page, utf8, out);
+    return;
+  }
   for (std::size_t at = 0; at < utf8.size();) {
-    const std::size_t plain = AsciiRun(utf8.substr(at));
-    out.append(utf8.data() + at, plain);
-    at += plain;
-    while (at < utf8.size() && static_cast<signed char>(utf8[at]) < 0) {
-      const Utf8Character character = Utf8At(utf8, at);
-      if (page)
-        NarrowCharacter(*page, character, out);
-      else if (character.valid)
-        out.append(utf8.data() + at, character.size);
-      else
-        out += "\xEF\xBF\xBD";
-      at += character.size;
-    }
+    const Utf8Character character = Utf8At(utf8, at);
+    if (character.valid)
+      out.append(utf8.data() + at, character.size);
+    else
+      out += "\xEF\xBF\xBD";
+    at += character.size;
   }
 }
 
@@ -339,6 +370,13 @@ std::size_t AsciiRun(std::string_view text) {
     std::memcpy(&word, text.data() + at, sizeof word);
     word &= 0x8080808080808080U;
     if (word != 0) return at + static_cast<std::size_t>(std::countr_zero(word)) / 8;
+  }
+  if (at + 4 <= text.size()) {
+    std::uint32_t word = 0;
+    std::memcpy(&word, text.data() + at, sizeof word);
+    word &= 0x80808080U;
+    if (word != 0) return at + static_cast<std::size_t>(std::countr_zero(word)) / 8;
+    at += 4;
   }
   while (at < text.size() && static_cast<signed char>(text[at]) >= 0) ++at;
   return at;

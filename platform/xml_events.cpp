@@ -18,10 +18,12 @@ namespace {
 constexpr char kSeparator = '\x01';
 constexpr std::size_t kPiece = 64 * 1024;
 
+// Names are short: a loop over the bytes costs less than calls that look for the two ends.
 std::string_view LocalName(const char* name) {
-  const char* uriEnd = std::strchr(name, kSeparator);
-  if (!uriEnd) return name;
-  const char* local = uriEnd + 1;
+  const char* end = name;
+  while (*end && *end != kSeparator) ++end;
+  if (!*end) return {name, static_cast<std::size_t>(end - name)};
+  const char* local = end + 1;
   const char* localEnd = std::strchr(local, kSeparator);
   return localEnd ? std::string_view(local, static_cast<std::size_t>(localEnd - local))
                   : std::string_view(local);

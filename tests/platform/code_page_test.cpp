@@ -70,6 +70,20 @@ TEST(CodePage, HasOneRuleForWhatItLacks) {
   }
 }
 
+TEST(CodePage, NarrowsUtf8OfAnyKind) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"\xE4\xBD\xA0z\xE5\xA5\xBD", "\xC4\xE3z\xBA\xC3"},
+      {"\xE0\x80\xAF", "???"},
+      {"\xED\xA0\x80", "???"},
+      {"\xE4\xBD", "??"},
+      {"\xE4z\xBD", "?z?"},
+      {"\xEF\xBF\xBF", "?"},
+      {"\xF0\x9F\x98\x80", "?"},
+      {"abcdefghijk\xC2\xB7", "abcdefghijk\xA1\xA4"},
+  };
+  for (const auto& [utf8, narrow] : cases) EXPECT_EQ(AnsiFromUtf8(utf8), narrow) << utf8;
+}
+
 TEST(CodePage, BringsEveryCharacterOf936BackByteForByte) {
   int pairs = 0;
   int backslashes = 0;
