@@ -48,21 +48,21 @@ void CMInterface::InitListColumns(TKVXListView* listView, const std::string& cla
 void CMInterface::AddListColumn(TKVXListView* listView, corvane::Row& fieldDef, corvane::Row& columnRow,
                                 std::string& caption) {
   TListColumn* column = listView->Columns().Add();
-  listView->ColumnIds().push_back(fieldDef["COLID"]);
+  listView->ColumnIds().push_back(fieldDef.getValue("COLID"));
   caption.clear();
-  if (fieldDef["DISPLAY"] == norvik::kDataColumnKey) {
+  if (fieldDef.getValue("DISPLAY") == norvik::kDataColumnKey) {
     column->SetMaxWidth(1);
   } else {
-    columnRow["COLID"] = fieldDef["COLID"];
-    caption = g_pTranslate->Translate(fieldDef["DISPLAY"]);
+    columnRow["COLID"] = fieldDef.getValue("COLID");
+    caption = g_pTranslate->Translate(fieldDef.getValue("DISPLAY"));
     column->SetCaption(caption);
   }
-  column->SetWidth(StrToInt(fieldDef["WIDTH"]));
+  column->SetWidth(StrToInt(fieldDef.getValue("WIDTH")));
   if (column->Width() == 0 && !caption.empty()) {
     column->SetMaxWidth(1);
     fieldDef["COLFMT"] = "X";
   }
-  column->SetAlignment(AlignmentOf(fieldDef["ALIGN"]));
+  column->SetAlignment(AlignmentOf(fieldDef.getValue("ALIGN")));
   column->SetTag(norvik::ColumnTag(fieldDef["COLFMT"]));
 }
 

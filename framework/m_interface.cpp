@@ -104,7 +104,7 @@ void CMInterface::LoadBusinessFlows(const char* bsnCode) {
       corvane::Row flow;
       flow["FLOWID"] = Value(businesses[i], "FLOWID");
       for (unsigned j = 0; j < operations.size(); ++j) {
-        if (Value(operations[j], "FLOWID") != flow["FLOWID"]) continue;
+        if (Value(operations[j], "FLOWID") != flow.getValue("FLOWID")) continue;
         m_flows.addRow(flow);
         (Value(operations[j], "PSTCLASS") == "01" ? m_flowsPrimary : m_flowsOther).addRow(flow);
       }

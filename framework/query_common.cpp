@@ -72,13 +72,13 @@ void CQueryCommon::LoadAccountCombo(TKVXComboBox* combo, bool withPrompt) {
   try {
     corvane::List accounts = g_pPubInfo->GetList("CMLGBSNACC");
     corvane::StringVector flows;
-    for (unsigned i = 0; i < m_flows.size(); ++i) flows.push_back(m_flows[i]["FLOWID"]);
+    for (unsigned i = 0; i < m_flows.size(); ++i) flows.push_back(m_flows[i].getValue("FLOWID"));
     corvane::List reached = accounts.select("FLOWID", flows);
     const std::string firstEntry = g_pTranslate->Translate(withPrompt ? "UI54176" : "UI53241");
     combo->Clear();
     for (unsigned i = 0; i < reached.size(); ++i) {
-      const std::string number = reached[i]["ACCNO"];
-      const std::string name = reached[i]["ACCNM"];
+      const std::string number = reached[i].getValue("ACCNO");
+      const std::string name = reached[i].getValue("ACCNM");
       if (combo->FindKeyIndex(number) >= 0) continue;
       combo->Keys().Add(number);
       combo->Names().Add(name);

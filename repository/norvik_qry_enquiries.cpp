@@ -51,8 +51,8 @@ void TfrmNorvikQry::Enquire(const Enquiry& enquiry) {
   for (const char* field : {kBillId, kAccount, enquiry.numberField}) {
     fields[field] = m_selectedRow.getValue(field);
   }
-  const bool identified = !fields[kBillId].empty();
-  if (!identified && !(enquiry.byNumber && !fields[enquiry.numberField].empty())) {
+  const bool identified = !fields.getValue(kBillId).empty();
+  if (!identified && !(enquiry.byNumber && !fields.getValue(enquiry.numberField).empty())) {
     Refuse(enquiry.missingKey);
     return;
   }

@@ -75,7 +75,7 @@ void StopModule() {
 
 void CallItem(const std::string& request) {
   corvane::Row row(request);
-  const std::string name = row["ItemName"];
+  const std::string name = row.getValue("ItemName");
   const auto menu = Menu();
   const auto picked =
       std::find_if(menu.begin(), menu.end(), [&](const MenuItem& item) { return item.item == name; });
