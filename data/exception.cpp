@@ -17,8 +17,8 @@ StringVector TException::getErrors() const {
 }
 
 void TException::addErrors(const StringVector& texts) {
-  const StringVector more = texts;  // `texts` may be this exception's own
-  errors_.insert(errors_.end(), more.begin(), more.end());
+  const std::size_t count = texts.size();  // `texts` may be this exception's own
+  for (std::size_t at = 0; at < count; ++at) errors_.push_back(texts[at]);
 }
 
 std::string TException::getMessage(std::string_view separator, bool trailing) const {

@@ -153,6 +153,7 @@ Property::Property(const Row& row) : Row(PropertyTag()) {
   copyContent(row);
 }
 
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): tag and encoding of a copy are a plain row's
 Property::Property(const Property& other) : Row() {
   copyContent(other);
 }

@@ -50,7 +50,7 @@ std::filesystem::path WriteShortcut(const std::filesystem::path& folder, const s
                      "\nExec=" + Value(Argument(program.string()) + " --open " + shortcut.item) +
                      "\nTerminal=false\n";
   if (!shortcut.icon.empty()) text += "Icon=" + Value(shortcut.icon) + "\n";
-  const std::filesystem::path file = folder / ("norvik-" + shortcut.item + ".desktop");
+  std::filesystem::path file = folder / ("norvik-" + shortcut.item + ".desktop");
   ReplaceFile(file, text);
   std::error_code ignored;
   std::filesystem::permissions(file, std::filesystem::perms::owner_exec, std::filesystem::perm_options::add,

@@ -16,7 +16,7 @@ std::map<std::string, QPointer<TBarForm>> g_bars;
 QPointer<TWaitForm> g_wait;
 
 // Messages are pumped here, so the form may have gone with its owner behind each step.
-void TakeAway(QPointer<TBusyForm> form) {
+void TakeAway(const QPointer<TBusyForm>& form) {
   if (form.isNull()) return;
   form->End();
   DestroyForm(form);

@@ -19,7 +19,7 @@ std::string Value(const corvane::Row& row, const std::string& key) {
 // The texts of a dictionary's codes, each asked of the host when it is first needed.
 class CodeTexts {
  public:
-  explicit CodeTexts(corvane::List dictionary) {
+  explicit CodeTexts(const corvane::List& dictionary) {
     // The first of two rows of one code counts.
     for (const corvane::Row& row : dictionary)
       m_entries.try_emplace(Value(row, "TYPEKEY"), Value(row, "TYPE"));

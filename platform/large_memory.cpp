@@ -12,7 +12,7 @@ void PreferLargePages(void* memory, std::size_t size) {
   const auto begin = reinterpret_cast<std::uintptr_t>(memory);
   const std::uintptr_t first = (begin + kLargePage - 1) / kLargePage * kLargePage;
   const std::uintptr_t last = (begin + size) / kLargePage * kLargePage;
-  madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+  madvise(static_cast<char*>(memory) + (first - begin), last - first, MADV_HUGEPAGE);
 }
 
 }  // namespace norvik

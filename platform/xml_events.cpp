@@ -16,7 +16,7 @@ namespace {
 
 // Stands between the parts of a name that expat reports; XML can't contain it.
 constexpr char kSeparator = '\x01';
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} * 1024;
 
 // Names are short: a loop over the bytes costs less than calls that look for the two ends.
 std::string_view LocalName(const char* name) {

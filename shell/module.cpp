@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <utility>
 
 #include "dialogs/bank_info.h"
 #include "dialogs/messages.h"
@@ -24,7 +25,7 @@ bool g_started = false;
 
 void ReportEscaped(TObject*, std::exception_ptr error) {
   try {
-    std::rethrow_exception(error);
+    std::rethrow_exception(std::move(error));
   } catch (const corvane::TException& exception) {
     ReportException(exception);
   } catch (const std::exception& exception) {

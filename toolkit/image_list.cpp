@@ -29,7 +29,7 @@ class PictureEngine : public QIconEngine {
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
-    const QPixmap picture = make_(size);
+    QPixmap picture = make_(size);
     if (mode == QIcon::Normal || mode == QIcon::Active) return picture;
     QStyleOption option;
     option.palette = QGuiApplication::palette();

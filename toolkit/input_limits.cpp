@@ -73,7 +73,7 @@ QString LimitInput(const TInputLimits& limits, const QString& before, const QStr
     length += bytes;
     count += characters;
   }
-  const QString result = head + kept + tail;
+  QString result = head + kept + tail;
   if (!Accepts(limits, result) && Accepts(limits, before)) return before;
   cursor = static_cast<int>(head.size() + kept.size());
   return result;

@@ -8,6 +8,7 @@ corvane::List ResultList(Statement& statement) {
   corvane::List list;
   list.setAttribute("name", "resultList");
   std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(statement.ColumnCount()));
   for (int column = 0; column < statement.ColumnCount(); ++column)
     names.push_back(statement.ColumnName(column));
   while (statement.Step()) {

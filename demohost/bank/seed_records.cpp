@@ -154,7 +154,7 @@ void Filler::AddBill(Insert& bills, std::int64_t id) {
                                     : random_.Chance(50) ? "EUR"
                                                          : "HKD";
   // Amounts from a thousand to some forty million; every third is a round one.
-  std::int64_t cents = (1000 + random_.Below(9000)) * 100;
+  std::int64_t cents = (std::int64_t{1000} + random_.Below(9000)) * 100;
   for (std::uint32_t power = random_.Below(4); power > 0; --power) cents *= 1 + random_.Below(16);
   cents += random_.Chance(33) ? 0 : random_.Below(10000);
   const Party drawer = Firm();
@@ -170,7 +170,7 @@ void Filler::AddBill(Insert& bills, std::int64_t id) {
         "3" + Digits("%07lld", 131000 + id % 977) + Digits("%08lld", 20000000 + id),
         has_bill_id ? Digits("%lld", 10000000 + id) : std::string(),
         has_enquiry ? Digits("QN%010lld", 4400000 + id) : std::string(), type,
-        Join({"PC", DayText(saved)}) + Digits("%04lld", id % account.number.size() + id % 37),
+        Join({"PC", DayText(saved)}) + Digits("%04lld", id % std::ssize(account.number) + id % 37),
         Code("AGENTSTT", id), currency, cents, DayText(issued), DayText(due), DayText(saved), drawer.name,
         drawer.account, payee.name, payee_bank.name, payee.account, payer.name, payer.account,
         by_bank ? payer_bank.number : std::string(), by_bank ? payer_bank.name : std::string(),

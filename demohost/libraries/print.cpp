@@ -62,7 +62,7 @@ ReportPaper ChosenPaper() {
 std::filesystem::path FileFor(const std::string& name) {
   const std::filesystem::path& folder = CurrentServices().output->print_folder;
   for (int number = 1;; ++number) {
-    const std::filesystem::path file = folder / (name + "-" + std::to_string(number) + ".pdf");
+    std::filesystem::path file = folder / (name + "-" + std::to_string(number) + ".pdf");
     if (!std::filesystem::exists(file)) return file;
   }
 }
