@@ -9,18 +9,24 @@ bool IsAscii(std::string_view text) {
   return norvik::AsciiRun(text) == text.size();
 }
 
+// The first start of a character at or behind `goal`, going from `at`, which is one.
+std::size_t StepTo(std::string_view text, std::size_t at, std::size_t goal) {
+  while (at < goal) at += norvik::CharacterLength(text, at);
+  return at;
+}
+
 }  // namespace
 
 std::size_t findText(std::string_view text, std::string_view what, std::size_t from) {
   if (what.empty() || from > text.size()) return std::string_view::npos;
-  std::size_t hit = text.find(what, from);
-  if (hit == std::string_view::npos || !norvik::IsDoubleByteCodePage()) return hit;
   std::size_t at = from;
-  while (hit != std::string_view::npos) {
-    if (at == from && IsAscii(text.substr(from, hit - from))) at = hit;
-    while (at < hit) at += norvik::CharacterLength(text, at);
-    if (at == hit) return hit;
-    hit = text.find(what, at);
+  std::size_t hit = text.find(what, at);
+  for (; hit != std::string_view::npos; hit = text.find(what, at)) {
+    if (IsAscii(text.substr(at, hit - at))) at = hit;
+    at = StepTo(text, at, hit);
+    if (at != hit) continue;
+    if (StepTo(text, hit, hit + what.size()) == hit + what.size()) return hit;
+    at += norvik::CharacterLength(text, at);
   }
   return hit;
 }

@@ -11,7 +11,7 @@
 
 namespace corvane {
 
-// The position of the first `what` at or behind `from` that starts where a character of `text` starts, or
+// The position of the first `what` at or behind `from` that starts and ends where characters of `text` do, or
 // npos. `from` is the start of a character; an empty `what` is never found.
 std::size_t findText(std::string_view text, std::string_view what, std::size_t from = 0);
 

@@ -88,6 +88,12 @@ TEST(Text, StepsByCharacter) {
   EXPECT_EQ(findText(kBar + "|", "|"), 2U);
   EXPECT_EQ(findText("\x81|", "|"), std::string::npos);
   EXPECT_EQ(findText("\xFF|", "|"), 1U);
+  EXPECT_EQ(findText(kLetter + "\x81\x81", "\x81"), std::string::npos);
+  EXPECT_EQ(findText(kLetter + "\x81", "\x81"), 2U);
+  norvik::SetAnsiCodePage(65001);
+  EXPECT_EQ(findText("你\xBD", "\xBD"), 3U);
+  EXPECT_EQ(findText("a你", "\xE4"), std::string::npos);
+  norvik::SetAnsiCodePage(936);
   EXPECT_EQ(findText("aa", "", 0), std::string::npos);
   EXPECT_EQ(findText("a", "a", 2), std::string::npos);
   struct Case {
