@@ -36,10 +36,10 @@ struct LabelPlace {
 };
 
 LabelPlace FindLabel(std::string_view text) {
-  constexpr std::string_view kOpen = "<?xml ";
+  constexpr std::string_view kOpen = "<?xml";
   constexpr std::string_view kName = "encoding";
   constexpr std::string_view kBlanks = " \t\r\n";
-  if (!text.starts_with(kOpen)) return {};
+  if (!text.starts_with(kOpen) || text.find_first_of(kBlanks, kOpen.size()) != kOpen.size()) return {};
   const std::string_view prolog = text.substr(0, text.find("?>"));
   const std::size_t name = prolog.find(kName);
   if (name == std::string_view::npos) return {};

@@ -51,6 +51,7 @@ TEST(XmlEvents, ReadsWhatIsWellFormed) {
       {"<?xml version=\"1.0\" encoding=\"\"?><a/>", "<a></a>"},
       {"<?xml version=\"1.0\" encoding=\"'GBK'\" ?><a/>", "<a></a>"},
       {"<?xml version='1.0' encoding='no such label'?><a>\xC4\xE3</a>", "<a>你</a>"},
+      {"<?xml\tversion='1.0'\r\nencoding = '-' ?><a/>", "<a></a>"},
       {"<x:a xmlns:x='u' xmlns='v' x:b='1' c='2'><d/></x:a>", "<a x:b='1' c='2'><d></d></a>"},
       {"<a xml:lang='zh'/>", "<a xml:lang='zh'></a>"},
       {"<a>1 &lt;&amp;&#x4F60;<![CDATA[<>]]></a>", "<a>1 <&你<></a>"},
