@@ -3,11 +3,14 @@
 #include <expat.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <exception>
 #include <limits>
 #include <memory>
 #include <new>
+#include <set>
+#include <utility>
 
 #include "platform/code_page.h"
 
@@ -60,6 +63,8 @@ bool IsLabel(std::string_view label) {
   return !label.empty() && letter(label[0]) && std::all_of(label.begin(), label.end(), inside);
 }
 
+constexpr const char* kUndeclared = "reference to an entity that is not declared";
+
 class Reading {
  public:
   Reading(std::string_view text, XmlEvents& events);
@@ -76,10 +81,12 @@ class Reading {
   static void Start(void* self, const char* name, const char** attributes);
   static void End(void* self, const char* name);
   static void Text(void* self, const char* text, int size);
-  static void Entity(void* self, const char*, int, const char*, int, const char*, const char*, const char*,
-                     const char*);
+  static void Entity(void* self, const char* name, int parameter, const char*, int, const char*, const char*,
+                     const char*, const char*);
+  static int Incomplete(void* self);
   static int External(XML_Parser parser, const char*, const char*, const char*, const char*);
   static void Skipped(void* self, const char*, int);
+  bool RefersToUndeclared() const;
   bool PassLabel();
   bool Feed();
   XmlResult Failure() const;
@@ -90,6 +97,8 @@ class Reading {
   std::size_t at_ = 0;
   std::size_t fed_ = 0;  // bytes of UTF-8 given to expat
   unsigned entities_ = 0;
+  std::set<std::string, std::less<>> declared_;  // names of entities
+  bool incomplete_ = false;                      // declarations were not read
   bool stopped_ = false;
   const char* reason_ = nullptr;
   unsigned long line_ = 0;
@@ -108,6 +117,7 @@ Reading::Reading(std::string_view text, XmlEvents& events)
   XML_SetEntityDeclHandler(parser, Entity);
   XML_SetExternalEntityRefHandler(parser, External);
   XML_SetSkippedEntityHandler(parser, Skipped);
+  XML_SetNotStandaloneHandler(parser, Incomplete);
 }
 
 XmlResult Reading::Run() {
@@ -177,6 +187,8 @@ void Reading::Stop(const char* reason) {
 }
 
 void Reading::Start(void* self, const char* name, const char** attributes) {
+  auto& root = *static_cast<Reading*>(self);
+  if (std::exchange(root.incomplete_, false) && root.RefersToUndeclared()) root.Stop(kUndeclared);
   Guarded(self, [&](Reading& reading) {
     return reading.events_.StartElement(LocalName(name), XmlAttributes(attributes));
   });
@@ -192,10 +204,16 @@ void Reading::Text(void* self, const char* text, int size) {
   });
 }
 
-void Reading::Entity(void* self, const char*, int, const char*, int, const char*, const char*, const char*,
-                     const char*) {
+void Reading::Entity(void* self, const char* name, int parameter, const char*, int, const char*, const char*,
+                     const char*, const char*) {
   auto& reading = *static_cast<Reading*>(self);
-  if (++reading.entities_ > kMaxEntities) reading.Stop("too many entity declarations");
+  if (++reading.entities_ > kMaxEntities) return reading.Stop("too many entity declarations");
+  if (parameter == 0) reading.declared_.insert(name);
+}
+
+int Reading::Incomplete(void* self) {
+  static_cast<Reading*>(self)->incomplete_ = true;
+  return XML_STATUS_OK;
 }
 
 int Reading::External(XML_Parser parser, const char*, const char*, const char*, const char*) {
@@ -204,7 +222,22 @@ int Reading::External(XML_Parser parser, const char*, const char*, const char*, 
 }
 
 void Reading::Skipped(void* self, const char*, int) {
-  static_cast<Reading*>(self)->Stop("reference to an entity that is not declared");
+  static_cast<Reading*>(self)->Stop(kUndeclared);
+}
+
+// Where declarations were not read, expat drops a reference in an attribute's value without telling. This
+// takes no notice of where in the text a reference stands.
+bool Reading::RefersToUndeclared() const {
+  constexpr std::array<std::string_view, 5> kPredefined{"lt", "gt", "amp", "apos", "quot"};
+  for (std::size_t at = text_.find('&'); at != std::string_view::npos; at = text_.find('&', at + 1)) {
+    const std::size_t end = text_.find_first_of("&<>;#'\" \t\r\n", at + 1);
+    if (end == std::string_view::npos || text_[end] != ';') continue;
+    const std::string name = Utf8FromAnsi(text_.substr(at + 1, end - at - 1));
+    if (std::find(kPredefined.begin(), kPredefined.end(), name) == kPredefined.end() &&
+        !declared_.contains(name))
+      return true;
+  }
+  return false;
 }
 
 bool IsNameByte(char byte, bool first) {

@@ -4,8 +4,9 @@
 // its prolog names does not count, even where the label is none that XML allows. The reading is strict: what
 // is not well-formed XML 1.0 with namespaces is refused, forbidden characters, NUL and unbound prefixes among
 // them. Declarations inside a DOCTYPE are read; an external subset is not, and a reference to an external or
-// undeclared entity is refused, so nothing is ever opened. Expansion is bounded by expat's own guard against
-// amplification and by kMaxEntities, which also bounds how deep entities nest.
+// undeclared entity is refused, so nothing is ever opened; behind an external subset or a parameter entity
+// whatever looks like such a reference is refused, in a comment too. Expansion is bounded by expat's own
+// guard against amplification and by kMaxEntities, which also bounds how deep entities nest.
 #pragma once
 
 #include <cstddef>
