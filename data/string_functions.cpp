@@ -1,9 +1,9 @@
 #include "data/string_functions.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <vector>
 
 #include "data/character_steps.h"
 #include "data/string_buffer.h"
@@ -39,16 +39,12 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 
 std::string doubleToString(double value, int decimals) {
   if (!std::isfinite(value)) return std::isnan(value) ? "nan" : value < 0 ? "-inf" : "inf";
-  const int places = std::clamp(decimals, 0, 400);
-  std::vector<char> digits(static_cast<std::size_t>(places) + 400);
-  int point = 0;
-  int negative = 0;
-  fcvt_r(value, places, &point, &negative, digits.data(), digits.size());
-  const std::string text(digits.data());
-  const std::string sign = negative != 0 ? "-" : "";
-  if (point <= 0) return sign + "0." + std::string(static_cast<std::size_t>(-point), '0') + text;
-  const auto whole = static_cast<std::size_t>(point);
-  return sign + text.substr(0, whole) + "." + text.substr(whole);
+  constexpr int kMostPlaces = 1100;  // no number has more
+  const int places = std::clamp(decimals, 0, kMostPlaces);
+  std::array<char, kMostPlaces + 400> digits{};
+  const auto written =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, places);
+  return std::string(digits.data(), written.ptr) + (places == 0 ? "." : "");
 }
 
 }  // namespace corvane

@@ -144,6 +144,9 @@ TEST(Text, WritesNumbers) {
       {1e20, 2, "100000000000000000000.00"},
       {0.0005, 3, "0.001"},
       {0.0001, 6, "0.000100"},
+      {0.1, 20, "0.10000000000000000555"},
+      {-7.5, 0, "-8."},
+      {7, -1, "7."},
   };
   for (const Case& one : cases) EXPECT_EQ(doubleToString(one.value, one.decimals), one.text) << one.value;
 }
