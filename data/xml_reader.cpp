@@ -85,10 +85,8 @@ std::string xmlEncoding(std::string_view text) {
   std::string value = header.substr(found + kLabel.size());
   const std::size_t blank = value.find(' ');
   if (blank != std::string::npos && blank > 0) value.resize(blank);
-  if (value.starts_with('"')) {
-    value.erase(0, 1);
-    if (value.ends_with('"')) value.pop_back();
-  }
+  if (value.starts_with('"')) value.erase(0, 1);
+  if (value.ends_with('"')) value.pop_back();
   return value;
 }
 

@@ -78,6 +78,7 @@ TEST(XmlReader, ScansTheEncoding) {
       {"<?xml version=\"1.0\" encoding=\"?>", ""},
       {"<?xml version=\"1.0\" encoding=GBK  ?>", "GBK"},
       {"<?xml version=\"1.0\" encoding= GBK?>", " GBK"},
+      {"<?xml version=\"1.0\" encoding=GBK\"?>", "GBK"},
   };
   for (const auto& [text, label] : cases) EXPECT_EQ(xmlEncoding(text), label) << text;
 }
