@@ -44,7 +44,7 @@ std::string_view Escaped(char byte, bool inAttribute) {
   }
 }
 
-constexpr std::string_view kDeclaration = "xmlns";
+constexpr std::string_view kDeclaration = "xmlns:";
 
 // U+FFFE and U+FFFF, which only UTF-8 can hold of all code pages.
 bool HoldsNoncharacter(std::string_view run) {
@@ -128,7 +128,7 @@ void XmlWriter::Attributes(const AttributeMap& attributes) {
   for (const auto& [name, value] : attributes) {
     if (value.empty()) continue;
     CheckName(name, "ET10072");
-    CheckPrefix(name, "ET10072");
+    if (!name.starts_with(kDeclaration)) CheckPrefix(name, "ET10072");
     out_.append(1, ' ').append(name).append("=\"");
     Value(value, true, "ET10073");
     out_ += '"';
@@ -136,9 +136,9 @@ void XmlWriter::Attributes(const AttributeMap& attributes) {
 }
 
 void XmlWriter::Declare(const AttributeMap& attributes) {
-  const std::string prefixed = std::string(kDeclaration) + ":";
   for (const auto& [name, value] : attributes)
-    if (!value.empty() && name.starts_with(prefixed)) prefixes_.push_back(name.substr(prefixed.size()));
+    if (!value.empty() && name.starts_with(kDeclaration))
+      prefixes_.push_back(name.substr(kDeclaration.size()));
 }
 
 void XmlWriter::CheckName(std::string_view name, const char* key) {
@@ -150,9 +150,8 @@ void XmlWriter::CheckPrefix(std::string_view name, const char* key) const {
   const std::size_t colon = name.find(':');
   if (colon == std::string_view::npos) return;
   const std::string_view prefix = name.substr(0, colon);
-  const bool known = prefix == kDeclaration || prefix == "xml" ||
-                     std::find(prefixes_.begin(), prefixes_.end(), prefix) != prefixes_.end();
-  if (!known) throw TException(key);
+  if (prefix != "xml" && std::find(prefixes_.begin(), prefixes_.end(), prefix) == prefixes_.end())
+    throw TException(key);
 }
 
 void XmlWriter::Leaf(const ColumnTags& tags, std::string_view value) {

@@ -155,6 +155,8 @@ TEST(XmlWriter, RefusesWhatNoReaderTakes) {
       {"x:row", "xmlns:x", "u", "A", "1", "none"},
       {"x:row", "a", "1", "A", "1", "ET10058"},
       {"row", "xmlns", "u", "A", "1", "none"},
+      {"row", "a", "1", "xmlns:A", "1", "ET10058"},
+      {"xmlns:row", "a", "1", "A", "1", "ET10058"},
   };
   for (const Case& one : cases) {
     Row row;
