@@ -2,13 +2,13 @@
 
 #include <utility>
 
+#include "data/character_steps.h"
 #include "dialogs/font_fit.h"
 #include "dialogs/memo_break.h"
 #include "dialogs/messages.h"
 #include "dialogs/view_bsn_flow.h"
 #include "framework/m_query_intf.h"
 #include "host/pub_info.h"
-#include "platform/code_page.h"
 #include "toolkit/conversion.h"
 #include "toolkit/layout.h"
 
@@ -26,14 +26,6 @@ constexpr const char* kFlowTransaction = "COMQRYFW";
 constexpr const char* kFirstLevel = "PSTLEVEL0";
 constexpr const char* kNoFlow = "UI42801";
 constexpr const char* kAmountUnit = "UI42802";
-
-// The beginning of a text, at most so many bytes, without half a character.
-std::string Beginning(const std::string& text, std::size_t most) {
-  if (text.size() <= most) return text;
-  std::size_t end = 0;
-  for (std::size_t next = 0; next <= most; next += norvik::CharacterLength(text, next)) end = next;
-  return text.substr(0, end);
-}
 
 }  // namespace
 
@@ -174,7 +166,7 @@ void TfrmEBillAuditFoot::ShowRecord() {
   for (const Line& line : kLines) {
     std::string value = m_record.getValue(line.field) + line.join;
     if (line.secondField[0] != '\0') value += m_record.getValue(line.secondField);
-    (this->*line.value)->SetCaption(Beginning(value, kLongestShown));
+    (this->*line.value)->SetCaption(std::string(corvane::cutText(value, kLongestShown)));
     (this->*line.value)->SetHint((this->*line.value)->Caption());
   }
   m_lbAmtValue->SetCaption(m_lbAmtValue->Caption() + " " + TranslateKey(kAmountUnit));

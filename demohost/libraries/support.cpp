@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstring>
 
+#include "data/character_steps.h"
 #include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"
@@ -20,20 +21,9 @@ std::int32_t Idle() {
 // The longest detail that leaves room for a key behind it in a caller's error text, bytes.
 constexpr std::size_t kLongestDetail = 200;
 
-// As many whole characters of narrow text as fit into `size` bytes.
-std::string_view Fitting(std::string_view text, std::size_t size) {
-  std::size_t length = 0;
-  while (length < text.size()) {
-    const std::size_t character = norvik::CharacterLength(text, length);
-    if (length + character > size) break;
-    length += character;
-  }
-  return text.substr(0, length);
-}
-
 std::string Lines(const Refused& refused) {
   const std::string detail = norvik::AnsiFromUtf8(refused.Detail());
-  return Refused(refused.Key(), std::string(Fitting(detail, kLongestDetail))).Lines();
+  return Refused(refused.Key(), std::string(corvane::cutText(detail, kLongestDetail))).Lines();
 }
 
 }  // namespace
@@ -71,7 +61,7 @@ std::size_t OutstandingBuffers() {
 
 void WriteError(char* error, std::size_t size, std::string_view text) {
   if (error == nullptr) return;
-  text = Fitting(text, size - 1);
+  text = corvane::cutText(text, size - 1);
   std::memcpy(error, text.data(), text.size());
   error[text.size()] = '\0';
 }
