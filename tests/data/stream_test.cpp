@@ -196,6 +196,7 @@ TEST(Iniplus, ReadsAndWrites) {
   for (const Read& one : cases) {
     Iniplus iniplus;
     EXPECT_EQ(KeyOf([&] { iniplus.fromString(one.text); }), one.key) << one.text;
+    iniplus.setName("x");
     iniplus.setEncoding("");
     EXPECT_EQ(iniplus.toString(), "<?xml version=\"1.0\" encoding=\"\"?>" + one.shown) << one.text;
   }

@@ -139,6 +139,9 @@ TEST_F(AuditRequests, ABatchIsThatOfTheFirstTickedRecord) {
             "<AGREEFLAG>0</AGREEFLAG><AGREEREM>fine</AGREEREM><BATNO>B2</BATNO><BPBSNCODE>C</BPBSNCODE>"
             "<FLAG>1</FLAG><FLOWID>F2</FLOWID><SMTDATE>20261121</SMTDATE><TALNUM>4</TALNUM>");
   corvane::CorvaneStream cancelled;
+  EXPECT_EQ(Run({}, false, [&] { built = business.BuildBatchAuditRequest(list, "C", cancelled); }),
+            "UI53317");
+  EXPECT_FALSE(built || asked);
   Tick({0});
   Run({false, true, ""}, true, [&] { built = business.BuildBatchAuditRequest(list, "C", cancelled); });
   EXPECT_FALSE(built);
@@ -169,6 +172,8 @@ TEST_F(AuditRequests, NothingTickedAndADeclinedBookingSendNothing) {
     EXPECT_EQ(built, row.built);
     EXPECT_EQ(asked, row.built);
     EXPECT_EQ(request.getList("userDataList").size(), row.built ? 2u : 0u);
+    EXPECT_EQ(Run({}, false, [&] { EXPECT_TRUE(business.ConfirmBookedRecords()); }), "")
+        << "the records under audit are forgotten";
   }
 }
 
