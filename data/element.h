@@ -11,7 +11,7 @@ namespace corvane {
 // An XML element in memory: a tag, attributes in byte order of their names, and the label of the encoding
 // that its text form declares, "UTF-8" by default. The label never drives a conversion. Documents are values;
 // copying one copies all, while assignment between rows, lists, streams and sections leaves the target's tag
-// and label alone.
+// and label alone. A text that is read into a document must not be one of the document's own values.
 class Element {
  public:
   virtual ~Element();
