@@ -96,6 +96,7 @@ class RowsSAXHandler : public DocumentSAXHandler {
  protected:
   using DocumentSAXHandler::DocumentSAXHandler;
   void openRow(std::string_view localName, const AttributeMap& attributes) {
+    closedField();  // a row inside a row: the column before it is still to be named
     row_.reset(localName, attributes);
   }
   void openColumn(std::string_view localName, const AttributeMap& attributes);
