@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <mutex>
 
 namespace corvane {
 namespace {
@@ -27,7 +28,19 @@ std::size_t Hash(std::string_view key) {
 
 }  // namespace
 
+RowShape::RowShape(const RowShape& other)
+    : Counted(other),
+      names_(other.names_),
+      free_(other.free_),
+      table_(other.table_),
+      tree_(other.tree_),
+      order_(other.order()) {}
+
 std::uint32_t RowShape::find(std::string_view key) const {
+  if (Many()) {
+    const auto found = tree_.find(key);
+    return found == tree_.end() ? kNoSlot : found->second;
+  }
   if (table_.empty()) return kNoSlot;
   const std::size_t mask = table_.size() - 1;
   for (std::size_t at = Hash(key) & mask; table_[at] != 0; at = (at + 1) & mask) {
@@ -46,9 +59,17 @@ std::uint32_t RowShape::add(std::string_view key) {
     free_.pop_back();
     names_[slot].assign(key);
   }
+  if (Many()) {
+    tree_.emplace(name(slot), slot);
+    stale_ = true;
+    return slot;
+  }
   const auto before = [this](std::uint32_t left, std::string_view right) { return name(left) < right; };
   order_.insert(std::lower_bound(order_.begin(), order_.end(), key, before), slot);
-  if (table_.size() < 2 * order_.size())
+  if (order_.size() >= kManyColumns) {
+    for (const std::uint32_t each : order_) tree_.emplace(name(each), each);
+    table_.clear();
+  } else if (table_.size() < 2 * order_.size())
     Index();
   else
     Enter(slot);
@@ -56,22 +77,28 @@ std::uint32_t RowShape::add(std::string_view key) {
 }
 
 void RowShape::remove(std::uint32_t slot) {
-  order_.erase(std::find(order_.begin(), order_.end(), slot));
+  if (Many()) {
+    tree_.erase(name(slot));
+    stale_ = true;
+  } else {
+    order_.erase(std::find(order_.begin(), order_.end(), slot));
+  }
   names_[slot].assign({});
   free_.push_back(slot);
-  Index();
+  if (!Many()) Index();
 }
 
 bool RowShape::sameColumns(const RowShape& other) const {
   if (this == &other) return true;
   if (columns() != other.columns()) return false;
-  for (std::size_t at = 0; at < order_.size(); ++at)
-    if (name(order_[at]) != other.name(other.order_[at])) return false;
-  return true;
+  const auto sameName = [&](std::uint32_t slot, std::uint32_t theirs) {
+    return name(slot) == other.name(theirs);
+  };
+  return std::equal(order().begin(), order().end(), other.order().begin(), sameName);
 }
 
 bool RowShape::sameSlots(const RowShape& other) const {
-  return order_ == other.order_ && slotCount() == other.slotCount() && sameColumns(other);
+  return order() == other.order() && slotCount() == other.slotCount() && sameColumns(other);
 }
 
 void RowShape::Enter(std::uint32_t slot) {
@@ -81,11 +108,21 @@ void RowShape::Enter(std::uint32_t slot) {
   table_[at] = slot + 1;
 }
 
+// Copies of a shape may be read on different threads.
+void RowShape::Refresh() const {
+  static std::mutex guard;
+  const std::lock_guard<std::mutex> lock(guard);
+  if (!stale_) return;
+  order_.clear();
+  for (const auto& [name, slot] : tree_) order_.push_back(slot);
+  stale_.store(false, std::memory_order_release);
+}
+
 void RowShape::Index() {
   std::size_t size = 8;
-  while (size < 4 * order_.size()) size *= 2;
+  while (size < 4 * order().size()) size *= 2;
   table_.assign(size, 0);
-  for (const std::uint32_t slot : order_) Enter(slot);
+  for (const std::uint32_t slot : order()) Enter(slot);
 }
 
 }  // namespace corvane

@@ -1,8 +1,10 @@
 // The column names of a row.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <cstring>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,10 +36,17 @@ inline bool sameText(std::string_view left, std::string_view right) {
 
 // Which columns a row has, and in which slot of its cells each value lies. Rows of one list share a shape,
 // and so their names. A slot never changes while its column lives; the slot of a removed column serves the
-// next new one.
+// next new one. A shape of many columns keeps them in a tree: whatever names a text brings, reading it costs
+// no more than in proportion to its length, but for a logarithm.
 class RowShape : public Counted<RowShape> {
  public:
   static constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
+  static constexpr std::uint32_t kManyColumns = 1024;
+
+  RowShape() = default;
+  RowShape(const RowShape& other);
+  RowShape& operator=(const RowShape&) = delete;
+  ~RowShape() = default;
 
   // The slot of a column, or kNoSlot.
   std::uint32_t find(std::string_view key) const;
@@ -46,10 +55,13 @@ class RowShape : public Counted<RowShape> {
   void remove(std::uint32_t slot);
 
   // Number of columns, and of slots.
-  std::uint32_t columns() const { return static_cast<std::uint32_t>(order_.size()); }
+  std::uint32_t columns() const { return slotCount() - static_cast<std::uint32_t>(free_.size()); }
   std::uint32_t slotCount() const { return static_cast<std::uint32_t>(names_.size()); }
   // The slots in byte order of their columns' names.
-  const std::vector<std::uint32_t>& order() const { return order_; }
+  const std::vector<std::uint32_t>& order() const {
+    if (stale_.load(std::memory_order_acquire)) Refresh();
+    return order_;
+  }
   const Label& label(std::uint32_t slot) const { return names_[slot]; }
   const std::string& name(std::uint32_t slot) const { return names_[slot].text(); }
 
@@ -60,11 +72,15 @@ class RowShape : public Counted<RowShape> {
  private:
   void Enter(std::uint32_t slot);
   void Index();
+  void Refresh() const;
+  bool Many() const { return !tree_.empty(); }
 
   std::vector<Label> names_;          // by slot
-  std::vector<std::uint32_t> order_;  // slots by name
   std::vector<std::uint32_t> free_;   // slots without a column
   std::vector<std::uint32_t> table_;  // open addressing by hash of the name: slot + 1, 0 for none
+  std::map<std::string_view, std::uint32_t> tree_;  // slots by name where there are many; then no table
+  mutable std::vector<std::uint32_t> order_;        // slots by name
+  mutable std::atomic<bool> stale_{false};          // the tree has changed since order_ was made
 };
 
 }  // namespace corvane

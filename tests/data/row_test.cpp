@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 #include <utility>
 #include <vector>
@@ -133,6 +134,52 @@ TEST(Row, GivesReferencesThatStay) {
   EXPECT_EQ(copy.getValue("A"), "1");
   EXPECT_EQ(copy.getValue("K7"), "K7");
   EXPECT_EQ(&moved["A"], &first);
+}
+
+TEST(Row, HoldsManyColumns) {
+  constexpr int kColumns = 3000;
+  const auto key = [](int column) { return "K" + std::to_string(column * 7 % kColumns); };
+  Row row;
+  Row backwards;
+  for (int column = 0; column < kColumns; ++column) {
+    row[key(column)] = key(column);
+    backwards[key(kColumns - 1 - column)];
+  }
+  EXPECT_TRUE(row.sameColumns(backwards));
+  const Row copy = row;
+  std::string& kept = row["K1"];
+  for (int column = 0; column < kColumns; ++column)
+    if (key(column) != "K1") row.removeField(key(column));
+  EXPECT_EQ(Keys(row), "K1=K1;");
+  EXPECT_EQ(&row["K1"], &kept);
+  EXPECT_FALSE(row.sameColumns(copy));
+  row.removeField("K1");
+  row["B"];
+  row["A"] = "1";
+  EXPECT_EQ(Keys(row), "A=1;B=;");
+  std::string last;
+  std::size_t columns = 0;
+  for (const auto& [name, field] : copy) {
+    EXPECT_LT(last, name);
+    EXPECT_EQ(field.getValue(), name);
+    last = name;
+    ++columns;
+  }
+  EXPECT_EQ(columns, copy.size());
+  EXPECT_EQ(columns, 3000U);
+}
+
+// The first names that a text brings are the last in order, and differ in the middle alone.
+TEST(Row, CostOfItsColumnsIsInProportion) {
+  constexpr int kColumns = 100000;
+  std::string text = "<row>";
+  for (int column = 2 * kColumns; column > kColumns; --column)
+    text += "<CURRENCY" + std::to_string(column) + "OFACCOUNT/>";
+  const auto start = std::chrono::steady_clock::now();
+  const Row row(text + "</row>");
+  EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 10);
+  EXPECT_EQ(row.size(), static_cast<std::size_t>(kColumns));
+  EXPECT_EQ((*row.begin()).first, "CURRENCY100001OFACCOUNT");
 }
 
 TEST(Row, CopiesDoNotSeeEachOther) {
