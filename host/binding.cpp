@@ -11,7 +11,10 @@ bool FunctionTable::Resolve(norvik_handle module, std::span<const std::uint32_t>
   m_ordinals = ordinals;
   m_functions.clear();
   for (const std::uint32_t ordinal : ordinals) m_functions.push_back(norvik_module_function(module, ordinal));
-  return std::find(m_functions.begin(), m_functions.end(), nullptr) == m_functions.end();
+  const bool whole = std::find(m_functions.begin(), m_functions.end(), nullptr) == m_functions.end();
+  // Of a library that was never started no function may be called.
+  if (!whole) std::fill(m_functions.begin(), m_functions.end(), nullptr);
+  return whole;
 }
 
 void* FunctionTable::Find(std::uint32_t ordinal) const {

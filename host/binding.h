@@ -20,7 +20,8 @@ inline constexpr std::int32_t kLongestAnswer = 256 * 1024 * 1024;
 /// The functions of one library, in the order of its ordinals.
 class FunctionTable {
  public:
-  /// Looks all of `ordinals` up, the list living as long as the table; false if any is missing.
+  /// Looks all of `ordinals` up, the list living as long as the table; false if any is missing, and the table
+  /// then holds none of them.
   bool Resolve(norvik_handle module, std::span<const std::uint32_t> ordinals);
 
   /// The function with that ordinal. TException kNotInitialised if the table doesn't hold it.

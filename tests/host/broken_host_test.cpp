@@ -91,9 +91,14 @@ TEST(Binding, AProxyThatFailedToBindRefusesToCall) {
   FakeHost host;
   PubInfoIntf pubInfo;
   EXPECT_EQ(FailureOf([&] { pubInfo.GetHandle("APPMAINFORMHANDLE"); }), (Failure{"TException", {"CF30007"}}));
-  const norvik_handle module = host.Register(Library::kPublicInformation, {123});
-  EXPECT_EQ(FailureOf([&] { pubInfo.Bind(module); }), (Failure{"TException", {"CF15001"}}));
-  EXPECT_EQ(FailureOf([&] { pubInfo.GetHandle("APPMAINFORMHANDLE"); }), (Failure{"TException", {"CF30007"}}));
+  for (const std::uint32_t missing : {123u, 184u}) {
+    const norvik_handle module = host.Register(Library::kPublicInformation, {missing});
+    EXPECT_EQ(FailureOf([&] { pubInfo.Bind(module); }), (Failure{"TException", {"CF15001"}}));
+    EXPECT_EQ(FailureOf([&] { pubInfo.GetHandle("APPMAINFORMHANDLE"); }),
+              (Failure{"TException", {"CF30007"}}))
+        << missing;
+  }
+  EXPECT_TRUE(host.calls.empty());
   pubInfo.Bind(host.Register(Library::kPublicInformation));
   EXPECT_EQ(pubInfo.GetHandle("APPMAINFORMHANDLE"), 0u);
 }
