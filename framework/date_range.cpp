@@ -111,12 +111,14 @@ std::string NextDayDate(const std::string& date) {
 }
 
 std::string NextMonthDate(const std::string& date) {
+  constexpr int kJanuary = 1;
+  constexpr int kFebruary = 2;
+  constexpr int kAugust = 8;
   DateParts parts = TakeApart(date);
-  if (++parts.month == 13) parts = {parts.year + 1, 1, parts.day};
-  // A day that no month has is refused by Encode and not cut to the month's end.
-  if (parts.day <= 31 && parts.month >= 1 && parts.month <= 12) {
-    parts.day = std::min(parts.day, DaysInMonth(parts.year, parts.month));
-  }
+  if (++parts.month == 13) parts = {parts.year + 1, kJanuary, parts.day};
+  if (parts.month == kFebruary && parts.day >= 29) parts.day = DaysInMonth(parts.year, kFebruary);
+  // Of the months behind one with 31 days only these two have as many.
+  if (parts.day == 31 && parts.month != kJanuary && parts.month != kAugust) parts.day = 30;
   return Text(Encode(parts));
 }
 

@@ -32,7 +32,8 @@ std::string NotAfter(const std::string& date, const std::string& today);
 // The following calendar day. A month outside 1 to 12 leaves the date as it is.
 std::string NextDayDate(const std::string& date);
 
-// The same day of the following month, or that month's last day where it is shorter.
+// The same day of the following month, or that month's last day where it is shorter; a day 31 becomes 30 in
+// every month but January and August, also where the date given is none.
 std::string NextMonthDate(const std::string& date);
 
 // The days between two dates, whichever is later; -1 when one of them is not 8 bytes long.

@@ -75,6 +75,8 @@ TEST(CalendarSteps, FollowTheCalendar) {
       {NextMonthDate, "20160131", "20160229"}, {NextMonthDate, "20151231", "20160131"},
       {NextMonthDate, "20150331", "20150430"}, {NextMonthDate, "20150731", "20150831"},
       {NextMonthDate, "20150228", "20150328"}, {NextMonthDate, "20150130", "20150228"},
+      {NextMonthDate, "20150831", "20150930"}, {NextMonthDate, "20150531", "20150630"},
+      {NextMonthDate, "20150431", "20150530"}, {NextMonthDate, "20150140", "20150228"},
   };
   for (const auto& c : cases) EXPECT_EQ(c.step(c.date), c.expected) << c.date;
 }
@@ -82,7 +84,7 @@ TEST(CalendarSteps, FollowTheCalendar) {
 TEST(CalendarSteps, RefuseWhatIsNoDate) {
   EXPECT_THROW(NextDayDate("2015xx01"), EConvertError);
   EXPECT_THROW(NextDayDate("2015"), EConvertError);
-  EXPECT_THROW(NextMonthDate("20150140"), EConvertError);
+  EXPECT_THROW(NextMonthDate("20150240"), EConvertError);
   EXPECT_THROW(DaysBetweenDates("20150230", "20150101"), EConvertError);
   EXPECT_THROW(DaysBetweenDates("2015010a", "20150101"), EConvertError);
 }
