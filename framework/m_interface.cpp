@@ -30,13 +30,13 @@ std::string UserField(const char* key) {
   return users.size() == 0 ? std::string() : Value(users[0], key);
 }
 
-// Everything of an exchange that must be undone whatever happens in it.
-class BusyForm {
+// Takes the busy form of an exchange away, whatever happens in it; also where it could not be shown.
+class BusyEnd {
  public:
-  explicit BusyForm(TForm* owner) : m_owner(owner) { ShowBar(owner); }
-  ~BusyForm() { HideBar(m_owner); }
-  BusyForm(const BusyForm&) = delete;
-  BusyForm& operator=(const BusyForm&) = delete;
+  explicit BusyEnd(TForm* owner) : m_owner(owner) {}
+  ~BusyEnd() { HideBar(m_owner); }
+  BusyEnd(const BusyEnd&) = delete;
+  BusyEnd& operator=(const BusyEnd&) = delete;
 
  private:
   TForm* m_owner;
@@ -59,9 +59,10 @@ void CMInterface::ShowResultTotals(corvane::CorvaneStream& answer) {
 
 bool CMInterface::SendRequest(const std::string& code, corvane::CorvaneStream& request,
                               corvane::CorvaneStream& answer, TForm* owner) {
-  BusyForm busy(owner);
-  answer.clear();
+  const BusyEnd end(owner);
   try {
+    ShowBar(owner);
+    answer.clear();
     answer = g_pSafeCom->SendStream(code, request);
     return true;
   } catch (const corvane::TException& failure) {

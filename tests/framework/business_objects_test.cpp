@@ -1,6 +1,8 @@
 // The business objects over a host and real lists and boxes.
 #include <gtest/gtest.h>
 
+#include "dialogs/busy_form.h"
+#include "dialogs/error_msg.h"
 #include "framework/query_common.h"
 #include "host/pub_info.h"
 #include "tests/support/screen_host.h"
@@ -87,7 +89,8 @@ TEST_F(BusinessObjects, BuildColumnsFromTableAndLayout) {
   host.SetLayout("TList", {});
   common.InitListColumns(list, "TList");
   EXPECT_EQ(common.FindColumnByCaption(list, "UI44344"), 2);
-  EXPECT_EQ(list->Columns()[1]->Alignment(), taRightJustify);
+  const TAlignment alignments[] = {taLeftJustify, taRightJustify, taCenter, taLeftJustify};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(list->Columns()[i]->Alignment(), alignments[i]) << i;
 }
 
 TEST_F(BusinessObjects, KeepTheColumnsBuiltBeforeAFailure) {
@@ -96,6 +99,32 @@ TEST_F(BusinessObjects, KeepTheColumnsBuiltBeforeAFailure) {
   EXPECT_EQ(FailureOf([&] { common.InitListColumns(list, "TList"); }), "bad width");
   EXPECT_EQ(list->Columns().Count(), 2);
   EXPECT_EQ(host.Stored(58, "TList").size(), 0u);
+}
+
+// The flows of a business, open to the test.
+struct Flows : CQueryCommon {
+  std::string Text() {
+    std::string text;
+    for (const corvane::List* flows : {&m_flows, &m_flowsPrimary, &m_flowsOther}) {
+      for (const corvane::Row& row : *flows) text += row.getValue("FLOWID") + " ";
+      text += "| ";
+    }
+    return text;
+  }
+};
+
+TEST_F(BusinessObjects, PartTheFlowsOfABusinessByTheirOperations) {
+  host.SetList("CMLGBSN",
+               ScreenHost::ListOf({{"BSNCODE", "FLOWID"}, {"B1", "F2"}, {"B2", "F3"}, {"B1", "F1"}}));
+  host.SetList(
+      "CMLGBSNOPR",
+      ScreenHost::ListOf(
+          {{"FLOWID", "PSTCLASS"}, {"F1", "01"}, {"F3", "01"}, {"F2", "02"}, {"F1", ""}, {"F2", "01"}}));
+  Flows flows;
+  for (int i = 0; i < 2; ++i) {
+    flows.LoadBusinessFlows("B1");
+    EXPECT_EQ(flows.Text(), "F2 F2 F1 F1 | F2 F1 | F2 F1 | ");
+  }
 }
 
 TEST_F(BusinessObjects, ListEachAccountOnceBehindThePrompt) {
@@ -129,6 +158,9 @@ TEST_F(BusinessObjects, DecodeWhatTheDictionaryKnows) {
   common.DecodeDictColumn(rows, "OTHER", "E");
   EXPECT_EQ(rows[0].getValue("OTHER"), "UI12017");
 
+  common.LoadDictCombo(box, "D");
+  EXPECT_EQ(Entries(), "1=UI12017 ");  // of two rows of one code the box takes the later text
+  EXPECT_EQ(box->ItemIndex(), 0);
   common.LoadDictCombo(box, "BILLTYPE");
   EXPECT_EQ(Entries(), "-9999=UI40115 AC01=UI40116 AC02=UI40117 ");
   host.libraries.SetAnswer(Library::kPublicInformation, 90, {"BUSINESSDICT", "GONE"},
@@ -147,10 +179,96 @@ TEST_F(BusinessObjects, ReportAFailedExchangeAndEmptyTheAnswer) {
   host.SetErrorText("ET90001\r\nET90002", "refused");
   EXPECT_EQ(FailureOf([&] { EXPECT_FALSE(common.SendRequest("X", request, answer, form)); }), "refused");
   EXPECT_EQ(answer.getValue("OLD"), "");
+  bool stillBusy = false;
+  WhenShown<TFrmErrorMsg> look([&](TFrmErrorMsg& message) {
+    stillBusy = ShownForm(TBarForm::staticMetaObject) != nullptr;
+    message.Close();
+  });
+  common.SendRequest("X", request, answer, form);
+  EXPECT_TRUE(stillBusy) << "the busy form goes after the report";
+  EXPECT_EQ(ShownForm(TBarForm::staticMetaObject), nullptr);
   host.SetAnswerRows(ScreenHost::ListOf({{"A"}, {"1"}}));
   EXPECT_TRUE(common.SendRequest("X", request, answer, form));
   EXPECT_EQ(answer.getList("resultList").size(), 1u);
   EXPECT_EQ(request.getEncoding(), "GBK");
+}
+
+TEST_F(BusinessObjects, ReportAnExchangeWhoseBusyFormFails) {
+  corvane::CorvaneStream request;
+  corvane::CorvaneStream answer;
+  answer.addField(corvane::Field("OLD", "1"));
+  host.libraries.SetAnswer(Library::kPublicInformation, 24, {"ENVIRONMENT", "ENV.IMAGES"},
+                           fakehost::Refusal("no images"));
+  host.SetErrorText("no images", "no pictures");
+  EXPECT_EQ(FailureOf([&] { EXPECT_FALSE(common.SendRequest("X", request, answer, form)); }), "no pictures");
+  EXPECT_EQ(answer.getValue("OLD"), "");
+  EXPECT_EQ(host.Requests("X").size(), 0u);
+}
+
+TEST_F(BusinessObjects, EndAnExchangeWithoutAMessageWhereTheFailureHasNoKey) {
+  corvane::CorvaneStream request;
+  corvane::CorvaneStream answer;
+  const int forms = Screen->FormCount();
+  host.libraries.SetAnswer(Library::kSafeCom, 5, {.text = {}, .throws = true});
+  EXPECT_EQ(FailureOf([&] { EXPECT_FALSE(common.SendRequest("X", request, answer, form)); }), "nothing");
+  EXPECT_EQ(Screen->FormCount(), forms);
+}
+
+TEST_F(BusinessObjects, LeaveAFailedReportWithTheSecondFailure) {
+  corvane::CorvaneStream request;
+  corvane::CorvaneStream answer;
+  const int forms = Screen->FormCount();
+  host.RefuseExchange("ET90001");
+  host.libraries.SetAnswer(Library::kError, 5, fakehost::Refusal("no texts"));
+  try {
+    common.SendRequest("X", request, answer, form);
+    ADD_FAILURE() << "the failure of the report got lost";
+  } catch (const corvane::TIOException& failure) {
+    EXPECT_EQ(failure.getMessage("|"), "no texts");
+  }
+  EXPECT_EQ(Screen->FormCount(), forms);
+}
+
+TEST_F(BusinessObjects, ReportWhatTheHostRefusesAndGoOn) {
+  corvane::Row head;
+  corvane::List none;
+  common.LoadBusinessFlows("CB200310");
+  common.LoadAccountCombo(box, true);
+  const std::string entries = Entries();
+  constexpr auto kPub = Library::kPublicInformation;
+  // Each refusal stays for the lines behind it.
+  const struct {
+    Library library;
+    std::uint32_t ordinal;
+    std::vector<std::string> arguments;  // empty: whatever it is asked
+    std::function<void()> action;
+  } cases[] = {
+      {kPub,
+       68,
+       {"SYSCONFIG_DATA", "APPLICATION.BUSINESS.SET", "LISTVIEW.MAXRECORD"},
+       [&] { EXPECT_FALSE(common.CheckRecordLimit(0)); }},
+      {kPub, 90, {"FIELDDEF", "TList"}, [&] { common.InitListColumns(list, "TList"); }},
+      {Library::kPrint, 3, {}, [&] { common.PrintRecords("TList", "", head, none); }},
+      {Library::kExcel, 2, {}, [&] { common.ExportRecords("a.xls", head, none, none, 1); }},
+      {Library::kExcel, 5, {}, [&] { common.ExportRecords("a.xls", head, none, none, 3); }},
+      {kPub, 40, {"CMLGUSERINFO"}, [&] { EXPECT_EQ(common.GetOperatorNo(), ""); }},
+      {kPub, 40, {"CMLGUSERINFO"}, [&] { common.ExportRecords("a.xml", head, none, none, 2); }},
+      {Library::kTranslate, 4, {"UI53", "UI53241"}, [&] { common.LoadAccountCombo(box, false); }},
+      {kPub, 40, {"CMLGBSNACC"}, [&] { common.LoadAccountCombo(box, true); }},
+      {kPub, 40, {"CMLGBSNOPR"}, [&] { common.LoadBusinessFlows("CB200310"); }},
+  };
+  host.SetErrorText("ET90001", "refused");
+  for (const auto& c : cases) {
+    const auto refusal = fakehost::Refusal("ET90001");
+    if (c.arguments.empty()) {
+      host.libraries.SetAnswer(c.library, c.ordinal, refusal);
+    } else {
+      host.libraries.SetAnswer(c.library, c.ordinal, c.arguments, refusal);
+    }
+    EXPECT_EQ(FailureOf(c.action), "refused")
+        << c.ordinal << " " << (c.arguments.empty() ? "" : c.arguments.back());
+    EXPECT_EQ(Entries(), entries);
+  }
 }
 
 TEST_F(BusinessObjects, LeaveExactlyTheRefusedRecords) {
@@ -172,6 +290,16 @@ TEST_F(BusinessObjects, LeaveExactlyTheRefusedRecords) {
   EXPECT_EQ(list->Items()[0]->Data()->getValue("Color"), "255");
   EXPECT_EQ(list->Items()[1]->Caption(), "not ticked");
   EXPECT_EQ(list->ItemIndex(), -1);
+
+  // An answer that names nobody: all that is ticked was carried out, whatever the answer before said.
+  list->Items()[1]->SetChecked(true);
+  corvane::CorvaneStream accepted;
+  common.ApplyResultList(accepted, "resultList", list);
+  common.RemoveCompletedItems(list);
+  EXPECT_EQ(list->Items().Count(), 0);
+  common.FillListView(list, rows);
+  common.FillListView(list, rows);
+  EXPECT_EQ(list->Items().Count(), 3);
 }
 
 TEST_F(BusinessObjects, ExportByTypeAndName) {
@@ -194,7 +322,16 @@ TEST_F(BusinessObjects, ExportByTypeAndName) {
     EXPECT_EQ(head.getValue("USERNAME") + head.getValue("QUERYUSER") + head.getValue("CONDITION"),
               "OperatorUI50258UI50260");
     EXPECT_FALSE(head.hasField("BEQRY"));
+    if (c.ordinal != 5) continue;
+    const auto arguments = host.libraries.CallsOf(Library::kExcel, 5).at(0).arguments;
+    EXPECT_EQ(arguments.at(0) + " " + arguments.at(4) + " " + arguments.at(5), c.file + std::string(" | 2"));
   }
+  corvane::Row head;
+  head["ACCGRP"] = "x";
+  corvane::List none;
+  common.ExportRecords("a.xml", head, none, none, 2);
+  EXPECT_EQ(head.getValue("USERNAME") + head.getValue("QUERYUSER"), "OperatorUI50258");
+  EXPECT_FALSE(head.hasField("ACCGRP") || head.hasField("CONDITION"));
 }
 
 TEST_F(BusinessObjects, FollowAndLimitTypedDates) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 namespace fakehost {
 namespace {
@@ -260,6 +261,7 @@ std::uint32_t FakeHost::Reply(Call call, char** buffer, std::int32_t* length, ch
   const Answer answer = exact != m_answersByArguments.end() ? exact->second
                         : general != m_answers.end()        ? general->second
                                                             : Usual(call);
+  if (answer.throws) throw std::runtime_error("a host function that throws");
   if (error) {
     const bool small = call.library <= Library::kError;
     std::memcpy(error, answer.error.data(), std::min<std::size_t>(answer.error.size(), small ? 255 : 256));

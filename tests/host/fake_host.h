@@ -30,6 +30,7 @@ struct Answer {
   std::optional<std::int32_t> length = {};  // told in place of the text's
   bool noBuffer = false;
   std::string error = {};  // written without a terminator where it fills the buffer
+  bool throws = false;     // std::runtime_error, in place of all of this
 };
 
 Answer Text(std::string text);
