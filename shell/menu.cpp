@@ -1,5 +1,6 @@
 #include "shell/menu.h"
 
+#include <QScopedValueRollback>
 #include <utility>
 
 #include "data/corvane.h"
@@ -21,12 +22,18 @@ TfrmNorvikDTLQry* frmNorvikDTLQry = nullptr;
 template <auto& screen>
 void OpenForm(const std::string& item) {
   using Screen = std::remove_pointer_t<std::remove_reference_t<decltype(screen)>>;
+  // A failure while the screen is made is shown in a nested loop, in which the host may pick the item again.
+  static bool making = false;
+  if (making) return;
   if (screen) {
     screen->Show();
     norvik_window_send(screen->Handle(), WM_SYSCOMMAND, SC_RESTORE, 0);
     return;
   }
-  screen = CreateForm<Screen>(Application);
+  {
+    const QScopedValueRollback made(making, true);
+    screen = CreateForm<Screen>(Application);
+  }
   screen->m_strItemName = item;
   screen->Show();
 }

@@ -10,8 +10,8 @@ namespace norvik {
 struct MenuItem {
   std::string_view item;
   /// Opens the item's screen, or brings the same one back: one that was closed is shown anew and runs its
-  /// reset, one that is open or minimised comes forward as it was. A failure while the screen is made or
-  /// shown goes up.
+  /// reset, one that is open or minimised comes forward as it was. Does nothing while the screen is being
+  /// made. A failure while it is made goes up, and the next call makes it anew; a failing show is reported.
   void (*open)(const std::string& item);
   /// Destroys the screen if it exists.
   void (*destroy)();

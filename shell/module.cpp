@@ -1,8 +1,10 @@
 #include "shell/module.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <stdexcept>
 #include <utility>
 
 #include "dialogs/bank_info.h"
@@ -23,12 +25,30 @@ namespace {
 // True from the end of StartModule to StopModule.
 bool g_started = false;
 
+// True while a failure is shown. The form that shows it asks the host for texts and fonts as any other does,
+// and what made the first failure may fail there again.
+bool g_reporting = false;
+
+void ReportKeys(const corvane::TException& failure) {
+  try {
+    ReportException(failure);
+  } catch (const corvane::TException& second) {
+    // The error library has failed; what it said is all that there is.
+    ShowErrorMsg(second.getMessage("\r\n"), nullptr);
+  }
+}
+
+// A failure while another one is shown goes to the log alone.
 void ReportEscaped(TObject*, std::exception_ptr error) {
+  const bool nested = g_reporting;
+  const QScopedValueRollback reporting(g_reporting, true);
   try {
     std::rethrow_exception(std::move(error));
   } catch (const corvane::TException& exception) {
-    ReportException(exception);
+    if (nested) throw std::runtime_error(exception.getMessage(" "));
+    ReportKeys(exception);
   } catch (const std::exception& exception) {
+    if (nested) throw;
     ShowErrorMsg(exception.what(), nullptr);
   }
 }

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTimer>
 #include <QWidget>
 #include <algorithm>
 #include <array>
@@ -31,6 +30,13 @@ const struct {
 int OpenScreens() {
   return static_cast<int>(std::count_if(std::begin(kScreens), std::end(kScreens),
                                         [](auto& row) { return WindowOf(row.screen); }));
+}
+
+int CountOf(const std::string& screen) {
+  const auto windows = QApplication::topLevelWidgets();
+  return static_cast<int>(std::count_if(windows.begin(), windows.end(), [&](const QWidget* window) {
+    return window->objectName().toStdString() == screen;
+  }));
 }
 
 TEST(Library, ExportsFiveSymbolsAndNoSixth) {
@@ -130,6 +136,17 @@ TEST(InitModule, PassesOnWhatALibraryRefusesToStartWith) {
   EXPECT_EQ(KeysOf([&] { module.InitModule(0); }), (std::vector<std::string>{"CF15001"}));
 }
 
+TEST(InitModule, AgainReleasesWhatTheFirstMade) {
+  WindowedHost host;
+  const ModuleLibrary module;
+  module.InitModule(host.publicInformation);
+  module.Pick("ITEM6066");
+  module.InitModule(host.publicInformation);
+  EXPECT_EQ(OpenScreens(), 0);
+  module.Pick("ITEM6066");
+  EXPECT_EQ(CountOf("TfrmNorvikQry"), 1);
+}
+
 TEST(CallFunc, RefusesWhatIsNoRowAndPassesOverWhatItDoesNotKnow) {
   WindowedHost host;
   const ModuleLibrary module;
@@ -156,6 +173,7 @@ TEST(CallFunc, OpensOneScreenForEachItem) {
     QWidget* const window = WindowOf(row.screen);
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->parentWidget(), &host.mainWindow);
     EXPECT_NE(host.handles[row.screen], 0u);
 
     window->showMinimized();
@@ -179,19 +197,43 @@ TEST(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
   const ModuleLibrary module;
   module.InitModule(host.publicInformation);
   host.SetAnswer(kPub, 90, {"FIELDDEF", "TfrmNorvikQry"}, fakehost::Refusal("no columns"));
-  int dialogs = 0;
-  QTimer closer;
-  QObject::connect(&closer, &QTimer::timeout, &closer, [&] {
-    if (QWidget* const dialog = QApplication::activeModalWidget()) {
-      ++dialogs;
-      dialog->close();
-    }
-  });
-  closer.start(10);
+  DialogCloser closer;
+  // The host picks the item once more while the failure is still shown.
+  closer.whenShown = [&] { module.Pick("ITEM6066"); };
   module.Pick("ITEM6066");
-  EXPECT_GT(dialogs, 0);
+  EXPECT_GT(closer.closed, 0);
   EXPECT_FALSE(host.CallsOf(Library::kError, 5).empty());
-  EXPECT_EQ(OpenScreens(), 1);
+  EXPECT_EQ(CountOf("TfrmNorvikQry"), 1);
+}
+
+TEST(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
+  WindowedHost host;
+  const ModuleLibrary module;
+  module.InitModule(host.publicInformation);
+  // Every form reads its font, so the form that tells of the failure meets it, too.
+  for (const auto& answer : {fakehost::Text(""), fakehost::Text("large"), fakehost::Refusal("no font")}) {
+    host.SetAnswer(kPub, 68, {"SYSCONFIG_DATA", "APPLICATION.FONT", "Size"}, answer);
+    DialogCloser closer;
+    module.Pick("ITEM6066");
+    EXPECT_EQ(closer.closed, 1) << answer.text;
+    ASSERT_EQ(OpenScreens(), 1);
+    EXPECT_TRUE(WindowOf("TfrmNorvikQry")->isVisible());
+    WindowOf("TfrmNorvikQry")->close();
+  }
+}
+
+TEST(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
+  WindowedHost host;
+  const ModuleLibrary module;
+  module.InitModule(host.publicInformation);
+  host.SetAnswer(Library::kTranslate, 4, {"UI40", "UI40110"}, fakehost::Refusal("no texts"));
+  for (const auto& row : kScreens) {
+    EXPECT_EQ(KeysOf([&] { module.Pick(row.item); }), (std::vector<std::string>{"no texts"}));
+    EXPECT_EQ(CountOf(row.screen), 0);
+  }
+  host.SetAnswer(Library::kTranslate, 4, {"UI40", "UI40110"}, fakehost::Text("today"));
+  for (const auto& row : kScreens) module.Pick(row.item);
+  EXPECT_EQ(OpenScreens(), 3);
 }
 
 TEST(Release, DestroysScreensOpenOrClosedAndLetsNewOnesBeMade) {
@@ -208,6 +250,22 @@ TEST(Release, DestroysScreensOpenOrClosedAndLetsNewOnesBeMade) {
   }
   EXPECT_EQ(host.given, host.released);
   EXPECT_EQ(host.wronglyReleased, 0);
+}
+
+TEST(Release, SavesTheLayoutsInTheOrderOfTheMenu) {
+  WindowedHost host;
+  host.OfferBills();
+  const ModuleLibrary module;
+  module.InitModule(host.publicInformation);
+  for (int i = 2; i >= 0; --i) module.Pick(kScreens[i].item);
+  host.calls.clear();
+  module.Release();
+  std::vector<std::string> saved;
+  for (const auto& call : host.CallsOf(kPub, 80)) {
+    EXPECT_EQ(call.arguments[0], "COLUMN_INFO");
+    for (const auto& section : corvane::Iniplus(call.arguments[1])) saved.push_back(section.first);
+  }
+  EXPECT_EQ(saved, (std::vector<std::string>{kScreens[0].screen, kScreens[1].screen, kScreens[2].screen}));
 }
 
 TEST(Release, AnswersNothingBeforeAnInitModule) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -18,6 +19,17 @@ void* Load(const char* path) {
   void* const library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
   if (!library) throw std::runtime_error(dlerror());
   return library;
+}
+
+// A list whose first line names the columns.
+std::string ListText(const std::vector<std::vector<std::string>>& lines) {
+  corvane::List list;
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    corvane::Row row;
+    for (std::size_t c = 0; c < lines[0].size(); ++c) row[lines[0][c]] = lines[i][c];
+    list.addRow(row);
+  }
+  return list.toString();
 }
 
 intptr_t WriteDown(void* context, uint32_t message, uintptr_t, intptr_t) {
@@ -63,9 +75,42 @@ WindowedHost::~WindowedHost() {
   norvik_window_unregister(m_window);
 }
 
+void WindowedHost::OfferBills() {
+  constexpr auto kPub = fakehost::Library::kPublicInformation;
+  const std::vector<std::pair<std::string, std::string>> lists = {
+      {"CMLGBSN", ListText({{"BSNCODE", "FLOWID"}, {"CB200310", "F1"}})},
+      {"CMLGBSNOPR", ListText({{"FLOWID", "PSTCLASS"}, {"F1", "01"}})},
+      {"CMLGBSNACC", ListText({{"FLOWID", "ACCNO", "ACCNM"}, {"F1", "A1", "One"}, {"F1", "A2", "Two"}})}};
+  for (const auto& [key, text] : lists) SetAnswer(kPub, 40, {key}, fakehost::Text(text));
+  const std::string columns = ListText({{"COLID", "DISPLAY", "WIDTH", "ALIGN", "COLFMT"},
+                                        {"BILLNUM", "UI44008", "100", "L", "C"},
+                                        {"PAYAMT", "UI44344", "80", "R", "M"}});
+  for (const char* screen : {"TfrmNorvikQry", "TfrmNorvikELoanQry", "TfrmNorvikDTLQry"}) {
+    SetAnswer(kPub, 90, {"FIELDDEF", screen}, fakehost::Text(columns));
+  }
+  SetAnswer(kPub, 90, {"BUSINESSDICT", "AGENTSTT"},
+            fakehost::Text(ListText({{"TYPEKEY", "TYPE"}, {"02", "UI46102"}})));
+  const std::string rows =
+      "<row><BILLNUM>B1</BILLNUM><PAYAMT>1234.5</PAYAMT></row>"
+      "<row><BILLNUM>B2</BILLNUM><PAYAMT>20</PAYAMT></row>";
+  SetAnswer(fakehost::Library::kSafeCom, 5,
+            fakehost::Text("<stream><list name=\"resultList\">" + rows + "</list></stream>"));
+}
+
 QWidget* WindowOf(const std::string& name) {
   for (QWidget* const widget : QApplication::topLevelWidgets()) {
     if (widget->objectName().toStdString() == name) return widget;
   }
   return nullptr;
+}
+
+DialogCloser::DialogCloser() {
+  m_timer.callOnTimeout([this] {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (!dialog || dialog->objectName() == QLatin1String("TBarForm")) return;
+    ++closed;
+    if (const auto step = std::exchange(whenShown, nullptr)) step();
+    dialog->close();
+  });
+  m_timer.start(10);
 }

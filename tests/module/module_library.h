@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,6 +41,10 @@ class WindowedHost : public fakehost::FakeHost {
   WindowedHost();
   ~WindowedHost();
 
+  /// Gives the screens two columns and a bank that answers everything with the bills B1 and B2, and the
+  /// repository screen the accounts A1 and A2 and a custody status.
+  void OfferBills();
+
   norvik_handle publicInformation;
   QWidget mainWindow;
   std::vector<std::uint32_t> messages;
@@ -49,6 +55,18 @@ class WindowedHost : public fakehost::FakeHost {
 
 /// The process's window with that object name, null if there is none or it was destroyed.
 QWidget* WindowOf(const std::string& name);
+
+/// Closes the module's dialogs as they come.
+class DialogCloser {
+ public:
+  DialogCloser();
+
+  int closed = 0;
+  std::function<void()> whenShown;  // runs once, before the first is closed
+
+ private:
+  QTimer m_timer;
+};
 
 /// The keys of the corvane::TException that an action throws; none if it doesn't throw.
 template <class Action>
