@@ -3,11 +3,16 @@
 #include <malloc.h>
 
 #include <unistd.h>
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QWidget>
 #include <cstddef>
 #include <cstdio>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "tests/module/module_library.h"
 
@@ -57,16 +62,27 @@ bool IsLoaded(const char* path) {
   return library;
 }
 
-// One life of the module, from loading to unloading.
+// One life of the module, from loading to unloading, with a query whose rows are in the list to the end.
 void OneLife() {
   WindowedHost host;
+  host.OfferBills();
   {
     const ModuleLibrary module(NORVIK_QRY_UNLOADABLE);
     module.InitModule(host.publicInformation);
     EXPECT_FALSE(module.Menu().empty());
     for (const char* item : {"ITEM6066", "ITEM6067", "ITEM6068"}) module.Pick(item);
+    QWidget* const screen = WindowOf("TfrmNorvikQry");
+    ASSERT_NE(screen, nullptr);
+    screen->findChild<QComboBox*>(QString::fromLatin1("m_cbxAcc"))->setCurrentIndex(1);
+    screen->findChild<QAbstractButton*>(QString::fromLatin1("m_spdQuery"))->click();
+    const auto* list = screen->findChild<QAbstractItemView*>(QString::fromLatin1("m_lvMain"));
+    EXPECT_EQ(list->model()->rowCount(), 2);
     QCoreApplication::processEvents();
   }
+  std::vector<std::string> codes;
+  for (const auto& call : host.CallsOf(fakehost::Library::kSafeCom, 5)) codes.push_back(call.arguments[0]);
+  EXPECT_EQ(codes, (std::vector<std::string>{"EBBADQAH", "EBBADQAH", "EBBADQDB"}));
+  EXPECT_EQ(host.given, host.released);
   EXPECT_FALSE(IsLoaded(NORVIK_QRY_UNLOADABLE));
 }
 
