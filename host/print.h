@@ -18,8 +18,7 @@ class PrintIntf {
   void Init(norvik_handle publicInformation);
 
   /// Prints `data`, which may be empty. Sets in `head` COUNT to the number of rows, MAKEDATE to the local
-  /// date and time
-  /// ("yyyy-mm-dd hh:mm:ss") and SELCONDITION to `condition`, also if printing fails.
+  /// date and time ("yyyy-mm-dd hh:mm:ss") and SELCONDITION to `condition`, also if printing fails.
   void PrintList(const std::string& templateName, const std::string& condition, corvane::Row& head,
                  const corvane::List& data) const;
 

@@ -89,6 +89,14 @@ TEST(ColumnOrder, PutsTheSavedLayoutFirst) {
   }
 }
 
+TEST(ColumnTag, FollowsTheTable) {
+  const struct {
+    const char* format;
+    int tag;
+  } cases[] = {{"C", 0}, {"M", 2}, {"R", 5}, {"N", 4}, {"X", 100}, {"", 0}, {"m", 0}, {"MM", 0}};
+  for (const auto& c : cases) EXPECT_EQ(ColumnTag(c.format), c.tag) << c.format;
+}
+
 TEST(IsTextFileName, LooksBehindTheLastDot) {
   for (const char* name : {"a.txt", "a.TXT", "/tmp/a.b/c.tXt"}) EXPECT_TRUE(IsTextFileName(name)) << name;
   for (const char* name : {"a.xls", "txt", "", "a.", "a.txt.xls", "a.txt/b"}) {

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdlib>
+#include <ctime>
+
 #include "tests/host/services.h"
 
 namespace {
@@ -23,9 +27,18 @@ TEST(PubInfo, SendsItsKeysInOrderAndReadsTheDocument) {
   corvane::Row row = services.pubInfo.GetIniplusRow("FIELDDEF", "TfrmX", 0);
   EXPECT_EQ(std::string(row["TITLE"]), "t");
   EXPECT_EQ(services.pubInfo.GetIniplusList("BUSINESSDICT", "AGENTSTT").size(), 1u);
+  host.SetAnswer(kPub, 60, {"SYSCONFIG_DATA"},
+                 fakehost::Text("<ini><section name=\"S\"><A>1</A></section></ini>"));
+  EXPECT_EQ(services.pubInfo.GetIni("SYSCONFIG_DATA").getSection("S").getValue("A"), "1");
+  host.SetAnswer(kPub, 82, {"COLUMN_INFO"},
+                 fakehost::Text("<iniplus><section name=\"S\"><row><A>1</A></row></section></iniplus>"));
+  EXPECT_EQ(services.pubInfo.GetIniplus("COLUMN_INFO").getSection("S").size(), 1u);
+  const corvane::Field field("CURSHORTCUT.ITEMNAME", "ITEM6066");
+  services.pubInfo.SetField("ENVIRONMENT", field);
+  EXPECT_EQ(host.CallsOf(kPub, 23), (std::vector<Call>{{kPub, 23, {"ENVIRONMENT", field.toString()}}}));
   services.pubInfo.SetHandle("TfrmX", 0xFFFFFFFF);
   EXPECT_EQ(services.pubInfo.GetHandle("TfrmX"), 0xFFFFFFFFu);
-  EXPECT_EQ(host.released, 4);
+  EXPECT_EQ(host.released, 6);
 }
 
 TEST(PubInfo, ReadsAsManyBytesAsTheHostTells) {
@@ -227,16 +240,29 @@ TEST(Excel, SendsThreeTextsInOrder) {
                             {Library::kExcel, 5, {"/tmp/a.txt", texts[0], texts[1], texts[2], "|", "2"}}}));
 }
 
+// The local date and time as a report bears it.
+std::string LocalNow() {
+  const std::time_t now = std::time(nullptr);
+  std::array<char, 20> text = {};
+  std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", std::localtime(&now));
+  return text.data();
+}
+
 TEST(Print, CompletesTheHeadAndSendsIt) {
+  setenv("TZ", "XYZ-7", 1);  // far from the bank's and from universal time
+  tzset();
   FakeHost host;
   Services services(host);
   corvane::Row head;
   head["COUNT"] = "stale"s;
   head["TITLE"] = "t"s;
+  const std::string before = LocalNow();
   services.print->PrintList("TfrmX", "all", head, corvane::List());
   EXPECT_EQ(std::string(head["COUNT"]), "0");
   EXPECT_EQ(std::string(head["SELCONDITION"]), "all");
-  EXPECT_EQ(std::string(head["MAKEDATE"]).size(), std::string("2026-01-31 23:59:59").size());
+  EXPECT_LE(before, head.getValue("MAKEDATE"));
+  EXPECT_LE(head.getValue("MAKEDATE"), LocalNow());
+  EXPECT_EQ(head.getValue("TITLE"), "t");
   services.print->PrintSetup("TfrmX");
   EXPECT_EQ(host.calls,
             (std::vector<Call>{{Library::kPrint, 3, {"TfrmX", head.toString(), corvane::List().toString()}},

@@ -317,6 +317,9 @@ TEST_F(NorvikQry, OpensWithoutAnyAccount) {
   host.SetAccounts(0);
   Open();
   EXPECT_EQ(form->m_cbxAcc->Items().Count(), 0u);
+  // The box is not on all accounts, so the bank is asked for the institutions of what it is on: nothing.
+  EXPECT_EQ(host.Requests("EBBADQAH").size(), 1u);
+  EXPECT_EQ(form->m_cbxBankNo->GetKey(), "-9999");
   EXPECT_NE(Request().find("<row><CUSTACC/></row>"), std::string::npos);
 }
 
