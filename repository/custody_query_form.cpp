@@ -50,6 +50,19 @@ constexpr RowActionLine kRowActions[] = {{&F::m_actTicketInfo, "m_actTicketInfo"
 
 }  // namespace
 
+namespace norvik {
+
+std::vector<CodedColumn> CodedColumns(std::vector<CodedColumn> before,
+                                      const std::vector<CodedColumn>& after) {
+  before.insert(
+      before.end(),
+      {{"BILLTYP", "BILLTYPE"}, {"TENDFLG", "YESORNO"}, {"AUTOCOL", "YESORNO"}, {"HASIMPN", "YESORNO"}});
+  before.insert(before.end(), after.begin(), after.end());
+  return before;
+}
+
+}  // namespace norvik
+
 TCustodyQueryForm::TCustodyQueryForm(TComponent* owner) : TQueryForm(owner) {}
 
 TCustodyQueryForm::~TCustodyQueryForm() = default;

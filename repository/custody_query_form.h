@@ -27,6 +27,11 @@ struct CodedColumn {
   const char* dictionary;
 };
 
+// The coded columns of a bill, which every answer has, between those that a screen decodes before and after
+// them.
+std::vector<CodedColumn> CodedColumns(std::vector<CodedColumn> before,
+                                      const std::vector<CodedColumn>& after = {});
+
 // What a screen is, beside its conditions.
 struct CustodyProfile {
   const char* businessCode;

@@ -18,56 +18,40 @@ constexpr norvik::DateRangeRule kBusinessDates = {.startMissing = "UI44842",
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikDTLQry::Profile() const {
-  static const norvik::CustodyProfile profile = {.businessCode = "CB200330",
-                                                 .exportType = "BusinessDTLQry",
-                                                 .captionKey = "UI25830",
-                                                 .codedColumns = {{"APPTYPE", "BUSITYPE"},
-                                                                  {"BILLTYP", "BILLTYPE"},
-                                                                  {"TENDFLG", "YESORNO"},
-                                                                  {"AUTOCOL", "YESORNO"},
-                                                                  {"HASIMPN", "YESORNO"},
-                                                                  {"KZRFLAG", "TRANSMK"}},
-                                                 .dateChoiceCell = {1, 0},
-                                                 .dateChoiceFields = 2,
-                                                 .queryRow = 2,
-                                                 .advanceOpen = true,
-                                                 .namesInstitutions = true,
-                                                 .outputAlwaysOn = true};
+  static const norvik::CustodyProfile profile =
+      PeriodProfile("CB200330", "BusinessDTLQry", "UI25830", {{"APPTYPE", "BUSITYPE"}});
   return profile;
 }
 
 std::vector<Condition> TfrmNorvikDTLQry::Conditions() {
-  std::vector<Condition> conditions = {
-      AccountCondition({0, 0}, "Label2"),
-      InstitutionCondition({0, 1}, ""),
-      BillNumberCondition({0, 2}, false),
-      {.control = &m_edBillId,
-       .name = "m_edBillId",
-       .labelName = "m_lbBillId",
-       .captionKey = "UI44006",
-       .designCaption = "票据ID",
-       .cell = {1, 0},
-       .input = norvik::TextInput(20),
-       .emptied = Emptied::kAtClose,
-       .field = "BILLSID"},
-      BillTypeCondition({1, 1}, ""),
-      LoanTypeCondition("UI44496", "业务类别", {1, 2}),
-      {.control = &m_edFlowNo,
-       .name = "m_edFlowNo",
-       .labelName = "m_lbFlowNo",
-       .captionKey = "UI44497",
-       .designCaption = "业务流水号",
-       .cell = {2, 0},
-       .input = norvik::TextInput(18),
-       .emptied = Emptied::kAtClose,
-       .field = "BSNFLOW"},
-      BankRemarkCondition({2, 1}),
-  };
-  for (const Condition& date :
-       DateConditions({"UI44556", "起始业务发生日期", "m_lbeee", "UI44557", "截止业务发生日期", "Label3"})) {
-    conditions.push_back(date);
-  }
-  return conditions;
+  return WithDates(
+      {
+          AccountCondition({0, 0}, "Label2"),
+          InstitutionCondition({0, 1}, ""),
+          BillNumberCondition({0, 2}, false),
+          {.control = &m_edBillId,
+           .name = "m_edBillId",
+           .labelName = "m_lbBillId",
+           .captionKey = "UI44006",
+           .designCaption = "票据ID",
+           .cell = {1, 0},
+           .input = norvik::TextInput(20),
+           .emptied = Emptied::kAtClose,
+           .field = "BILLSID"},
+          BillTypeCondition({1, 1}, ""),
+          LoanTypeCondition("UI44496", "业务类别", {1, 2}),
+          {.control = &m_edFlowNo,
+           .name = "m_edFlowNo",
+           .labelName = "m_lbFlowNo",
+           .captionKey = "UI44497",
+           .designCaption = "业务流水号",
+           .cell = {2, 0},
+           .input = norvik::TextInput(18),
+           .emptied = Emptied::kAtClose,
+           .field = "BSNFLOW"},
+          BankRemarkCondition({2, 1}),
+      },
+      {"UI44556", "起始业务发生日期", "m_lbeee"}, {"UI44557", "截止业务发生日期", "Label3"});
 }
 
 void TfrmNorvikDTLQry::LoadDictionaries() {

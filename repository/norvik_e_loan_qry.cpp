@@ -18,55 +18,38 @@ constexpr norvik::DateRangeRule kApplicationDates = {.startMissing = "UI44840",
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikELoanQry::Profile() const {
-  static const norvik::CustodyProfile profile = {.businessCode = "CB200320",
-                                                 .exportType = "ELoanQry",
-                                                 .captionKey = "UI25828",
-                                                 .codedColumns = {{"APPREST", "LOANRESULT"},
-                                                                  {"APPTYPE", "LOANTYPEAPP"},
-                                                                  {"BILLTYP", "BILLTYPE"},
-                                                                  {"TENDFLG", "YESORNO"},
-                                                                  {"AUTOCOL", "YESORNO"},
-                                                                  {"HASIMPN", "YESORNO"},
-                                                                  {"KZRFLAG", "TRANSMK"}},
-                                                 .dateChoiceCell = {1, 0},
-                                                 .dateChoiceFields = 2,
-                                                 .queryRow = 2,
-                                                 .advanceOpen = true,
-                                                 .namesInstitutions = true,
-                                                 .outputAlwaysOn = true};
+  static const norvik::CustodyProfile profile = PeriodProfile(
+      "CB200320", "ELoanQry", "UI25828", {{"APPREST", "LOANRESULT"}, {"APPTYPE", "LOANTYPEAPP"}});
   return profile;
 }
 
 std::vector<Condition> TfrmNorvikELoanQry::Conditions() {
-  std::vector<Condition> conditions = {
-      AccountCondition({0, 0}, "Label3"),
-      InstitutionCondition({0, 1}, "Label1"),
-      BillNumberCondition({0, 2}, false),
-      BillTypeCondition({1, 0}, ""),
-      {.control = &m_edLoanNo,
-       .name = "m_edLoanNo",
-       .labelName = "m_lbLoanNo",
-       .captionKey = "UI44474",
-       .designCaption = "申请编号",
-       .cell = {1, 1},
-       .input = norvik::TextInput(18),
-       .emptied = Emptied::kAtClose,
-       .field = "APPLYNO"},
-      LoanTypeCondition("UI44475", "申请类别", {1, 2}),
-      {.control = &m_cbxLoanResult,
-       .name = "m_cbxLoanResult",
-       .labelName = "m_lbLoanResult",
-       .captionKey = "UI44476",
-       .designCaption = "申请状态",
-       .cell = {2, 0},
-       .field = "APPREST"},
-      BankRemarkCondition({2, 1}),
-  };
-  for (const Condition& date :
-       DateConditions({"UI44477", "起始申请日期", "Label2", "UI44478", "截止申请日期", "Label4"})) {
-    conditions.push_back(date);
-  }
-  return conditions;
+  return WithDates(
+      {
+          AccountCondition({0, 0}, "Label3"),
+          InstitutionCondition({0, 1}, "Label1"),
+          BillNumberCondition({0, 2}, false),
+          BillTypeCondition({1, 0}, ""),
+          {.control = &m_edLoanNo,
+           .name = "m_edLoanNo",
+           .labelName = "m_lbLoanNo",
+           .captionKey = "UI44474",
+           .designCaption = "申请编号",
+           .cell = {1, 1},
+           .input = norvik::TextInput(18),
+           .emptied = Emptied::kAtClose,
+           .field = "APPLYNO"},
+          LoanTypeCondition("UI44475", "申请类别", {1, 2}),
+          {.control = &m_cbxLoanResult,
+           .name = "m_cbxLoanResult",
+           .labelName = "m_lbLoanResult",
+           .captionKey = "UI44476",
+           .designCaption = "申请状态",
+           .cell = {2, 0},
+           .field = "APPREST"},
+          BankRemarkCondition({2, 1}),
+      },
+      {"UI44477", "起始申请日期", "Label2"}, {"UI44478", "截止申请日期", "Label4"});
 }
 
 void TfrmNorvikELoanQry::LoadDictionaries() {

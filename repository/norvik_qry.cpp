@@ -37,20 +37,17 @@ constexpr norvik::DateRangeRule kDueDates = {.startMissing = "UI44869",
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikQry::Profile() const {
-  static const norvik::CustodyProfile profile = {.businessCode = "CB200310",
-                                                 .exportType = "BillQry",
-                                                 .captionKey = "UI25826",
-                                                 .codedColumns = {{"AGTSTAT", "AGENTSTT"},
-                                                                  {"BILLTYP", "BILLTYPE"},
-                                                                  {"TENDFLG", "YESORNO"},
-                                                                  {"AUTOCOL", "YESORNO"},
-                                                                  {"HASIMPN", "YESORNO"}},
-                                                 .dateChoiceCell = {1, 1},
-                                                 .dateChoiceFields = 2,
-                                                 .queryRow = 4,
-                                                 .advanceOpen = false,
-                                                 .namesInstitutions = false,
-                                                 .outputAlwaysOn = false};
+  static const norvik::CustodyProfile profile = {
+      .businessCode = "CB200310",
+      .exportType = "BillQry",
+      .captionKey = "UI25826",
+      .codedColumns = norvik::CodedColumns({{"AGTSTAT", "AGENTSTT"}}),
+      .dateChoiceCell = {1, 1},
+      .dateChoiceFields = 2,
+      .queryRow = 4,
+      .advanceOpen = false,
+      .namesInstitutions = false,
+      .outputAlwaysOn = false};
   return profile;
 }
 

@@ -26,27 +26,45 @@ void TPeriodQueryForm::m_dtEndDateChange(TObject*) {
   if (!MadeByQuickChoice()) m_pCommon->LimitEndDate(m_dtStartDate, m_dtEndDate, m_rgSelDate);
 }
 
-std::vector<Condition> TPeriodQueryForm::DateConditions(const DateCaptions& captions) {
-  return {{.control = &m_dtStartDate,
-           .name = "m_dtStartDate",
-           .labelName = "m_lbStartDate",
-           .captionKey = captions.startKey,
-           .designCaption = captions.startDesign,
-           .starName = captions.startStar,
-           .panel = ConditionPanel::kAdvance,
-           .cell = {0, 0},
-           .emptied = Emptied::kAtShow,
-           .field = "APLYDTS"},
-          {.control = &m_dtEndDate,
-           .name = "m_dtEndDate",
-           .labelName = "m_lbEndDate",
-           .captionKey = captions.endKey,
-           .designCaption = captions.endDesign,
-           .starName = captions.endStar,
-           .panel = ConditionPanel::kAdvance,
-           .cell = {0, 1},
-           .emptied = Emptied::kAtShow,
-           .field = "APLYDTE"}};
+norvik::CustodyProfile TPeriodQueryForm::PeriodProfile(const char* businessCode, const char* exportType,
+                                                       const char* captionKey,
+                                                       std::vector<norvik::CodedColumn> ownColumns) {
+  return {.businessCode = businessCode,
+          .exportType = exportType,
+          .captionKey = captionKey,
+          .codedColumns = norvik::CodedColumns(std::move(ownColumns), {{"KZRFLAG", "TRANSMK"}}),
+          .dateChoiceCell = {1, 0},
+          .dateChoiceFields = 2,
+          .queryRow = 2,
+          .advanceOpen = true,
+          .namesInstitutions = true,
+          .outputAlwaysOn = true};
+}
+
+std::vector<Condition> TPeriodQueryForm::WithDates(std::vector<Condition> conditions,
+                                                   const DateCaption& start, const DateCaption& end) {
+  struct DateLine {
+    TKVXDateTime** control;
+    const char* name;
+    const char* labelName;
+    const DateCaption& caption;
+    const char* field;
+  };
+  int place = 0;
+  for (const DateLine& line : {DateLine{&m_dtStartDate, "m_dtStartDate", "m_lbStartDate", start, "APLYDTS"},
+                               DateLine{&m_dtEndDate, "m_dtEndDate", "m_lbEndDate", end, "APLYDTE"}}) {
+    conditions.push_back({.control = line.control,
+                          .name = line.name,
+                          .labelName = line.labelName,
+                          .captionKey = line.caption.key,
+                          .designCaption = line.caption.design,
+                          .starName = line.caption.star,
+                          .panel = ConditionPanel::kAdvance,
+                          .cell = {0, place++},
+                          .emptied = Emptied::kAtShow,
+                          .field = line.field});
+  }
+  return conditions;
 }
 
 Condition TPeriodQueryForm::LoanTypeCondition(const char* captionKey, const char* designCaption,

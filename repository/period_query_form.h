@@ -20,18 +20,21 @@ class TPeriodQueryForm : public TCustodyQueryForm {
   TKVXComboBox* m_cbxLoanType = nullptr;
 
  protected:
-  // The captions of the two dates, in the advanced panel.
-  struct DateCaptions {
-    const char* startKey;
-    const char* startDesign;
-    const char* startStar;
-    const char* endKey;
-    const char* endDesign;
-    const char* endStar;
+  // What a screen says beside one of its dates.
+  struct DateCaption {
+    const char* key;
+    const char* design;  // UTF-8
+    const char* star;    // name of its "*"
   };
 
+  // The profile of a screen of this kind; it decodes `ownColumns` first.
+  static norvik::CustodyProfile PeriodProfile(const char* businessCode, const char* exportType,
+                                              const char* captionKey,
+                                              std::vector<norvik::CodedColumn> ownColumns);
   std::pair<TKVXDateTime*, TKVXDateTime*> QuickDates() override { return {m_dtStartDate, m_dtEndDate}; }
-  std::vector<norvik::Condition> DateConditions(const DateCaptions& captions);
+  // The screen's table: its conditions, and behind them the two dates in the advanced panel.
+  std::vector<norvik::Condition> WithDates(std::vector<norvik::Condition> conditions,
+                                           const DateCaption& start, const DateCaption& end);
   norvik::Condition LoanTypeCondition(const char* captionKey, const char* designCaption,
                                       norvik::ConditionCell cell);
 
