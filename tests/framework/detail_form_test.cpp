@@ -131,6 +131,20 @@ TEST_F(DetailForm, SavesItsLayoutAtEachClose) {
   EXPECT_EQ(SavedWidths(), "nothing");
 }
 
+TEST_F(DetailForm, StartsAfreshAtEachShow) {
+  Open();
+  for (const bool sumRow : {true, false}) {
+    form->m_crbAllCheck->SetChecked(true);
+    form->m_pnStatusText->SetCaption("old");
+    form->m_lvMain->SetShowSumRow(sumRow);
+    form->Close();
+    form->Show();
+    EXPECT_FALSE(form->m_crbAllCheck->Checked());
+    EXPECT_EQ(form->m_pnStatusText->Caption(), "");
+    EXPECT_EQ(form->m_actSum->Visible(), !sumRow);
+  }
+}
+
 TEST_F(DetailForm, OffersItsActions) {
   Open();
   std::string menu;

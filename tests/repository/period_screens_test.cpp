@@ -9,9 +9,11 @@
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/date_edit.h"
+#include "toolkit/labels.h"
 #include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 #include "toolkit/radio_group.h"
+#include "toolkit/text.h"
 
 namespace {
 
@@ -39,6 +41,18 @@ struct Opened {
     }
     return text + stream.getList("resultList")[0].getValue("CUSTACC") + " of " +
            std::to_string(stream.getFields().size());
+  }
+
+  std::string CaptionOf(const char* label) const {
+    const auto* found = dynamic_cast<TLabel*>(form->FindComponent(label));
+    return found == nullptr ? "" : found->Caption();
+  }
+  // The row that the screen makes of an answer's row.
+  corvane::Property Shown(const ScreenHost::Table& row) {
+    SetDates("20260101", "20260102");
+    host.SetAnswerRows(ScreenHost::ListOf(row));
+    form->m_actQuery->Execute();
+    return *form->m_lvMain->Items()[0]->Data();
   }
 
   ScreenHost host;
@@ -125,17 +139,99 @@ TEST(NorvikDtlQry, SendsItsConditions) {
   EXPECT_EQ(screen.Sent(), "APPTYPE=01 BILLSID=a1 BILLTYP=AC00 BSNCODE=CB200330 BSNFLOW=f2 A1|A2 of 24");
 }
 
+TEST(PeriodScreens, CaptionTheirConditions) {
+  const std::string remark = Ansi("银行备注");
+  const struct {
+    const char* label;
+    std::string ofLoans, ofEvents;  // empty: the screen has no such label
+  } cases[] = {
+      {"m_lbAcc", "UI44003", "UI44003"},
+      {"m_lbBankNo", "UI44001", "UI44001"},
+      {"m_lbNo", "UI44008", "UI44008"},
+      {"m_lbType", "UI44007", "UI44007"},
+      {"m_lbLoanNo", "UI44474", ""},
+      {"m_lbLoanType", "UI44475", "UI44496"},
+      {"m_lbLoanResult", "UI44476", ""},
+      {"m_lbBillId", "", "UI44006"},
+      {"m_lbFlowNo", "", "UI44497"},
+      {"m_lbBankRmk", remark, remark},
+      {"m_lbStartDate", "UI44477", "UI44556"},
+      {"m_lbEndDate", "UI44478", "UI44557"},
+      {"Label1", "*", ""},
+      {"Label2", "*", "*"},
+      {"Label3", "*", "*"},
+      {"Label4", "*", ""},
+      {"m_lbeee", "", "*"},
+  };
+  {
+    Opened<TfrmNorvikELoanQry> loans;
+    for (const auto& c : cases) EXPECT_EQ(loans.CaptionOf(c.label), c.ofLoans) << c.label;
+    EXPECT_EQ(loans.form->Caption(), "UI25828");
+    EXPECT_EQ(loans.form->m_edNo->InputRule().max_length, 16);
+    EXPECT_EQ(loans.form->m_edLoanNo->InputRule().max_length, 18);
+  }
+  Opened<TfrmNorvikDTLQry> events;
+  for (const auto& c : cases) EXPECT_EQ(events.CaptionOf(c.label), c.ofEvents) << c.label;
+  EXPECT_EQ(events.form->Caption(), "UI25830");
+  EXPECT_EQ(events.form->m_edBillId->InputRule().max_length, 20);
+  EXPECT_EQ(events.form->m_edFlowNo->InputRule().max_length, 18);
+}
+
+TEST(PeriodScreens, DecodeTheirColumnsAndNameTheirExports) {
+  const ScreenHost::Table row = {
+      {"BILLNUM", "APPREST", "APPTYPE", "BILLTYP", "TENDFLG", "AUTOCOL", "HASIMPN", "KZRFLAG"},
+      {"1", "01", "01", "AC02", "1", "0", "1", "EM00"}};
+  const auto look = [&](auto& screen, const char* typeDictionary) {
+    const std::pair<const char*, const char*> texts[] = {
+        {"LOANRESULT", "result"}, {typeDictionary, "type"}, {"TRANSMK", "transfer"}};
+    for (const auto& [dictionary, text] : texts) {
+      screen.host.SetText(text, text);
+      screen.host.SetTable(
+          "BUSINESSDICT", dictionary,
+          ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"-9999", "UI40115"}, {"01", text}, {"EM00", text}}));
+    }
+    const corvane::Property shown = screen.Shown(row);
+    std::string values;
+    for (const std::string& field : row[0]) values += shown.getValue(field) + " ";
+    screen.form->OutputRecords("/x/a.xls", true);
+    const auto written = screen.host.libraries.CallsOf(fakehost::Library::kExcel, 2);
+    return values + corvane::Row(written.at(0).arguments.at(1)).getValue("TYPEVAL");
+  };
+  {
+    Opened<TfrmNorvikELoanQry> loans;
+    EXPECT_EQ(look(loans, "LOANTYPEAPP"), "1 result type UI40117 UI12016 UI12017 UI12016 transfer ELoanQry");
+  }
+  Opened<TfrmNorvikDTLQry> events;
+  EXPECT_EQ(look(events, "BUSITYPE"), "1 01 type UI40117 UI12016 UI12017 UI12016 transfer BusinessDTLQry");
+}
+
+TEST(PeriodScreens, StartAfreshAtEachShow) {
+  Opened<TfrmNorvikDTLQry> screen;
+  TfrmNorvikDTLQry* form = screen.form;
+  for (TKVXEdit* edit : {form->m_edNo, form->m_edBillId, form->m_edFlowNo}) edit->SetText("1");
+  for (TKVXComboBox* box : {form->m_cbxAcc, form->m_cbxType, form->m_cbxLoanType, form->m_cbxBankRmk}) {
+    box->SetItemIndex(1);
+  }
+  screen.Shown({{"BILLNUM"}, {"1"}});
+  form->m_rgSelDate->SetItemIndex(0);
+  form->m_cbxAccChange(form);
+  EXPECT_GT(form->m_cbxBankNo->Items().Count(), 0u);
+  form->m_pnlAdvance->SetRollState(true);
+  form->Close();
+  form->Show();
+  EXPECT_EQ(screen.Sent(), "BILLTYP=AC00 BSNCODE=CB200330 A1|A2 of 24");
+  EXPECT_EQ(form->m_cbxBankNo->Items().Count(), 0u);
+  EXPECT_EQ(form->m_lvMain->Items().Count(), 0);
+  EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
+  EXPECT_FALSE(form->m_pnlAdvance->RollState());
+}
+
 TEST(PeriodScreens, LeaveOutputOnAndNameTheInstitutions) {
   Opened<TfrmNorvikELoanQry> screen;
-  screen.SetDates("20260101", "20260102");
-  screen.host.SetAnswerRows(ScreenHost::ListOf({{"BILLNUM", "BSNPUNO", "HASIMPN"}, {"1", "short", "1"}}));
-  screen.form->m_actQuery->Execute();
-  ASSERT_EQ(screen.form->m_lvMain->Items().Count(), 1);
+  const corvane::Property row = screen.Shown({{"BILLNUM", "BSNPUNO"}, {"1", "short"}});
   EXPECT_TRUE(screen.form->m_actOutput->Enabled());
   EXPECT_FALSE(screen.form->m_actTicketInfo->Enabled());
-  const corvane::Property& row = *screen.form->m_lvMain->Items()[0]->Data();
   EXPECT_TRUE(row.hasField("BSNPUNM"));
-  EXPECT_EQ(row.getValue("HASIMPN"), "UI12016");
 }
 
 TEST(PeriodScreens, HoldTypedDatesToTodayAndTheQuickChoiceToThem) {

@@ -3,13 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "repository/app_qry_info.h"
 #include "repository/detail_qry_info.h"
 #include "repository/qry_info.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
+#include "toolkit/buttons.h"
 #include "toolkit/labels.h"
 #include "toolkit/panels.h"
+#include "toolkit/text.h"
 
 namespace {
 
@@ -82,30 +86,85 @@ TEST_F(RecordInfoForm, ShowsValuesAsTheyStand) {
 }
 
 TEST_F(RecordInfoForm, HasTheRowsOfItsKind) {
+  // B: of a bill, A: of an application, E: of an event. A bill's type and payer are told above.
   const struct {
     const char* row;
-    bool ofBill;
-    bool ofApplication;
-    bool ofEvent;
+    const char* caption;
+    const char* field;
+    std::string_view kinds;
   } cases[] = {
-      {"m_lbAgtStt", true, false, false},  {"m_lbPurpose", true, false, true},
-      {"m_lbCustRem", false, true, false}, {"m_lbBankRem", false, true, false},
-      {"m_lbAppNo", false, true, false},   {"m_lbBsnFlwNo", false, false, true},
-      {"m_lbTranFlg", false, true, true},  {"m_lbBankPur", true, true, true},
-      {"m_lbCustNo", true, true, true},
+      {"m_lbTicketNo", "UI44307", "BILLNUM", "BAE"},
+      {"m_lbBillId", "票据ID", "BILLSID", "BAE"},
+      {"m_lbOutData", "UI44342", "ISSDATE", "BAE"},
+      {"m_lbDeadData", "UI44343", "DUEDATE", "BAE"},
+      {"m_lbMoney", "UI44344", "PAYAMT", "BAE"},
+      {"m_lbOuterNM", "UI44345", "DRWRNAM", "BAE"},
+      {"m_lbOuterAcc", "UI44348", "DRWRACC", "BAE"},
+      {"m_lbRecverNM", "UI44349", "PYEENAM", "BAE"},
+      {"m_lbRecverBankName", "UI44351", "PYEEBNA", "BAE"},
+      {"m_lbRecverAcc", "UI44352", "PYEEACC", "BAE"},
+      {"m_lbPtEndNm", "UI44031", "PTENDNM", "BAE"},
+      {"m_lbEndRmnt", "UI44033", "ENDRMNT", "BAE"},
+      {"m_lbHasImpn", "UI44362", "HASIMPN", "BAE"},
+      {"m_lbSaveNo", "存票批次号", "BATCHNO", "BAE"},
+      {"m_lbSaveDate", "存票日期", "SAVEDAT", "BAE"},
+      {"m_lbAutoCol", "UI44410", "AUTOCOL", "BAE"},
+      {"m_lbRetmAcc", "UI44411", "RETMACC", "BAE"},
+      {"m_lbTendFlg", "UI44032", "TENDFLG", "BAE"},
+      {"m_lbType", "UI44308", "BILLTYP", "BAE"},
+      {"m_lbPurpose", "客户备注", "APLYRMK", "BE"},
+      {"m_lbBankPur", "银行备注", "CHEKRMK", "BE"},
+      {"m_lbCustRem", "客户备注", "APLYRMK", "A"},
+      {"m_lbBankRem", "银行备注", "CHEKRMK", "A"},
+      {"m_lbCustAcc", "代保管账号", "CUSTACC", "BAE"},
+      {"m_lbCustName", "代保管客户名称", "CUSTNAM", "BAE"},
+      {"m_lbAgtName", "代保管机构名称", "AGTBNAM", "BAE"},
+      {"m_lbAgtBank", "代保管机构联行号", "AGTBHNM", "BAE"},
+      {"m_lbCustNo", "代保管客户号", "CUSTNUM", "BAE"},
+      {"m_lbAgtStt", "代保管状态", "AGTSTAT", "B"},
+      {"m_lbAppNo", "申请编号", "APPLYNO", "A"},
+      {"m_lbAppStt", "申请状态", "APPREST", "A"},
+      {"m_lbAppTyp", "申请类别", "APPTYPE", "A"},
+      {"m_lbAppTyp", "业务类别", "APPTYPE", "E"},
+      {"m_lbAppDate", "申请日期", "APPDATE", "A"},
+      {"m_lbBsnFlwNo", "业务流水号", "BSNFLWNO", "E"},
+      {"m_lbBsnDat", "业务发生日期", "BSNDAT", "E"},
+      {"m_lbCustDat", "客户经办日期", "DLDAT", "AE"},
+      {"m_lbCustOpr", "客户经办操作员", "DLOPR", "AE"},
+      {"m_lbCustAudDat", "客户审核日期", "CKDAT", "AE"},
+      {"m_lbCustAudOpr", "客户审核操作员", "CKOPR", "AE"},
+      {"m_lbAccpBankNo", "业务受理机构联行号", "BSNPUNO", "AE"},
+      {"m_lbAccpAgtNm", "业务受理机构名称", "BSNPUNM", "AE"},
+      {"m_lbBankAudDat", "银行审批日期", "CHCKDAT", "AE"},
+      {"m_lbBankAudOpr", "银行审批操作员", "BKCKOPR", "AE"},
+      {"m_lbGetName", "取票人名称", "GETPNAM", "AE"},
+      {"m_lbCertTyp", "取票人证件类型", "GETPTYP", "AE"},
+      {"m_lbCertNo", "取票人证件号码", "GETPNUM", "AE"},
+      {"m_lbTranFlg", "是否可转让", "KZRFLAG", "AE"},
+      {"m_lbAppPur", "客户申请备注", "CUSTRMK", "A"},
+      {"m_lbBankPur", "银行备注", "BANKRMK", "A"},
   };
-  const auto expect = [&](auto which) {
-    for (const auto& c : cases)
-      EXPECT_EQ(Row(c.row) != "missing", c.*which) << view->ClassName() << " " << c.row;
+  corvane::Property record;
+  for (const auto& c : cases) record[c.field] = c.field;
+  const auto expect = [&](char kind) {
+    std::set<std::string> others;
+    for (const auto& c : cases) others.insert(c.row);
+    for (const auto& c : cases) {
+      if (c.kinds.find(kind) == std::string_view::npos) continue;
+      EXPECT_EQ(Row(c.row), Ansi(c.caption) + "=" + c.field) << kind;
+      others.erase(c.row);
+    }
+    for (const std::string& row : others) EXPECT_EQ(Row(row), "missing") << kind << " " << row;
+    EXPECT_EQ(view->FindComponent("m_spBusiInfo") != nullptr, kind != 'B');
+    EXPECT_EQ(view->Caption() + view->m_btnClose->Caption(), "UI44399UI41187");
     DestroyForm(view);
   };
-  using Case = std::remove_cvref_t<decltype(cases[0])>;
-  Open<TfrmQryInfo>({});
-  expect(&Case::ofBill);
-  Open<TfrmAppQryInfo>({});
-  expect(&Case::ofApplication);
-  Open<TfrmDetailQryInfo>({});
-  expect(&Case::ofEvent);
+  Open<TfrmQryInfo>(record);
+  expect('B');
+  Open<TfrmAppQryInfo>(record);
+  expect('A');
+  Open<TfrmDetailQryInfo>(record);
+  expect('E');
 }
 
 }  // namespace
