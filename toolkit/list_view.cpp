@@ -84,6 +84,12 @@ TListItem* TCustomListView::GetItemAt(int x, int y) const {
   return index.isValid() ? &model_->Row(index.row()).item : nullptr;
 }
 
+void TCustomListView::FontChanged() {
+  TbsSkinControl::FontChanged();
+  // Under a skin Qt doesn't hand a font on to what a widget is made of.
+  if (Tree() != nullptr) Tree()->header()->setFont(Font()->ToQFont());
+}
+
 void TCustomListView::Clear() {
   SetSelected(nullptr);
   model_->Clear();

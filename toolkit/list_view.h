@@ -206,6 +206,7 @@ class TCustomListView : public TbsSkinControl {
  protected:
   explicit TCustomListView(TComponent* owner);
   bool WidgetEvent(QWidget* widget, QEvent* event) override;
+  void FontChanged() override;
   TListModel* Model() const { return model_; }
   /// The Qt view, null once it has been deleted from outside.
   TListTree* Tree() const;

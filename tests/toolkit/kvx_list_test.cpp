@@ -318,6 +318,16 @@ TEST_F(KvxListTest, TheUserWidensAndMovesColumns) {
   EXPECT_EQ(view->model()->headerData(0, Qt::Horizontal).toString(), "caption of PAYAMT");
 }
 
+TEST_F(KvxListTest, TheHeaderHasTheListsFontUnderASkinToo) {
+  Fill(1);
+  const auto height = [this] { return view->header()->sizeHint().height(); };
+  const int before = height();
+  form->Widget()->setStyleSheet("QTreeView { border: 0; } QHeaderView::section { font-weight: bold; }");
+  list->Font()->SetSize(30);
+  EXPECT_EQ(view->header()->font().pointSize(), 30);
+  EXPECT_GT(height(), before + 10);
+}
+
 TEST_F(KvxListTest, AColumnIsDraggedByItsHeader) {
   QWidget* header = view->header()->viewport();
   const auto send = [&](QEvent::Type type, int x) {
