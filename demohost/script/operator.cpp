@@ -59,7 +59,9 @@ Operator::Action Operator::Prepare(const ScriptStep& step) {
 }
 
 QWidget* Operator::Dialog() {
-  return QApplication::activeModalWidget();
+  // A modal window without a button is a picture of something at work; it goes by itself.
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal == nullptr || modal->findChild<QAbstractButton*>() == nullptr ? nullptr : modal;
 }
 
 QWidget* Operator::Target() const {
@@ -68,6 +70,11 @@ QWidget* Operator::Target() const {
   QWidget* front = client_.front();
   if (front == nullptr) throw NotYet(QStringLiteral("no window of the module is open"));
   return front;
+}
+
+QWidget* Operator::Front() const {
+  QWidget* menu = QApplication::activePopupWidget();
+  return menu == nullptr ? Target() : menu;
 }
 
 QWidget* Operator::Control(const QString& name) const {
@@ -154,7 +161,7 @@ Operator::Action Operator::Menu(const QStringList& words) {
 }
 
 Operator::Action Operator::Key(const QStringList& words) {
-  return [target = Target(), keys = words[0]] { PressKeys(target, keys); };
+  return [target = Front(), keys = words[0]] { PressKeys(target, keys); };
 }
 
 Operator::Action Operator::Type(const QStringList& words) {
@@ -194,7 +201,7 @@ Operator::Action Operator::Nothing(const QStringList&) {
 }
 
 Operator::Action Operator::Picture(const QStringList& words) {
-  QWidget* widget = words.size() > 1 ? Control(words[1]) : Target();
+  QWidget* widget = words.size() > 1 ? Control(words[1]) : Front();
   return [this, widget, file = QFileInfo(words[0]).absoluteFilePath()] {
     QDir().mkpath(QFileInfo(file).path());
     if (!widget->grab().save(file)) throw NotYet(QStringLiteral("%1 can't be written").arg(file));

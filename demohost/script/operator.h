@@ -43,7 +43,7 @@ class Operator {
   // Throws NotYet.
   Action Prepare(const ScriptStep& step);
 
-  // The dialog in front, or null.
+  // The dialog in front that can be answered, or null.
   static QWidget* Dialog();
 
  private:
@@ -85,6 +85,8 @@ class Operator {
 
   // The dialog, else the chosen window, else the client's front window. Throws NotYet.
   QWidget* Target() const;
+  // The open menu, else the target. Throws NotYet.
+  QWidget* Front() const;
   QWidget* Control(const QString& name) const;
   template <class T>
   T* ControlAs(const QString& name, const char* kind) const;

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QImage>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
@@ -52,6 +53,7 @@ class Screen : public QWidget {
     list->setColumnHidden(2, true);
     ask = Add<QPushButton>(layout, "m_btnAsk");
     connect(ask, &QPushButton::clicked, this, [this] { Ask("Really delete?"); });
+    connect(Add<QPushButton>(layout, "m_btnWork"), &QPushButton::clicked, this, [this] { Work(); });
     auto* bound = Add<QPushButton>(layout, "m_spdQuery");
     bound->setProperty("action", "m_actQuery");
     connect(bound, &QPushButton::clicked, this, [this] { ++queries; });
@@ -76,6 +78,14 @@ class Screen : public QWidget {
     }
     answer = dialog.exec();
     if (answer == 1 && question.startsWith("Really")) Ask("Really really?");
+  }
+
+  // A picture of something at work, longer than a script is patient, and then a question.
+  void Work() {
+    QDialog busy(this);
+    QTimer::singleShot(400, &busy, &QDialog::accept);
+    busy.exec();
+    Ask("Done?");
   }
 
   template <class T>
@@ -158,6 +168,12 @@ TEST_F(PlayerTest, WorksTheControlsAsAnOperatorDoes) {
 TEST_F(PlayerTest, FindsAnActionInTheMenuOfTheList) {
   Run("start m_actSum\n");
   EXPECT_EQ(screen_.sums, 1);
+  const Folder folder;
+  const std::string file = (folder / "menu.png").string();
+  screen_.list->customContextMenuRequested({});
+  Run(QString::fromStdString("picture " + file + "\nkey Escape\nexpect rows 4\n"));
+  EXPECT_LT(QImage(QString::fromStdString(file)).width(), screen_.width());
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(PlayerTest, AnswersDialogsThatOpenInsideEachOther) {
@@ -166,6 +182,11 @@ TEST_F(PlayerTest, AnswersDialogsThatOpenInsideEachOther) {
   EXPECT_EQ(screen_.answer, 0);
   Run("press m_btnAsk\nanswer m_btnNo\nset m_edNo 5\n");
   EXPECT_EQ(screen_.edit->text(), "5");
+}
+
+TEST_F(PlayerTest, TakesABusyPictureForNoDialog) {
+  Run("press m_btnWork\nanswer m_btnOk Done?\n");
+  EXPECT_EQ(screen_.answer, 1);
 }
 
 TEST_F(PlayerTest, FailsWithThePlaceAndTheReason) {
