@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string_view>
 
 // The keys that this host and its bank refuse with, beside those of the module itself. Each has a text in
@@ -36,13 +35,5 @@ inline constexpr std::string_view kNotSaved = "HS40003";  // a file of the user'
 inline constexpr std::string_view kNotExported = "HS40004";  // an export could not be written
 inline constexpr std::string_view kNotPrinted = "HS40005";   // a report could not be printed
 inline constexpr std::string_view kHostFailure = "HS40006";  // any other failure inside the host
-
-inline constexpr std::array kAll = {
-    kUnknownTransaction, kBadRequest,       kMissingField,    kUnknownBusiness, kBadDate,
-    kReversedRange,      kNoAccount,        kTooManyAccounts, kUnknownAccount,  kUnknownCode,
-    kBadAmount,          kForeignCondition, kLongRange,       kMissingDate,     kUnknownBill,
-    kBankFailure,        kUnknownRecord,    kUnknownEntry,    kUnreadableText,  kNotSaved,
-    kNotExported,        kNotPrinted,       kHostFailure,
-};
 
 }  // namespace demohost::refusal

@@ -62,8 +62,14 @@ corvane::CorvaneStream EnquireEcds(Database& database, const corvane::CorvaneStr
   const Fields fields = FieldsOf(request);
   const std::string& kind = Required(fields, "QURYTYP");
   if (kind != "1" && kind != "2") throw Refused(refusal::kUnknownCode, "QURYTYP");
-  const char* column = kind == "1" ? "BILLSID" : "QURYNUM";
-  return Enquire(database, Required(fields, "CUSTACC"), {{column, Required(fields, column)}}, records);
+  std::vector<BillName> names;
+  for (const char* column : {"BILLSID", "QURYNUM"}) {
+    const std::string& value = Required(fields, column);
+    const bool decides = (kind == "1") == (std::string_view(column) == "BILLSID");
+    // The other number may be empty; where it isn't, it must be of the same bill.
+    if (decides || !value.empty()) names.push_back({column, value});
+  }
+  return Enquire(database, Required(fields, "CUSTACC"), names, records);
 }
 
 std::string EnquiriesOf(const char* system) {

@@ -2,6 +2,7 @@
 
 #include "demohost/bank/amount.h"
 #include "demohost/bank/answer.h"
+#include "demohost/bank/conditions.h"
 #include "demohost/bank/refuse.h"
 #include "demohost/bank/request.h"
 #include "demohost/refusals.h"
@@ -83,10 +84,19 @@ std::string CancelObstacle(const Statement& order, Day today) {
   return booked > DayText(today) ? std::string() : kOffHours;
 }
 
-std::int64_t CheckedAmount(const Fields& row) {
-  const auto cents = CentsOf(Required(row, "TRNAMT"));
-  if (!cents) throw Refused(refusal::kBadAmount, "TRNAMT");
+std::int64_t CheckedAmount(const Fields& fields, const char* name) {
+  const auto cents = CentsOf(Required(fields, name));
+  if (!cents) throw Refused(refusal::kBadAmount, name);
   return *cents;
+}
+
+// A cancellation's head. Its sum is that of the list's amount column, which need not be that of the rows'
+// TRNAMT; so it is only read.
+void CheckCancelHead(const Fields& head, std::size_t rows) {
+  const std::string& business = Required(head, "BSNCODE");
+  if (FindBusiness(business) == nullptr) throw Refused(refusal::kUnknownBusiness, business);
+  CheckedAmount(head, "TOTALTRAM");
+  if (Required(head, "TRNSUM") != std::to_string(rows)) throw Refused(refusal::kBadRequest, "TRNSUM");
 }
 
 }  // namespace
@@ -123,15 +133,13 @@ corvane::CorvaneStream FailureReasons(Database& database, const corvane::Corvane
 corvane::CorvaneStream CancelOrders(Database& database, const corvane::CorvaneStream& request, Day today) {
   const Fields head = FieldsOf(request);
   const std::vector<Fields> rows = RowsOf(request);
-  Required(head, "BSNCODE");
-  Required(head, "TOTALTRAM");
-  if (Required(head, "TRNSUM") != std::to_string(rows.size())) throw Refused(refusal::kBadRequest, "TRNSUM");
+  CheckCancelHead(head, rows.size());
   corvane::List failed = EmptyResult();
   Total done, left;
   Transaction transaction(database);
   for (const Fields& row : rows) {
     const std::string& number = Required(row, "ORDERNO");
-    const std::int64_t cents = CheckedAmount(row);
+    const std::int64_t cents = CheckedAmount(row, "TRNAMT");
     std::string obstacle;
     {
       const Statement order = FindOrder(database, "STT, PREDATE", number);

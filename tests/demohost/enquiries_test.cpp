@@ -65,7 +65,8 @@ TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
       "BY b.ID");
   const Fields by_id = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[2]}};
   const Fields by_number = {{"QURYTYP", "2"}, {"BILLSID", ""}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
-  for (const Fields& fields : {by_id, by_number}) {
+  const Fields by_both = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
+  for (const Fields& fields : {by_id, by_number, by_both}) {
     corvane::CorvaneStream answer = Ask("EBBADEHQ", fields);
     EXPECT_EQ(answer.getValue("BILLNUM"), bill[3]);
     EXPECT_EQ(answer.getValue("BILLTYP"), bill[4]);
@@ -79,7 +80,8 @@ TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
       "SELECT b.BILLSID, b.CUSTACC, r.INFOTYP FROM bill b JOIN registration r ON r.BILL = b.ID "
       "WHERE b.BILLSID <> ''");
   corvane::CorvaneStream answer =
-      Ask("EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", registered[0]}, {"CUSTACC", registered[1]}});
+      Ask("EBBADERQ",
+          {{"QURYTYP", "1"}, {"BILLSID", registered[0]}, {"QURYNUM", ""}, {"CUSTACC", registered[1]}});
   EXPECT_EQ(answer.getList("resultList")[0].getValue("INFOTYP"), registered[2]);
 
   const auto large = First(
@@ -95,7 +97,7 @@ TEST_F(EnquiriesTest, GiveAnEmptyListForABillWithoutRecords) {
   const auto bill =
       First("SELECT BILLSID, CUSTACC FROM bill WHERE BILLSID <> '' AND ID NOT IN (SELECT BILL FROM enquiry)");
   corvane::CorvaneStream answer =
-      Ask("EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"CUSTACC", bill[1]}});
+      Ask("EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[1]}});
   EXPECT_EQ(answer.getValue("TOTALNM"), "0");
   EXPECT_EQ(answer.getList("resultList").size(), 0u);
 }
@@ -103,6 +105,11 @@ TEST_F(EnquiriesTest, GiveAnEmptyListForABillWithoutRecords) {
 TEST_F(EnquiriesTest, RefuseWhatNamesNoBillOfTheAccount) {
   const auto bill = First("SELECT BILLSID, CUSTACC, BILLNUM FROM bill WHERE BILLSID <> ''");
   const auto other = First("SELECT CUSTACC FROM bill WHERE CUSTACC <> '" + bill[1] + "'");
+  const auto ecds = [](const char* kind, const std::string& id, const char* number, const char* account) {
+    Fields fields = {{"QURYTYP", kind}, {"BILLSID", id}, {"QURYNUM", number}};
+    if (account != nullptr) fields["CUSTACC"] = account;
+    return fields;
+  };
   const struct {
     const char* code;
     Fields fields;
@@ -110,10 +117,12 @@ TEST_F(EnquiriesTest, RefuseWhatNamesNoBillOfTheAccount) {
   } cases[] = {
       {"EBBADEHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "QURYTYP\r\nBK30003"},
       {"EBBADEHQ", {{"QURYTYP", "3"}, {"CUSTACC", bill[1]}}, "QURYTYP\r\nBK30010"},
-      {"EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}}, "CUSTACC\r\nBK30003"},
-      {"EBBADEHQ", {{"QURYTYP", "2"}, {"QURYNUM", ""}, {"CUSTACC", bill[1]}}, "QURYNUM\r\nBK30015"},
-      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", "99"}, {"CUSTACC", bill[1]}}, "99\r\nBK30015"},
-      {"EBBADERQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"CUSTACC", other[0]}}, bill[0] + "\r\nBK30015"},
+      {"EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "QURYNUM\r\nBK30003"},
+      {"EBBADEHQ", ecds("1", bill[0], "", nullptr), "CUSTACC\r\nBK30003"},
+      {"EBBADEHQ", ecds("2", "", "", bill[1].c_str()), "QURYNUM\r\nBK30015"},
+      {"EBBADERQ", ecds("1", "99", "", bill[1].c_str()), "99\r\nBK30015"},
+      {"EBBADERQ", ecds("1", bill[0], "", other[0].c_str()), bill[0] + "\r\nBK30015"},
+      {"EBBADERQ", ecds("1", bill[0], "QN0", bill[1].c_str()), bill[0] + "\r\nBK30015"},
       {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}, {"BILLNUM", "1"}}, bill[0] + "\r\nBK30015"},
       {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "BILLNUM\r\nBK30003"},
   };
@@ -176,8 +185,20 @@ TEST_F(EnquiriesTest, CancelWhatMayGoAndListTheRest) {
   EXPECT_EQ(failed[1].getValue("ID") + failed[1].getValue("FLAG"), "3RS60004");
   EXPECT_EQ(First("SELECT STT FROM orders WHERE ORDERNO = '" + numbers[0] + "'")[0], "9");
 
-  EXPECT_EQ(RefusalOf("EBBCMCOQ", {{"BSNCODE", "X"}, {"TRNSUM", "2"}, {"TOTALTRAM", "1"}}, rows),
-            "TRNSUM\r\nBK30002");
+  const struct {
+    const char* field;
+    const char* value;
+    const char* refusal;
+  } cases[] = {{"TRNSUM", "2", "TRNSUM\r\nBK30002"},
+               {"BSNCODE", "X", "X\r\nBK30004"},
+               {"TOTALTRAM", "1,0", "TOTALTRAM\r\nBK30011"}};
+  for (const auto& [field, value, refusal] : cases) {
+    Fields wrong = head;
+    wrong[field] = value;
+    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), refusal);
+    wrong.erase(field);
+    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), field + std::string("\r\nBK30003"));
+  }
   rows[4]["TRNAMT"] = "x";
   EXPECT_EQ(RefusalOf("EBBCMCOQ", head, rows), "TRNAMT\r\nBK30011");
 }
