@@ -14,8 +14,30 @@
 
 static constexpr int kRowRoom = 6;
 static constexpr int kTextRoom = 4;
+// Left and right of a caption together.
+static constexpr int kCaptionRoom = 14;
+static constexpr int kLeastRows = 3;
 
 namespace {
+
+/// Ends a caption that is cut in "...": a skin would take letters off both its ends.
+class ListHeader : public QHeaderView {
+ public:
+  explicit ListHeader(QWidget* tree) : QHeaderView(Qt::Horizontal, tree) {
+    setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  }
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int index) const override {
+    QHeaderView::initStyleOptionForIndex(option, index);
+    const int room = sectionSize(index);
+    if (style()->sizeFromContents(QStyle::CT_HeaderSection, option, {}, this).width() <= room) return;
+    // A skin's caption is bold.
+    QFont bold = font();
+    bold.setBold(true);
+    option->text = QFontMetrics(bold).elidedText(option->text, Qt::ElideRight, room - kCaptionRoom);
+  }
+};
 
 /// Gives the rows some room above and below the text.
 class RowDelegate : public QStyledItemDelegate {
@@ -94,6 +116,7 @@ class TListSumBar : public QWidget {
 };
 
 TListTree::TListTree(TCustomListView* list) : list_(list) {
+  setHeader(new ListHeader(this));
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
   setRootIsDecorated(false);
@@ -121,6 +144,23 @@ void TListTree::SetSums(std::function<QString(int column)> sums) {
   delete sum_bar_;
   sum_bar_ = sums ? new TListSumBar(this, std::move(sums)) : nullptr;
   updateGeometries();
+}
+
+int TListTree::RowHeight() const {
+  if (model() != nullptr && model()->rowCount() > 0) return rowHeight(model()->index(0, 0));
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.features |= QStyleOptionViewItem::HasDisplay;
+  option.text = QStringLiteral("x");
+  return style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this).height() + kRowRoom;
+}
+
+QSize TListTree::minimumSizeHint() const {
+  const int head = isHeaderHidden() ? 0 : header()->sizeHint().height();
+  const int foot =
+      horizontalScrollBar()->sizeHint().height() + (sum_bar_ == nullptr ? 0 : sum_bar_->Height());
+  const int height = head + kLeastRows * RowHeight() + foot + 2 * frameWidth();
+  return {QTreeView::minimumSizeHint().width(), height};
 }
 
 void TListTree::mousePressEvent(QMouseEvent* event) {

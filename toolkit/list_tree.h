@@ -19,6 +19,8 @@ class TListTree : public QTreeView {
   bool HidesSelection() const;
   /// Marks the selected row, or not, as things are now.
   void ShowSelection();
+  /// Leaves room for a few rows, whatever the font.
+  QSize minimumSizeHint() const override;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -32,6 +34,8 @@ class TListTree : public QTreeView {
   void updateGeometries() override;
 
  private:
+  /// Of the first row; while there is none, that of a row of plain text.
+  int RowHeight() const;
   bool OnCheckBox(const QPoint& point) const;
   void Report(QMouseEvent* event);
 

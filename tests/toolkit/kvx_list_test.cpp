@@ -7,6 +7,7 @@
 #include "data/list.h"
 #include "data/string_vector.h"
 #include "tests/toolkit/kvx_fixture.h"
+#include "toolkit/layout.h"
 #include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/text.h"
@@ -326,6 +327,18 @@ TEST_F(KvxListTest, TheHeaderHasTheListsFontUnderASkinToo) {
   list->Font()->SetSize(30);
   EXPECT_EQ(view->header()->font().pointSize(), 30);
   EXPECT_GT(height(), before + 10);
+}
+
+TEST_F(KvxListTest, ALowFormLeavesRoomForRows) {
+  Fill(3);
+  TColumnLayout(form).Add(list, 1);
+  for (const int size : {9, 24}) {
+    list->Font()->SetSize(size);
+    form->SetHeight(60);
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(view->viewport()->rect().contains(view->visualRect(view->model()->index(2, 0)))) << size;
+  }
 }
 
 TEST_F(KvxListTest, AColumnIsDraggedByItsHeader) {
