@@ -45,6 +45,14 @@ void AddEnquiry(Insert& enquiries, std::int64_t id, std::int64_t bill, std::stri
             answered ? kResults[random.Below(2)] : kResults[2]);
 }
 
+void AddRegistration(Insert& registrations, std::int64_t id, std::int64_t bill, const BankPlan& plan,
+                     const std::vector<Bank>& banks, Random& random) {
+  const Bank& bank = random.Pick(banks);
+  const std::string kind = SeedCode(plan, "SIGNINFOTYPE", id - 1, random);
+  registrations(id, bill, kind, DayText(plan.today - days(random.Below(300))), SeedPerson(random),
+                bank.number, bank.name, random.Chance(50) ? std::string_view("已登记") : std::string_view());
+}
+
 // The people who approve, by flow and level.
 struct Flow {
   std::string_view id, business;
@@ -100,17 +108,13 @@ void FillEnquiries(Database& database, const BankPlan& plan) {
   std::int64_t registration = 0;
   const std::int64_t bills = Count(database, "bill");
   for (std::int64_t bill = 1; bill <= bills; ++bill) {
-    for (std::int64_t number = bill % 3; number > 0; --number) {
+    // Bills of one account stand an even number apart, so odd divisors leave no account without records.
+    for (std::int64_t number = bill % 7; number > 0; --number) {
       AddEnquiry(enquiries, ++enquiry, bill, number % 2 == 0 ? "HVPS" : "ECDS", plan, banks, random);
     }
-    // Bills of one account stand an even number apart, so an odd divisor leaves no account without
-    // registrations.
-    if (bill % 5 > 2) continue;
-    const Bank& bank = random.Pick(banks);
-    const std::string kind = SeedCode(plan, "SIGNINFOTYPE", registration, random);
-    registrations(++registration, bill, kind, DayText(plan.today - days(random.Below(300))),
-                  SeedPerson(random), bank.number, bank.name,
-                  random.Chance(50) ? std::string_view("已登记") : std::string_view());
+    for (std::int64_t number = bill % 5; number > 1; --number) {
+      AddRegistration(registrations, ++registration, bill, plan, banks, random);
+    }
   }
 }
 
