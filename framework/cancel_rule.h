@@ -18,6 +18,8 @@ struct CancelRule {
   // The user's own record that is still open, or is booked for a day after the bank's. A PREDATE that is no
   // date counts as not later than the bank's day.
   bool Allows(const corvane::Row& record) const;
+
+  bool operator==(const CancelRule&) const = default;
 };
 
 }  // namespace norvik

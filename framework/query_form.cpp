@@ -1,6 +1,5 @@
 #include "framework/query_form.h"
 
-#include "framework/cancel_rule.h"
 #include "framework/select_column.h"
 #include "toolkit/action.h"
 #include "toolkit/buttons.h"
@@ -78,21 +77,24 @@ void TQueryForm::ModifySelected(corvane::Property& row) {
   m_lvMain->Modify(row, m_lvMain->ColumnIds(), m_lvMain->Selected());
 }
 
-bool TQueryForm::AnyCheckedIn(const char* stateKey) {
-  const std::string state = TranslateKey(stateKey);
-  for (int i = 0; i < m_lvMain->Items().Count(); ++i) {
-    const TListItem* item = m_lvMain->Items()[i];
-    if (item->Checked() && item->Data()->getValue("STT") == state) return true;
+// The list counts its ticked rows by the rules, so that a tick costs the same however many rows are ticked;
+// a text or a day of the bank that has changed has all ticked rows looked at once more.
+template <class Rule>
+int TQueryForm::CheckedCount(norvik::RecordKind kind, Rule norvik::TickRules::*rule, Rule present) {
+  if (m_tickRules.*rule != present) {
+    m_tickRules.*rule = std::move(present);
+    m_lvMain->SetKinds(
+        [rules = m_tickRules](const corvane::Property& record) { return rules.KindsOf(record); });
   }
-  return false;
+  return m_lvMain->CheckedCount(kind);
 }
 
 bool TQueryForm::CanSynState() {
-  return AnyCheckedIn("UI52150");
+  return CheckedCount(norvik::kUnsettled, &norvik::TickRules::unsettledState, TranslateKey("UI52150")) > 0;
 }
 
 bool TQueryForm::CanReason() {
-  return AnyCheckedIn("UI52148");
+  return CheckedCount(norvik::kExplained, &norvik::TickRules::explainedState, TranslateKey("UI52148")) > 0;
 }
 
 void TQueryForm::UpdateDeleteState() {
@@ -104,10 +106,7 @@ void TQueryForm::UpdateDeleteState() {
                                   TranslateKey("UI52144"),
                                   TranslateKey("UI53030"),
                                   m_pIntf->GetServerDate()};
-    for (int i = 0; allowed && i < m_lvMain->Items().Count(); ++i) {
-      const TListItem* item = m_lvMain->Items()[i];
-      if (item->Checked()) allowed = rule.Allows(*item->Data());
-    }
+    allowed = CheckedCount(norvik::kCancellable, &norvik::TickRules::cancel, rule) == count;
   }
   m_actDelete->SetEnabled(allowed);
 }

@@ -21,6 +21,7 @@
 #include "data/corvane.h"
 #include "framework/list_form.h"
 #include "framework/m_query_intf.h"
+#include "framework/tick_rules.h"
 
 class TbsSkinExPanel;
 class TbsSkinMenuButton;
@@ -140,7 +141,9 @@ class TQueryForm : public TListForm {
   void BuildMenus();
   void BuildFrame();
   void BuildConditions();
-  bool AnyCheckedIn(const char* stateKey);
+  // Ticked records of a kind, by the rule as it is at present.
+  template <class Rule>
+  int CheckedCount(norvik::RecordKind kind, Rule norvik::TickRules::*rule, Rule present);
   bool Exchange(TAction* action, const char* code, corvane::CorvaneStream& request,
                 corvane::CorvaneStream& answer);
   // The ticked records in a state, as the rows that ask about them.
@@ -149,4 +152,6 @@ class TQueryForm : public TListForm {
   void TakeReasons(corvane::CorvaneStream& answer);
   // The ticked records' sum of the face amounts, or of the business amounts, with two decimals.
   std::string CheckedTotal();
+
+  norvik::TickRules m_tickRules;
 };

@@ -196,6 +196,7 @@ class TWinControl : public TControl {
   friend class TControl;
   friend class TForm;
   bool KeyEvent(QKeyEvent* event);
+  void OpenPopupMenu();
   void TabOrderList(std::vector<TWinControl*>& list) const;
 
   std::vector<TControl*> controls_;

@@ -91,7 +91,7 @@ corvane::Property* TKVXCustomListView::PropertyOf(const TListItem* item) const {
 }
 
 void TKVXCustomListView::RefreshItem(const TListItem* item) {
-  if (item != nullptr) Model()->Touch(item->Index());
+  if (item != nullptr) Model()->RecordChanged(Model()->Row(item->Index()));
 }
 
 void TKVXCustomListView::CheckAll() {
@@ -103,9 +103,15 @@ void TKVXCustomListView::UnCheckAll() {
 }
 
 int TKVXCustomListView::CheckedCount() const {
-  int count = 0;
-  for (int i = 0; i < Model()->Count(); ++i) count += Model()->Row(i).checked ? 1 : 0;
-  return count;
+  return Model()->CheckedCount();
+}
+
+void TKVXCustomListView::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of) {
+  Model()->SetKinds(std::move(kinds_of));
+}
+
+int TKVXCustomListView::CheckedCount(unsigned kind) const {
+  return Model()->CheckedCount(kind);
 }
 
 void TKVXCustomListView::DelItem(int index) {

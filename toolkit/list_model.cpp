@@ -45,18 +45,48 @@ void TListModel::SetText(TListRow& row, int column, const std::string& text) {
     if (at >= row.texts.size()) row.texts.resize(at + 1);
     row.texts[at] = text;
   }
+  RecordChanged(row);
+}
+
+void TListModel::Count(TListRow& row, int by) {
+  checked_ += by;
+  if (by > 0 && !row.kinds && kinds_of_ && row.record) row.kinds = kinds_of_(*row.record);
+  const unsigned kinds = row.kinds.value_or(0);
+  for (unsigned kind = 0; kind < kMostKinds; ++kind) {
+    if ((kinds >> kind & 1U) != 0) checked_of_kind_[kind] += by;
+  }
+}
+
+void TListModel::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of) {
+  kinds_of_ = std::move(kinds_of);
+  checked_ = 0;
+  checked_of_kind_ = {};
+  for (const auto& row : rows_) {
+    row->kinds.reset();
+    if (row->checked) Count(*row, 1);
+  }
+}
+
+void TListModel::RecordChanged(TListRow& row) {
+  if (row.checked) Count(row, -1);
+  row.kinds.reset();
+  if (row.checked) Count(row, 1);
   Touch(IndexOf(&row));
 }
 
 void TListModel::SetChecked(TListRow& row, bool checked) {
   if (row.checked == checked) return;
   row.checked = checked;
+  Count(row, checked ? 1 : -1);
   Touch(IndexOf(&row));
 }
 
 void TListModel::CheckAll(bool checked) {
   if (rows_.empty()) return;
-  for (const auto& row : rows_) row->checked = checked;
+  for (const auto& row : rows_) {
+    if (row->checked != checked) Count(*row, checked ? 1 : -1);
+    row->checked = checked;
+  }
   // Only the columns with ticks: a view looks at each cell that it is told of.
   int last = 0;
   while (last + 1 < columnCount() && view_->Columns()[last]->Hidden()) ++last;
@@ -92,7 +122,7 @@ void TListModel::Append(std::vector<std::unique_ptr<TListRow>> rows) {
 }
 
 void TListModel::Delete(int index) {
-  Row(index);
+  if (TListRow& row = Row(index); row.checked) Count(row, -1);
   beginRemoveRows({}, index, index);
   rows_.erase(rows_.begin() + index);
   endRemoveRows();
@@ -103,7 +133,10 @@ void TListModel::DeleteIf(const std::function<bool(int index)>& goes) {
   kept.reserve(rows_.size());
   beginResetModel();
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (goes(static_cast<int>(i))) continue;
+    if (goes(static_cast<int>(i))) {
+      if (rows_[i]->checked) Count(*rows_[i], -1);
+      continue;
+    }
     rows_[i]->index = static_cast<int>(kept.size());
     kept.push_back(std::move(rows_[i]));
   }
@@ -115,6 +148,8 @@ void TListModel::Clear() {
   if (rows_.empty()) return;
   beginResetModel();
   rows_.clear();
+  checked_ = 0;
+  checked_of_kind_ = {};
   endResetModel();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -20,6 +22,8 @@ struct TListRow {
   /// Where the row was when last asked for; rows that go before it make it too great.
   int index = 0;
   bool checked = false;
+  /// Kinds of the record, once they have been asked for.
+  std::optional<std::uint8_t> kinds;
 };
 
 /// The rows of a list view as Qt's views see them. Texts are taken from the rows whenever they are asked for.
@@ -39,6 +43,11 @@ class TListModel : public QAbstractTableModel {
   void SetChecked(TListRow& row, bool checked);
   /// Ticks or unticks all rows, and tells the views once.
   void CheckAll(bool checked);
+  int CheckedCount() const { return checked_; }
+  /// Ticked rows whose record is of a kind, a bit from 0 to 7.
+  int CheckedCount(unsigned kind) const { return checked_of_kind_[kind]; }
+  /// Counts the ticked rows by other kinds from here on.
+  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of);
 
   /// Inserts an empty row before an index.
   TListRow& Insert(int index);
@@ -55,6 +64,8 @@ class TListModel : public QAbstractTableModel {
   /// Repaints one row, or all.
   void Touch(int row);
   void TouchAll();
+  /// The record of a row has changed: counts the row anew and repaints it.
+  void RecordChanged(TListRow& row);
 
   /// The fields that the columns show, null in a list without records.
   const std::vector<std::string>* column_ids = nullptr;
@@ -69,8 +80,15 @@ class TListModel : public QAbstractTableModel {
   bool ShowsCheck(int column) const;
 
  private:
+  static constexpr unsigned kMostKinds = 8;
+
   const std::string* FieldOf(const TListRow& row, int column) const;
+  /// Adds a ticked row to the counts, or takes it from them.
+  void Count(TListRow& row, int by);
 
   TCustomListView* view_;
   std::vector<std::unique_ptr<TListRow>> rows_;
+  std::function<std::uint8_t(const corvane::Property& record)> kinds_of_;
+  int checked_ = 0;
+  std::array<int, kMostKinds> checked_of_kind_{};
 };

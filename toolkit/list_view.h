@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -273,13 +274,19 @@ class TKVXCustomListView : public TCustomListView {
   /// The record of a row, null when the item is null or has none; the view owns it. What is changed in it
   /// shows at the next repaint, which follows by itself.
   corvane::Property* PropertyOf(const TListItem* item) const;
-  /// Repaints a row whose record was changed in place.
+  /// Counts anew and repaints a row whose record was changed in place.
   void RefreshItem(const TListItem* item);
 
   /// Ticks or unticks all rows without running OnItemCheck.
   void CheckAll();
   void UnCheckAll();
   int CheckedCount() const;
+  /// Ticked rows whose record is of a kind, 0 to 7, as the last SetKinds has it; 0 before there was one.
+  int CheckedCount(unsigned kind) const;
+  /// Counts the ticked rows by kinds from here on, so that a tick costs the same however many there are:
+  /// kinds_of gives the kinds of a record as the bits of a number. It is asked when a row is first ticked,
+  /// and again when its record has changed.
+  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of);
   /// Removes a row and its record; std::out_of_range when there is none.
   void DelItem(int index);
   /// Removes the rows at ascending indexes in one pass; an index out of range removes nothing.

@@ -1,3 +1,5 @@
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -105,6 +107,10 @@ bool TWinControl::KeyEvent(QKeyEvent* event) {
   TForm* form = ParentForm();
   std::uint16_t key = ToVirtualKey(event->key());
   const TShiftState shift = ToShiftState(event->modifiers(), Qt::NoButton);
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier && PopupMenu() != nullptr) {
+    OpenPopupMenu();
+    return true;
+  }
   if (form != nullptr && form->PressDialogButton(key, WantsReturn())) return true;
   if (key != 0 && form != nullptr && form->KeyPreview()) {
     FireEvent(form->OnKeyDown, form, key, shift);
@@ -122,6 +128,13 @@ bool TWinControl::KeyEvent(QKeyEvent* event) {
   }
   if (key == VK_RETURN) ReturnPressed();
   return !self;
+}
+
+void TWinControl::OpenPopupMenu() {
+  QWidget* widget = FocusWidget();
+  const QPoint at = widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, at, widget->mapToGlobal(at));
+  QCoreApplication::sendEvent(widget, &event);
 }
 
 void TWinControl::AlignControls() {

@@ -298,6 +298,49 @@ TEST_F(KvxListTest, SumsAreExact) {
   EXPECT_EQ(list->GetTotalMoney(5, false), "");
 }
 
+TEST_F(KvxListTest, CountsTheTickedRowsByKind) {
+  const auto counts = [&] {
+    return std::to_string(list->CheckedCount()) + ":" + std::to_string(list->CheckedCount(0)) + "," +
+           std::to_string(list->CheckedCount(7));
+  };
+  Fill(5);
+  list->Items()[0]->SetChecked(true);
+  EXPECT_EQ(counts(), "1:0,0");
+  // Kind 0: the first three rows; kind 7: the third one and on.
+  int asked = 0;
+  list->SetKinds([&](const corvane::Property& record) {
+    ++asked;
+    const char number = record.getValue("BILLNUM").at(1);
+    return static_cast<std::uint8_t>((number <= '2' ? 0x01 : 0) | (number >= '2' ? 0x80 : 0));
+  });
+  EXPECT_EQ(counts(), "1:1,0");
+  EXPECT_EQ(asked, 1);
+  list->CheckAll();
+  EXPECT_EQ(counts(), "5:3,3");
+  list->CheckAll();
+  list->UnCheckAll();
+  EXPECT_EQ(counts(), "0:0,0");
+  list->CheckAll();
+  EXPECT_EQ(asked, 5);
+  list->Modify(corvane::Property(Bill(4, "1")), list->ColumnIds(), list->Items()[0]);
+  EXPECT_EQ(counts(), "5:2,4");
+  list->Items()[1]->SetCaption("B9");
+  EXPECT_EQ(counts(), "5:1,5");
+  (*list->PropertyOf(list->Items()[4]))["BILLNUM"] = "B0";
+  list->RefreshItem(list->Items()[4]);
+  EXPECT_EQ(counts(), "5:2,4");
+  list->DelItem(0);
+  EXPECT_EQ(counts(), "4:2,3");
+  list->DelItems({0, 3});
+  EXPECT_EQ(counts(), "2:1,2");
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Box(0));
+  EXPECT_EQ(counts(), "1:0,1");
+  list->Clear();
+  EXPECT_EQ(counts(), "0:0,0");
+  Fill(1);
+  EXPECT_EQ(counts(), "0:0,0");
+}
+
 TEST_F(KvxListTest, TheUserWidensAndMovesColumns) {
   Fill(1);
   view->header()->resizeSection(0, 200);
@@ -367,6 +410,10 @@ TEST_F(KvxListTest, TheRightButtonOpensThePopupMenu) {
   QContextMenuEvent event(QContextMenuEvent::Mouse, Text(1, 0), view->viewport()->mapToGlobal(Text(1, 0)));
   QCoreApplication::sendEvent(view->viewport(), &event);
   ASSERT_NE(menu.Widget(), nullptr);
+  EXPECT_TRUE(menu.Widget()->isVisible());
+  menu.Close();
+  EXPECT_FALSE(menu.Widget()->isVisible());
+  QTest::keyClick(view, Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_TRUE(menu.Widget()->isVisible());
   menu.Close();
 }
