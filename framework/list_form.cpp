@@ -79,6 +79,15 @@ TfrmSelectColumn* TListForm::SelectColumn() {
   return m_pSelectColumn;
 }
 
+void TListForm::BuildMissingColumns(CMInterface& business) {
+  if (m_lvMain->Columns().Count() > 0) return;
+  business.InitListColumns(m_lvMain, ClassName());
+  if (m_lvMain->Columns().Count() == 0) return;
+  // The owner of the columns that there were not knows none of these.
+  DestroyForm(std::exchange(m_pSelectColumn, nullptr));
+  SelectColumn();
+}
+
 void TListForm::SaveLayout() {
   if (m_pSelectColumn == nullptr) return;
   const TFormPointer<TfrmSelectColumn> selectColumn(std::exchange(m_pSelectColumn, nullptr));

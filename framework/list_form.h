@@ -128,6 +128,9 @@ class TListForm : public TBaseForm {
   void PrintChecked(CMInterface& business);
   // Saves the list's layout and ends the owner of the columns; nothing before the first show.
   void SaveLayout();
+  // Builds the columns of a list that has none, because the host could not tell them when the form was made;
+  // for a screen before it fills its list. Standard reporting; a layout that can't be read goes up.
+  void BuildMissingColumns(CMInterface& business);
 
   // The owner of the columns, made where it isn't there yet. Goes up as FormShow.
   TfrmSelectColumn* SelectColumn();

@@ -17,6 +17,8 @@ constexpr const char* kLayoutDocument = "COLUMN_INFO";
 constexpr int kHiddenMaxWidth = 1;
 constexpr int kMaxWidthAfterDialog = 1000;
 constexpr int kNoMaxWidth = 0;
+// A saved width above this is damaged: no user can drag a column so wide.
+constexpr int kGreatestSavedWidth = 10000;
 
 // Sub-items of an entry of the dialog's list.
 enum SubItem { kColumnId = 0, kColumnIdentity = 1, kColumnIndex = 2 };
@@ -81,11 +83,13 @@ void TfrmSelectColumn::RememberWidths() {
   }
 }
 
+// A width that is no number, or none that a column can have, leaves the table's.
 void TfrmSelectColumn::RestoreWidths() {
   for (const corvane::Row& saved : m_columnInfo.getSection(m_strClassName)) {
     const std::string caption = saved.getValue("ColumnCaption");
     const int width = StrToIntDef(saved.getValue("ColumnWidth"), -1);
-    TListColumn* column = caption.empty() || width < 0 ? nullptr : FindColumn(m_pListView, caption);
+    const bool sound = width >= 0 && width <= kGreatestSavedWidth;
+    TListColumn* column = caption.empty() || !sound ? nullptr : FindColumn(m_pListView, caption);
     if (column == nullptr) continue;
     ShowColumn(column, width, width == 0 ? kHiddenMaxWidth : kNoMaxWidth);
   }
@@ -136,7 +140,8 @@ void TfrmSelectColumn::PrepareColumnMenu(TPopupMenu* menu) {
     entry->SetTag(column->ID());
     entry->SetImageIndex(i);
     entry->SetChecked(IsShown(column));
-    entry->SetEnabled(i != 0 && ColumnId(i) != m_strFirstColId);
+    // A layout of an older column table may have hidden the column that must not be: it can be shown again.
+    entry->SetEnabled(!IsShown(column) || (i != 0 && ColumnId(i) != m_strFirstColId));
   }
   if (m_bDialogOffered) {
     m_pMenu->Items()->AddLine();

@@ -112,14 +112,21 @@ void TCustodyQueryForm::Construct() {
   m_pCommon = std::make_unique<CQueryCommon>();
   m_pCommon->InitListColumns(m_lvMain, ClassName());
   m_strBsnCode = Profile().businessCode;
-  m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str());
-  m_pCommon->LoadAccountCombo(m_cbxAcc, true);
+  LoadAccounts();
   m_strExportType = Profile().exportType;
   m_sumColumns.push_back(kSumColumn);
 }
 
+void TCustodyQueryForm::LoadAccounts() {
+  m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str());
+  m_pCommon->LoadAccountCombo(m_cbxAcc, true);
+}
+
 void TCustodyQueryForm::ResetForm() {
   TQueryForm::ResetForm();
+  // What the host could not tell when the form was made is asked for again at the next show.
+  if (m_bShown && m_cbxAcc->Keys().Count() == 0) LoadAccounts();
+  m_bShown = true;
   m_lvMain->Clear();
   m_cbxBankNo->Clear();
   ShowOfferedActions();
@@ -243,6 +250,7 @@ void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
     ShowWarnMsg(TranslateKey("UI42512"), nullptr);
     return;
   }
+  BuildMissingColumns(*m_pCommon);
   for (const norvik::CodedColumn& column : Profile().codedColumns) {
     m_pCommon->DecodeDictColumn(rows, column.field, column.dictionary);
   }

@@ -123,10 +123,12 @@ class TCustodyQueryForm : public TQueryForm {
   corvane::Property m_selectedRow;  // the ticked row when it is exactly one; kept when the tick goes away
 
  private:
+  void LoadAccounts();
   void FollowTicks();
   void ShowOfferedActions();
   void AddAccounts(corvane::CorvaneStream& stream);
   void ShowInstitutions(corvane::List& institutions);
 
   norvik::ConditionTable m_conditions;
+  bool m_bShown = false;
 };

@@ -121,6 +121,68 @@ TEST_F(QueryForm, EnablesByTicksAndStates) {
   form->m_lvMain->Clear();
   form->m_lvMainClick(form);
   EXPECT_EQ(Enabled(), "00000000");
+  form->m_crbAllCheck->SetChecked(true);
+  form->SelectAll(form->m_crbAllCheck);
+  EXPECT_EQ(Enabled(), "00000001") << "without rows the box ticks nothing";
+}
+
+TEST_F(QueryForm, TurnsTheDetailsOffOnlyWithoutATick) {
+  Open();
+  form->Fill({{"A"}, {"0"}, {"1"}});
+  form->m_actDetail->SetEnabled(true);
+  Tick({0});
+  EXPECT_TRUE(form->m_actDetail->Enabled());
+  Tick({});
+  EXPECT_FALSE(form->m_actDetail->Enabled());
+  Tick({0, 1});
+  EXPECT_FALSE(form->m_actDetail->Enabled());
+  EXPECT_FALSE(form->m_crbAllCheck->Checked()) << "the last tick by hand leaves the box";
+}
+
+TEST_F(QueryForm, FollowsTheSpaceKeyOfASelectedRowWithABox) {
+  Open();
+  form->Fill({{"A"}, {"0"}});
+  int checks = 0;
+  form->m_lvMain->OnItemCheck = [&checks](TObject*, TListItem*) { ++checks; };
+  const auto press = [&](char key) {
+    form->m_lvMainKeyPress(form->m_lvMain, key);
+    return checks;
+  };
+  EXPECT_EQ(press(' '), 0) << "nothing is selected";
+  form->m_lvMain->SetItemIndex(0);
+  EXPECT_EQ(press(' '), 1);
+  EXPECT_EQ(press('x'), 1);
+  form->m_lvMain->SetCheckboxes(false);
+  EXPECT_EQ(press(' '), 1);
+}
+
+TEST_F(QueryForm, AsksWhichColumnsToWriteWhereTheScreenWantsThat) {
+  const struct {
+    bool all;
+    const char* exported;
+  } cases[] = {{true, "UI44008 UI44344 UI44005 [0]"}, {false, "UI44344 UI44005 [0]"}};
+  QTemporaryDir folder;
+  Open();
+  form->AskColumns();
+  form->Fill({{"A", "B"}, {"0", "1"}});
+  Tick({0});
+  form->m_lvMain->Columns()[0]->SetWidth(0);
+  for (const auto& c : cases) {
+    host.libraries.calls.clear();
+    QTimer choose;
+    choose.callOnTimeout([&] {
+      for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* dialog = qobject_cast<QFileDialog*>(widget);
+        if (dialog == nullptr || !dialog->isVisible()) continue;
+        choose.stop();
+        dialog->selectFile(folder.filePath(c.all ? "a.xls" : "b.xls"));
+        QMetaObject::invokeMethod(dialog, "accept");
+      }
+    });
+    choose.start(5);
+    EXPECT_EQ(MessageOf([&] { form->m_actOutput->Execute(); }, c.all), "UI60007");
+    EXPECT_EQ(Exported(2), c.exported);
+  }
 }
 
 TEST_F(QueryForm, OffersItsActionsInTheListsMenu) {
