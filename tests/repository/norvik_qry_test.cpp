@@ -10,6 +10,7 @@
 #include "toolkit/buttons.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/date_edit.h"
+#include "toolkit/edits.h"
 #include "toolkit/labels.h"
 #include "toolkit/list_box.h"
 #include "toolkit/list_view.h"
@@ -253,8 +254,22 @@ TEST_F(NorvikQry, StartsAfreshAtEachShowButKeepsTheBillId) {
   form->m_edMaxAmount->SetText("5");
   form->m_lbxAgentStt->SetSelected(1, false);
   form->m_pnlAdvance->SetRollState(false);
+  form->m_pnlNormal->SetRollState(true);
+  form->m_rgSelDate->SetItemIndex(1);
+  form->m_cbxAcc->SetItemIndex(1);
+  form->m_cbxType->SetItemIndex(1);
+  form->m_cbxBankRmk->SetItemIndex(1);
+  form->m_lvMain->CheckAll();
+  form->m_lvMainClick(form);
+  form->m_crbAllCheck->SetChecked(true);
+  form->m_pnStatusText->SetCaption("reason");
   form->Close();
   form->Show();
+  EXPECT_EQ(form->m_cbxAcc->ItemIndex() + form->m_cbxType->ItemIndex() + form->m_cbxBankRmk->ItemIndex(), 0);
+  EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
+  EXPECT_EQ(form->m_pnStatusText->Caption(), "");
+  EXPECT_EQ(Enabled(), "00000000");
+  EXPECT_FALSE(form->m_pnlNormal->RollState());
   EXPECT_EQ(form->m_edBatNo->Text() + form->m_edNo->Text() + form->m_edBackName->Text() +
                 form->m_edBillId->Text() + form->m_dtDeadStartDate->Text() + form->m_edMaxAmount->Text(),
             "4");
@@ -311,6 +326,147 @@ TEST_F(NorvikQry, LeadsTheKeyboardThroughAllItHas) {
             "m_edMinAmount "
             "m_edMaxAmount m_rgSelDate m_crbAllCheck m_spdSum m_lvMain m_btnTicketInfo m_btnECDSSignInfo "
             "m_btnECDSHistoryInfo m_btnBigResult m_btnClose ");
+}
+
+TEST_F(NorvikQry, BearsTheCaptionsOfItsTable) {
+  Open();
+  const struct {
+    const char* control;
+    std::string caption;
+  } cases[] = {
+      {"m_lbAcc", "UI44003"},
+      {"m_lbBankNo", "UI44001"},
+      {"m_lbBatNo", "UI44004"},
+      {"m_lbSTT", "UI44005"},
+      {"m_lbBillId", "UI44006"},
+      {"m_lbNo", "UI44008"},
+      {"m_lbType", "UI44007"},
+      {"m_lbStorageStartDate", "UI44010"},
+      {"m_lbStorageEndDate", "UI44011"},
+      {"m_lbBackName", "UI44304"},
+      {"m_lbBankRmk", Ansi("银行备注")},
+      {"m_lbDeadStartDate", "UI44302"},
+      {"m_lbDeadEndDate", "UI44303"},
+      {"m_lbMinAmount", "UI44498"},
+      {"m_lbMaxAmount", "UI44499"},
+      {"m_lbStarlAgentAcc", "*"},
+      {"Label1", "*"},
+      {"Label2", "*"},
+      {"Label3", "*"},
+      {"m_rgSelDate", "UI40109"},
+      {"m_pnlNormal", "UI40305"},
+      {"m_pnlAdvance", "UI40306"},
+      {"m_tbHideColumn", "UI40922"},
+      {"m_tbSendToDesktop", "UI40923"},
+      {"m_tbExport", "UI43006"},
+      {"m_spdQuery", "UI12501"},
+      {"m_spdSum", "UI12580"},
+      {"m_crbAllCheck", "UI12506"},
+      {"m_btnClose", "UI12517"},
+      {"m_btnTicketInfo", "UI44316"},
+      {"m_btnECDSSignInfo", "UI44317"},
+      {"m_btnECDSHistoryInfo", "UI44318"},
+      {"m_btnBigResult", "UI44319"},
+  };
+  for (const auto& c : cases) {
+    auto* control = dynamic_cast<TControl*>(form->FindComponent(c.control));
+    ASSERT_NE(control, nullptr) << c.control;
+    EXPECT_EQ(control->Caption(), c.caption) << c.control;
+    EXPECT_EQ(control->Font()->Color() == clRed, c.caption == "*") << c.control;
+  }
+  EXPECT_EQ(form->Caption(), "UI25826");
+  std::string items;
+  for (std::size_t i = 0; i < form->m_rgSelDate->Items().Count(); ++i) items += form->m_rgSelDate->Items()[i];
+  EXPECT_EQ(items, "UI40110UI40111UI40112UI40113UI40114");
+  EXPECT_EQ(form->m_rgSelDate->Columns(), 5);
+}
+
+TEST_F(NorvikQry, TakesNoMoreThanItsInputRules) {
+  Open();
+  const struct {
+    const TKVXEdit* edit;
+    TKVXInputKind kind;
+    int most;
+  } cases[] = {
+      {form->m_edBatNo, ikLettersDigitsChinese, 20}, {form->m_edBillId, ikDigits, 8},
+      {form->m_edNo, ikLettersDigitsChinese, 16},    {form->m_edBackName, ikLettersDigitsChinese, 60},
+      {form->m_edMinAmount, ikCurrency, 16},         {form->m_edMaxAmount, ikCurrency, 16}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(c.edit->InputRule().kind, c.kind) << c.edit->Name();
+    EXPECT_EQ(c.edit->MaxLength(), c.most) << c.edit->Name();
+    const bool amount = c.kind == ikCurrency;
+    EXPECT_EQ(c.edit->Alignment(), amount ? taRightJustify : taLeftJustify) << c.edit->Name();
+    if (!amount) continue;
+    EXPECT_EQ(c.edit->InputRule().integer_digits, 13);
+    EXPECT_EQ(c.edit->InputRule().decimal_digits, 2);
+  }
+}
+
+TEST_F(NorvikQry, OffersNoneOfTheActionsOfOtherScreens) {
+  Open();
+  std::string hidden;
+  for (int i = 0; i < form->m_alMain->ActionCount(); ++i) {
+    if (!form->m_alMain->Actions(i)->Visible()) hidden += form->m_alMain->Actions(i)->Name() + " ";
+  }
+  EXPECT_EQ(hidden,
+            "m_actPrintSet m_actPrint m_actDetail m_actSynState m_actReason m_actAudit m_actDelete "
+            "m_actViewAuditFoot ");
+}
+
+TEST_F(NorvikQry, LosesADictionaryAtAShowAndHasItAtTheNext) {
+  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 90, {"BUSINESSDICT", "AGENTSTT"},
+                           fakehost::Refusal("gone"));
+  Open();
+  EXPECT_EQ(host.failures.size(), 1u);
+  EXPECT_EQ(MessageOf([&] { Query(); }), "UI44568");
+  host.SetTable("BUSINESSDICT", "AGENTSTT", ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"02", "UI46102"}}));
+  form->Close();
+  form->Show();
+  Query();
+  EXPECT_EQ(form->m_lvMain->Items().Count(), 3);
+  EXPECT_EQ(host.failures.size(), 1u);
+}
+
+TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
+  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 40, {"CMLGBSNACC"},
+                           fakehost::Refusal("gone"));
+  host.SetErrorText("gone", "no accounts");
+  EXPECT_EQ(FailureOf([&] { Open(); }), "no accounts");
+  EXPECT_EQ(form->m_cbxAcc->Items().Count(), 0u);
+  host.SetAccounts(2);
+  form->Close();
+  form->Show();
+  EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999");
+  EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos);
+}
+
+TEST_F(NorvikQry, FollowsTheRightMouseButtonButNotTheOthers) {
+  Open();
+  Query();
+  form->m_lvMain->Items()[0]->SetChecked(true);
+  form->m_lvMainMouseDown(form->m_lvMain, mbLeft, {}, 0, 0);
+  EXPECT_EQ(Enabled(), "00000010");
+  form->m_lvMainMouseDown(form->m_lvMain, mbRight, {}, 0, 0);
+  EXPECT_EQ(Enabled(), "11111110");
+}
+
+TEST_F(NorvikQry, PrintsTheTickedRowsByItsColumnTable) {
+  Open();
+  Query();
+  form->m_lvMain->Items()[2]->SetChecked(true);
+  form->m_actPrintExecute(form);
+  const auto printed = host.libraries.CallsOf(fakehost::Library::kPrint, 3);
+  ASSERT_EQ(printed.size(), 1u);
+  EXPECT_EQ(printed[0].arguments.at(0), "TfrmNorvikQry");
+  EXPECT_EQ(corvane::Row(printed[0].arguments.at(1)).getValue("COLID"), "BILLNUM");
+  EXPECT_EQ(corvane::List(printed[0].arguments.at(2))[0].getValue("BILLNUM"), "B3");
+  form->m_actPrintSetExecute(form);
+  EXPECT_EQ(host.libraries.CallsOf(fakehost::Library::kPrint, 5).size(), 1u);
+  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 87, {"FIELDDEF", "TfrmNorvikQry", "0"},
+                           fakehost::Refusal("gone"));
+  host.SetErrorText("gone", "no table");
+  EXPECT_EQ(FailureOf([&] { form->m_actPrintExecute(form); }), "no table");
+  EXPECT_EQ(host.libraries.CallsOf(fakehost::Library::kPrint, 3).size(), 1u);
 }
 
 TEST_F(NorvikQry, OpensWithoutAnyAccount) {
