@@ -1,7 +1,9 @@
 #include "toolkit/calendar.h"
 
 #include <QCalendarWidget>
+#include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,6 +17,8 @@ TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
   SetTabStop(true);
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar->setGridVisible(true);
+  // The weeks share the room that there is; under a skin their least height is more than that.
+  calendar->findChild<QTableView*>()->verticalHeader()->setMinimumSectionSize(1);
   calendar->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
   connect(calendar, &QCalendarWidget::selectionChanged, this, [this] {
     if (!setting_) Click();

@@ -1,4 +1,5 @@
 #include <QCalendarWidget>
+#include <QTableView>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -110,6 +111,17 @@ TEST_F(KvxTest, TreeShowsItsRecords) {
   tree->Clear();
   EXPECT_EQ(tree->RootCount(), 0);
   EXPECT_EQ(view->topLevelItemCount(), 0);
+}
+
+TEST_F(KvxTest, CalendarShowsAllWeeks) {
+  Put<TMonthCalendar>("m_MonthCalendar");
+  form->Widget()->setStyleSheet("QTableView { border: 20px solid black; }");
+  auto* view = form->Widget()->findChild<QCalendarWidget*>("m_MonthCalendar");
+  view->resize(view->minimumSizeHint());
+  QCoreApplication::processEvents();
+  const auto* days = view->findChild<QTableView*>();
+  const int last = days->model()->rowCount() - 1;
+  EXPECT_LE(days->rowViewportPosition(last) + days->rowHeight(last), days->viewport()->height());
 }
 
 TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
