@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "demohost/bank/database.h"
+#include "demohost/libraries/chinese.h"
 #include "platform/code_page.h"
 
 namespace demohost {
@@ -72,11 +73,19 @@ int BankDirectory::HasArea(void* context, const char* top_code, const char* area
 
 const char* BankDirectory::BankName(void* context, const char* top_code, const char* area, const char* type,
                                     const char* number) {
-  const Areas* areas = Find(static_cast<BankDirectory*>(context)->regions_, top_code);
+  auto* directory = static_cast<BankDirectory*>(context);
+  const Areas* areas = Find(directory->regions_, top_code);
   const Kinds* kinds = areas == nullptr ? nullptr : Find(*areas, area);
   const Banks* banks = kinds == nullptr ? nullptr : Find(*kinds, type);
   const std::string* name = banks == nullptr ? nullptr : Find(*banks, number);
-  return name == nullptr ? nullptr : name->c_str();
+  return name == nullptr ? nullptr : directory->InCharacters(*name);
+}
+
+const char* BankDirectory::InCharacters(const std::string& name) {
+  if (!traditional_) return name.c_str();
+  std::string& other = traditional_names_[name];
+  if (other.empty()) other = TraditionalFromSimplified(name);
+  return other.c_str();
 }
 
 }  // namespace demohost

@@ -24,6 +24,9 @@ class BankDirectory {
   BankDirectory& operator=(const BankDirectory&) = delete;
 
   norvik_handle Handle() const { return handle_; }
+  // Gives the names out in traditional characters from here on, or as the bank's file has them. To be called
+  // by the thread that reads.
+  void SetTraditional(bool on) { traditional_ = on; }
 
  private:
   // top-level code, area, kind, number
@@ -36,8 +39,11 @@ class BankDirectory {
   static const char* BankName(void* context, const char* top_code, const char* area, const char* type,
                               const char* number);
   void Load(const std::filesystem::path& bank);
+  const char* InCharacters(const std::string& name);
 
   std::map<std::string, Areas> regions_;
+  bool traditional_ = false;
+  std::map<std::string, std::string> traditional_names_;  // what was given out so, by the name in the file
   norvik_handle mutex_;
   norvik_handle handle_;
   std::thread loader_;

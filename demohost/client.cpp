@@ -137,6 +137,7 @@ void Client::ShowWindow() {
   std::vector<BusinessItem> items;
   for (const std::string& item : items_)
     items.push_back({item, ToQt(ItemCaption(texts_, settings.language, item))});
+  directory_.SetTraditional(settings.language == "Traditional Chinese");
   mark_.SetText(ToQt(Word(HostWord::kDemonstration, settings.language)));
   window_.Show(settings, items, ToQt(DayText(clock_.Today())));
 }

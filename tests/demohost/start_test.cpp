@@ -5,6 +5,7 @@
 
 #include "demohost/bank_directory.h"
 #include "demohost/client_data.h"
+#include "demohost/libraries/chinese.h"
 #include "demohost/module.h"
 #include "demohost/options.h"
 #include "demohost/skins.h"
@@ -133,14 +134,21 @@ TEST(BankDirectory, FindsABankByTheFourLevels) {
   ASSERT_TRUE(functions);
   const std::string area = number.substr(3, 4);
   const std::string type = number.substr(0, 3);
-  std::string found;
+  std::string names[2];
   for (std::uint32_t index = 0; const char* top = functions->top_code(functions->context, index); ++index) {
     if (functions->has_area(functions->context, top, area.c_str()) == 0) continue;
-    found = functions->bank_name(functions->context, top, area.c_str(), type.c_str(), number.c_str());
+    for (const bool traditional : {false, true}) {
+      directory.SetTraditional(traditional);
+      const char* given =
+          functions->bank_name(functions->context, top, area.c_str(), type.c_str(), number.c_str());
+      names[traditional ? 1 : 0] = given == nullptr ? "" : given;
+    }
     EXPECT_EQ(functions->bank_name(functions->context, top, area.c_str(), "000", number.c_str()), nullptr);
     EXPECT_EQ(functions->bank_name(functions->context, top, "0000", type.c_str(), number.c_str()), nullptr);
   }
-  EXPECT_EQ(norvik::Utf8FromAnsi(found), name);
+  EXPECT_EQ(norvik::Utf8FromAnsi(names[0]), name);
+  EXPECT_EQ(names[1], TraditionalFromSimplified(names[0]));
+  EXPECT_NE(names[1], names[0]);
   EXPECT_EQ(functions->has_area(functions->context, "none", area.c_str()), 0);
   EXPECT_EQ(functions->top_code(functions->context, 1000), nullptr);
   norvik_mutex_release(mutex);
