@@ -188,6 +188,8 @@ class TWinControl : public TControl {
   virtual void ReturnPressed() {}
   /// The widget that takes the focus, null when the control takes none.
   virtual QWidget* FocusWidget() const { return Widget(); }
+  /// Whether the focus on this widget is the control's; a control of several such widgets says so.
+  virtual bool HoldsFocusOn(const QWidget* widget) const { return widget == FocusWidget(); }
   bool WidgetEvent(QWidget* widget, QEvent* event) override;
   /// Places the aligned children; the container's layout, if it has one, does it instead.
   void AlignControls();

@@ -50,6 +50,11 @@ QWidget* TbsSkinRadioGroup::FocusWidget() const {
   return buttons_[static_cast<std::size_t>(std::max(item_index_, 0))];
 }
 
+// A button that the mouse presses has the focus before it is the chosen one.
+bool TbsSkinRadioGroup::HoldsFocusOn(const QWidget* widget) const {
+  return std::ranges::find(buttons_, widget) != buttons_.end();
+}
+
 void TbsSkinRadioGroup::ItemsChanged() {
   if (Widget() == nullptr) return;
   const QScopedValueRollback setting(setting_, true);

@@ -82,10 +82,10 @@ bool TWinControl::WidgetEvent(QWidget* widget, QEvent* event) {
       if (widget == ClientWidget()) AlignControls();
       break;
     case QEvent::KeyPress:
-      if (widget == FocusWidget()) return KeyEvent(static_cast<QKeyEvent*>(event));
+      if (HoldsFocusOn(widget)) return KeyEvent(static_cast<QKeyEvent*>(event));
       break;
     case QEvent::FocusIn:
-      if (widget == FocusWidget()) {
+      if (HoldsFocusOn(widget)) {
         if (TForm* form = ParentForm()) form->FocusMoved(this);
         FireEvent(OnEnter, this);
       }
@@ -93,7 +93,7 @@ bool TWinControl::WidgetEvent(QWidget* widget, QEvent* event) {
     case QEvent::FocusOut: {
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
       const bool stays = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
-      if (widget == FocusWidget() && !stays) FireEvent(OnExit, this);
+      if (HoldsFocusOn(widget) && !stays) FireEvent(OnExit, this);
       break;
     }
     default:

@@ -6,6 +6,7 @@
 #include "data/string_vector.h"
 #include "tests/toolkit/kvx_fixture.h"
 #include "toolkit/combo_box.h"
+#include "toolkit/edits.h"
 #include "toolkit/list_box.h"
 #include "toolkit/radio_group.h"
 #include "toolkit/text.h"
@@ -155,4 +156,21 @@ TEST_F(KvxChoicesTest, RadioGroupRunsOnClickForCodeAndUser) {
   EXPECT_TRUE(week->isChecked());
   group->Items().Assign({"day"});
   EXPECT_EQ(group->ItemIndex(), -1);
+}
+
+TEST_F(KvxChoicesTest, AButtonThatTheMousePressesMovesTheFocusToItsRadioGroup) {
+  auto* before = Put<TEdit>("m_edNo");
+  auto* group = Put<TbsSkinRadioGroup>("m_rgSelDate");
+  auto* behind = Put<TEdit>("m_edLast");
+  group->Items().Assign({"at once", "scheduled"});
+  group->SetItemIndex(0);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(form->Widget()));
+  before->SetFocus();
+  auto* scheduled = form->Widget()->findChild<QRadioButton*>("m_rgSelDate_1");
+  ASSERT_NE(scheduled, nullptr);
+  QTest::mouseClick(scheduled, Qt::LeftButton, {}, QPoint(5, scheduled->height() / 2));
+  EXPECT_EQ(group->ItemIndex(), 1);
+  EXPECT_EQ(form->ActiveControl(), group);
+  QTest::keyClick(scheduled, Qt::Key_Tab);
+  EXPECT_EQ(form->ActiveControl(), behind);
 }
