@@ -27,6 +27,7 @@ constexpr Setting kSettings[] = {
     {"CONTROL.UPDOWN", "TKVXComboBox", "1"},
     {"CONTROL.UPDOWN", "TbsSkinRadioGroup", "1"},
     {"CONTROL.UPDOWN", "TMemo", "1"},
+    {"CONTROL.UPDOWN", "TMonthCalendar", "1"},
     {"CONTROL.RETURN", "TMemo", "1"},
     {"CONTROL.RETURN", "TbsSkinButton", "1"},
     {"CONTROL.RETURN", "TbsSkinSpeedButton", "1"},

@@ -17,9 +17,11 @@ TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
   SetTabStop(true);
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar->setGridVisible(true);
-  // The weeks share the room that there is; under a skin their least height is more than that.
-  calendar->findChild<QTableView*>()->verticalHeader()->setMinimumSectionSize(1);
+  // Days and weeks share the room that there is; under a skin their least size is more than that.
+  for (QHeaderView* header : {Days()->horizontalHeader(), Days()->verticalHeader()})
+    header->setMinimumSectionSize(1);
   calendar->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
+  WatchWidget(Days());
   connect(calendar, &QCalendarWidget::selectionChanged, this, [this] {
     if (!setting_) Click();
   });
@@ -28,6 +30,15 @@ TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
 
 QCalendarWidget* TMonthCalendar::Calendar() const {
   return static_cast<QCalendarWidget*>(Widget());
+}
+
+QTableView* TMonthCalendar::Days() const {
+  return Calendar() == nullptr ? nullptr : Calendar()->findChild<QTableView*>();
+}
+
+// The days take the keys, and the calendar around them only what they leave.
+QWidget* TMonthCalendar::FocusWidget() const {
+  return Days();
 }
 
 TDateTime TMonthCalendar::Date() const {
@@ -71,6 +82,12 @@ TCustomEdit* TUpDown::Edit() const {
 
 void TUpDown::SetAssociate(TCustomEdit* edit) {
   edit_ = edit;
+  const QPointer<TUpDown> self(this);
+  edit->OnKeyDown = [self](TObject*, std::uint16_t& key, TShiftState) {
+    if (!self || (key != VK_UP && key != VK_DOWN)) return;
+    self->Step(key == VK_UP ? 1 : -1);
+    key = 0;
+  };
 }
 
 void TUpDown::SetRange(int min, int max) {

@@ -4,6 +4,7 @@
 #include "toolkit/conversion.h"
 
 class QCalendarWidget;
+class QTableView;
 class TCustomEdit;
 
 /// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when he picks it
@@ -21,21 +22,25 @@ class TMonthCalendar : public TbsSkinControl {
 
  protected:
   bool ClicksByMouse() const override { return false; }
+  QWidget* FocusWidget() const override;
 
  private:
   QCalendarWidget* Calendar() const;
+  QTableView* Days() const;
 
   bool setting_ = false;
 };
 
-/// Two arrow buttons that count the number in an edit up and down; they stop at the bounds.
+/// Two arrow buttons that count the number in an edit up and down; they stop at the bounds. In the edit the
+/// keys up and down do the same where the form leaves them.
 class TUpDown : public TbsSkinControl {
   Q_OBJECT
 
  public:
   explicit TUpDown(TComponent* owner);
 
-  /// The edit that shows the number; not owned. The position is read from it at each press.
+  /// The edit that shows the number; not owned, and its OnKeyDown is the control's. The position is read from
+  /// it at each press.
   void SetAssociate(TCustomEdit* edit);
   int Min() const { return min_; }
   int Max() const { return max_; }

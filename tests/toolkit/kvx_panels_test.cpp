@@ -1,4 +1,5 @@
 #include <QCalendarWidget>
+#include <QHeaderView>
 #include <QTableView>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -144,6 +145,30 @@ TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
   EXPECT_EQ(doubles, 1);
 }
 
+TEST_F(KvxTest, TheFormSeesTheCalendarsKeysFirst) {
+  auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
+  calendar->SetDate(EncodeDate(2016, 2, 28));
+  std::vector<int> seen;
+  form->SetKeyPreview(true);
+  form->OnKeyDown = [&](TObject*, std::uint16_t& key, TShiftState) {
+    seen.push_back(key);
+    if (key == VK_DOWN) key = 0;
+  };
+  auto* days = calendar->Widget()->findChild<QAbstractItemView*>();
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Escape}) QTest::keyClick(days, key);
+  EXPECT_EQ(seen, (std::vector<int>{VK_DOWN, VK_RIGHT, VK_ESCAPE}));
+  EXPECT_EQ(calendar->Date(), EncodeDate(2016, 2, 29));
+}
+
+TEST_F(KvxTest, ACalendarShowsTheWholeWeekWhateverRoomASkinGivesHeadings) {
+  auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
+  form->Widget()->setStyleSheet("QHeaderView::section { padding: 9px 16px; font-weight: bold; }");
+  calendar->Widget()->resize(calendar->Widget()->minimumSizeHint());
+  QCoreApplication::processEvents();
+  const auto* days = calendar->Widget()->findChild<QTableView*>();
+  EXPECT_LE(days->horizontalHeader()->length(), days->viewport()->width());
+}
+
 TEST_F(KvxTest, UpDownCountsWithinItsBounds) {
   auto* edit = Put<TEdit>("m_edthour");
   auto* arrows = Put<TUpDown>("m_udhour");
@@ -154,6 +179,10 @@ TEST_F(KvxTest, UpDownCountsWithinItsBounds) {
   edit->SetText("22");
   buttons[0]->click();
   buttons[0]->click();
+  EXPECT_EQ(edit->Text(), "23");
+  QTest::keyClick(edit->Widget(), Qt::Key_Down);
+  EXPECT_EQ(edit->Text(), "22");
+  QTest::keyClick(edit->Widget(), Qt::Key_Up);
   EXPECT_EQ(edit->Text(), "23");
   edit->SetText("none");
   EXPECT_EQ(arrows->Position(), 23);
