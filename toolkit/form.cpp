@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QLayout>
 #include <QScreen>
+#include <QWindow>
 
 #include "platform/host_api.h"
 #include "toolkit/application.h"
@@ -32,13 +33,18 @@ class FormWindow : public QWidget {
   TForm* form_;
 };
 
-/// An owner form's window; without one, that of the modal form on top, so that a message stays above what
-/// caused it.
+/// An owner form's window; without one, the host's main window.
 QWidget* ParentWindow(const TComponent* owner) {
   if (const auto* form = qobject_cast<const TForm*>(owner)) return form->Widget();
-  if (owner == nullptr && QApplication::activeModalWidget() != nullptr)
-    return QApplication::activeModalWidget();
   return Application == nullptr ? nullptr : Application->MainWidget();
+}
+
+/// Keeps a window above the modal one that was on top before it, whoever owns it: a window manager that
+/// raises the lower one at a click would hide the only window that takes input.
+void StayAbove(QWidget* window, const QWidget* below) {
+  if (below == nullptr || below == window) return;
+  window->winId();
+  window->windowHandle()->setTransientParent(below->window()->windowHandle());
 }
 
 std::intptr_t FormProcedure(void* context, std::uint32_t message, std::uintptr_t wparam,
@@ -123,6 +129,7 @@ void TForm::OpenWindow() {
                  height_set_ ? window->height() : wanted.height());
   if (position_ != poDesigned) window->move(OpeningPlace());
   if (!active_control_ || !active_control_->CanFocus()) active_control_ = nullptr;
+  if (loop_ != nullptr) StayAbove(window, QApplication::activeModalWidget());
   window->show();
   BringToFront();
   if (active_control_) {

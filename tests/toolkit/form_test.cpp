@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "platform/host_api.h"
 #include "tests/toolkit/test_form.h"
@@ -124,6 +125,23 @@ TEST_F(FormTest, ModalResults) {
     EXPECT_EQ(std::count(log.begin(), log.end(), "OnClose"), 1);
     DestroyForm(form);
   }
+}
+
+TEST_F(FormTest, AModalFormStaysAboveTheOneThatItBlocksWhoeverOwnsIt) {
+  auto* below = CreateForm<TTestForm>(Application);
+  auto* above = CreateForm<TTestForm>(Application);
+  const QWindow* kept = nullptr;
+  QTimer::singleShot(0, below, [&] {
+    QTimer::singleShot(0, above, [&] {
+      kept = above->Widget()->windowHandle()->transientParent();
+      above->Close();
+    });
+    above->ShowModal();
+    below->Close();
+  });
+  below->ShowModal();
+  EXPECT_NE(kept, nullptr);
+  EXPECT_EQ(kept, below->Widget()->windowHandle());
 }
 
 TEST_F(FormTest, DestroyingAModalFormEndsItsLoop) {
