@@ -65,10 +65,7 @@ class TAnimate::Canvas : public QWidget {
       PaintBuiltIn(painter, rect(), control_->common_, step_);
       return;
     }
-    const std::size_t count = control_->stop_frame_ > 0
-                                  ? std::min(frames_.size(), static_cast<std::size_t>(control_->stop_frame_))
-                                  : frames_.size();
-    const QImage& frame = frames_[static_cast<std::size_t>(step_) % count];
+    const QImage& frame = frames_[static_cast<std::size_t>(step_) % frames_.size()];
     painter.drawImage(QPointF(width() - frame.width(), height() - frame.height()) / 2, frame);
   }
 

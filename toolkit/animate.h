@@ -17,13 +17,14 @@ class TAnimate : public TWinControl {
   explicit TAnimate(TComponent* owner);
   ~TAnimate() override;
 
-  /// File of frames that the platform can read (GIF, WebP, animated PNG); one that it can't leaves the
-  /// built-in one.
+  /// File of frames that the platform can read (GIF, WebP, animated PNG), which is played to its end; one
+  /// that it can't leaves the built-in one.
   std::string FileName() const { return file_name_; }
   void SetFileName(const std::string& path);
   TCommonAVI CommonAVI() const { return common_; }
   void SetCommonAVI(TCommonAVI animation);
-  /// Last frame shown before the animation starts anew, 0: all.
+  /// Last frame of the original's built-in animation; kept for the forms, since those here end where they
+  /// begin.
   int StopFrame() const { return stop_frame_; }
   void SetStopFrame(int frame) { stop_frame_ = frame; }
   bool Active() const { return active_; }

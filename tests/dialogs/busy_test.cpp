@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFile>
 #include <QTemporaryDir>
 #include <set>
@@ -115,6 +116,25 @@ TEST_F(Busy, AnimationFileIsTakenFromTheImageDirectory) {
   EXPECT_THROW(ShowBar(owner), corvane::TIOException);
   HideBar(owner);
   EXPECT_EQ(Shown(), nullptr);
+}
+
+TEST_F(Busy, AFileIsPlayedToItsEndWhereverTheBuiltInAnimationStops) {
+  TForm* form = CreateForm<TForm>(Application);
+  TAnimate animation(form);
+  animation.SetParent(form);
+  animation.SetStopFrame(1);
+  animation.SetFileName(
+      Write("two.gif", QByteArray(reinterpret_cast<const char*>(kTwoFrames), sizeof kTwoFrames)));
+  animation.SetActive(true);
+  std::set<QRgb> colours;
+  for (int looks = 0; looks < 40 && colours.size() < 2; ++looks) {
+    QEventLoop wait;
+    QTimer::singleShot(TAnimate::kFrameTime / 4, &wait, &QEventLoop::quit);
+    wait.exec();
+    const QImage picture = animation.Widget()->grab().toImage();
+    colours.insert(picture.pixel(picture.width() / 2, picture.height() / 2));
+  }
+  EXPECT_EQ(colours, (std::set<QRgb>{qRgb(0, 0, 0), qRgb(255, 255, 255)}));
 }
 
 TEST_F(Busy, TimersWaitWhileTheBarPumps) {
