@@ -69,6 +69,7 @@ void TQueryForm::m_actReasonExecute(TObject*) {
   corvane::CorvaneStream request, answer;
   AddRowsInState(request, kStateWithReason);
   if (Exchange(m_actReason, kReason, request, answer)) TakeReasons(answer);
+  if (TListItem* selected = m_lvMain->Selected()) m_lvMainSelectItem(m_lvMain, selected, true);
 }
 
 void TQueryForm::TakeReasons(corvane::CorvaneStream& answer) {
@@ -79,7 +80,6 @@ void TQueryForm::TakeReasons(corvane::CorvaneStream& answer) {
     (*m_lvMain->PropertyOf(item))["Reason"] = reason;
     m_lvMain->RefreshItem(item);
   }
-  if (TListItem* selected = m_lvMain->Selected()) m_lvMainSelectItem(m_lvMain, selected, true);
 }
 
 void TQueryForm::m_actDeleteExecute(TObject* sender) {

@@ -128,6 +128,11 @@ TEST_F(BatchActions, ARefusedExchangeLeavesTheListAndTheActionAsTheyWere) {
     EXPECT_TRUE(row.action->Enabled()) << row.transaction;
     EXPECT_EQ(Column("STT"), before);
   }
+  form->m_lvMain->SetItemIndex(1);
+  (*form->m_lvMain->PropertyOf(form->m_lvMain->Items()[1]))["Reason"] = "known since";
+  Tick({1});
+  FailureOf([&] { form->m_actReason->Execute(); });
+  EXPECT_EQ(Status(), "known since");
 }
 
 TEST_F(BatchActions, AStateThatIsNoNumberIsReportedAndEndsNothing) {
