@@ -45,6 +45,11 @@ void TbsSkinRadioGroup::CaptionChanged() {
   if (Widget() != nullptr) static_cast<QGroupBox*>(Widget())->setTitle(ToQt(Caption()));
 }
 
+void TbsSkinRadioGroup::FontChanged() {
+  TbsSkinControl::FontChanged();
+  for (QRadioButton* button : buttons_) button->setFont(Font()->ToQFont());
+}
+
 QWidget* TbsSkinRadioGroup::FocusWidget() const {
   if (Widget() == nullptr || buttons_.empty()) return nullptr;
   return buttons_[static_cast<std::size_t>(std::max(item_index_, 0))];
@@ -64,6 +69,8 @@ void TbsSkinRadioGroup::ItemsChanged() {
   }
   while (buttons_.size() < items_.Count()) {
     auto* button = new QRadioButton(Widget());
+    // Under a style sheet a widget that comes later doesn't take its parent's font.
+    button->setFont(Widget()->font());
     group_->addButton(button, static_cast<int>(buttons_.size()));
     buttons_.push_back(button);
     WatchWidget(button);

@@ -34,6 +34,7 @@ class TbsSkinRadioGroup : public TbsSkinControl {
 
  protected:
   void CaptionChanged() override;
+  void FontChanged() override;
   QWidget* FocusWidget() const override;
   bool HoldsFocusOn(const QWidget* widget) const override;
   bool ClicksByMouse() const override { return false; }

@@ -158,6 +158,19 @@ TEST_F(KvxChoicesTest, RadioGroupRunsOnClickForCodeAndUser) {
   EXPECT_EQ(group->ItemIndex(), -1);
 }
 
+TEST_F(KvxChoicesTest, RadioItemsHaveTheGroupsFontWheneverTheyCome) {
+  auto* group = Put<TbsSkinRadioGroup>("m_rgSelDate");
+  group->Items().Assign({"at once"});
+  group->Font()->SetSize(20);
+  form->Widget()->setStyleSheet("QWidget { color: black; }");
+  group->Items().Add("scheduled");
+  for (const char* name : {"m_rgSelDate_0", "m_rgSelDate_1"})
+    EXPECT_EQ(form->Widget()->findChild<QRadioButton*>(name)->font().pointSize(), 20) << name;
+  group->Font()->SetSize(9);
+  for (const char* name : {"m_rgSelDate_0", "m_rgSelDate_1"})
+    EXPECT_EQ(form->Widget()->findChild<QRadioButton*>(name)->font().pointSize(), 9) << name;
+}
+
 TEST_F(KvxChoicesTest, AButtonThatTheMousePressesMovesTheFocusToItsRadioGroup) {
   auto* before = Put<TEdit>("m_edNo");
   auto* group = Put<TbsSkinRadioGroup>("m_rgSelDate");
