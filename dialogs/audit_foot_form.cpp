@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int kWidth = 860;
+constexpr int kHeight = 520;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
@@ -80,12 +82,13 @@ void TfrmEBillAuditFoot::BuildControls() {
   buttons.Add(m_btnClose);
   SetBorderStyle(bsSizeable);
   SetPosition(poMainFormCenter);
-  SetWidth(660);
-  SetHeight(520);
+  SetWidth(kWidth);
+  SetHeight(kHeight);
 }
 
 void TfrmEBillAuditFoot::BuildBasicInfo() {
   TGridLayout grid(m_pnBasicInfo);
+  grid.SetMargins(kMargin, kGap, kMargin, kGap);
   grid.SetSpacing(kGap);
   grid.SetColumnStretch(1, 1);
   int row = 0;
@@ -97,8 +100,13 @@ void TfrmEBillAuditFoot::BuildBasicInfo() {
     (this->*line.value)->SetShowHint(true);
     (this->*line.value)->Widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid.Put(this->*line.caption, row, 0, 1, 1, caRight);
-    grid.Put(this->*line.value, row++, 1);
+    if (this->*line.value != m_lbPurValue) grid.Put(this->*line.value, row, 1);
+    ++row;
   }
+  // Its width is its own, and no bound for the values above it.
+  TRowLayout purpose = grid.PutRow(row - 1, 1);
+  purpose.Add(m_lbPurValue);
+  purpose.AddStretch();
   m_lbPurValue->SetWordWrap(true);
   m_lbPurValue->SetLayout(tlTop);
   m_lbPurValue->SetWidth(kPurposeWidth);

@@ -39,8 +39,10 @@ void TfrmBookingProc::BuildControls() {
   m_grpPreFlg->SetColumns(2);
   m_imgEdit->SetStock(siQuestion, kImageSize);
   m_lbTitle->SetWordWrap(true);
-  m_lbStar->SetCaption("*");
-  m_lbStar3->SetCaption("*");
+  for (TLabel* star : {m_lbStar, m_lbStar3}) {
+    star->SetCaption("*");
+    star->Font()->SetColor(clRed);
+  }
   m_grpPreFlg->OnClick = [this](TObject* sender) { m_grpPreFlgClick(sender); };
   m_btnOk->OnClick = [this](TObject* sender) { m_btnOkClick(sender); };
   m_btnCancel->OnClick = [this](TObject* sender) { m_btnCancelClick(sender); };
