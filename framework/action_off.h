@@ -1,15 +1,18 @@
 #pragma once
 
+#include "framework/kept_focus.h"
 #include "toolkit/action.h"
 
-// An action that is off for the time of its own exchange, and on afterwards.
+// An action of a form that is off for the time of its own exchange, and on afterwards; the control that
+// started it keeps the focus.
 class ActionOff {
  public:
-  explicit ActionOff(TAction* action) : m_action(action) { m_action->SetEnabled(false); }
+  ActionOff(TForm* form, TAction* action) : m_focus(form), m_action(action) { m_action->SetEnabled(false); }
   ~ActionOff() { m_action->SetEnabled(true); }
   ActionOff(const ActionOff&) = delete;
   ActionOff& operator=(const ActionOff&) = delete;
 
  private:
+  const KeptFocus m_focus;
   TAction* m_action;
 };

@@ -29,7 +29,7 @@ constexpr const char* kBusinessAmount = "UI40427";
 
 bool TQueryForm::Exchange(TAction* action, const char* code, corvane::CorvaneStream& request,
                           corvane::CorvaneStream& answer) {
-  const ActionOff off(action);
+  const ActionOff off(this, action);
   return m_pIntf->SendRequest(code, request, answer, this);
 }
 

@@ -137,6 +137,8 @@ void TCustodyQueryForm::ResetForm() {
   LoadDictionaries();
   m_cbxAcc->SetItemIndex(0);
   StartAccount();
+  // A screen that was closed by its button doesn't open again on that.
+  SetActiveControl(m_cbxAcc);
   m_lvMainClick(this);
 }
 
@@ -208,7 +210,7 @@ void TCustodyQueryForm::m_actQueryExecute(TObject* sender) {
   BuildQueryRequest(request);
   bool answered = false;
   {
-    const ActionOff off(m_actQuery);
+    const ActionOff off(this, m_actQuery);
     answered = m_pCommon->SendRequest(kQueryTransaction, request, answer, this);
   }
   if (answered) ShowQueryResult(answer);

@@ -1,4 +1,5 @@
 // The three enquiries of the repository screen.
+#include "framework/kept_focus.h"
 #include "repository/big_result_dtl.h"
 #include "repository/ecd_sign_dtl.h"
 #include "repository/ecds_history_dtl.h"
@@ -57,6 +58,7 @@ void TfrmNorvikQry::Enquire(const Enquiry& enquiry) {
     return;
   }
   if (enquiry.byNumber) fields["QURYTYP"] = identified ? "1" : "2";
+  const KeptFocus focus(this);
   try {
     ShowAnswer(enquiry, fields);
   } catch (...) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "repository/enquiry_form.h"
 #include "repository/record_info_form.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
@@ -263,8 +264,10 @@ TEST_F(NorvikQry, StartsAfreshAtEachShowButKeepsTheBillId) {
   form->m_lvMainClick(form);
   form->m_crbAllCheck->SetChecked(true);
   form->m_pnStatusText->SetCaption("reason");
+  form->m_btnClose->SetFocus();
   form->Close();
   form->Show();
+  EXPECT_EQ(form->ActiveControl(), form->m_cbxAcc);
   EXPECT_EQ(form->m_cbxAcc->ItemIndex() + form->m_cbxType->ItemIndex() + form->m_cbxBankRmk->ItemIndex(), 0);
   EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
   EXPECT_EQ(form->m_pnStatusText->Caption(), "");
@@ -438,6 +441,22 @@ TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
   form->Show();
   EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999");
   EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos);
+}
+
+TEST_F(NorvikQry, LeavesTheFocusOnTheButtonThatAsked) {
+  Open();
+  host.SetAnswerRows(ScreenHost::ListOf({{"BILLNUM", "BILLSID"}, {"B1", "1"}}));
+  const auto press = [this](TbsSkinButton* button) {
+    button->SetFocus();
+    button->Click();
+    return form->ActiveControl() == button;
+  };
+  EXPECT_TRUE(press(form->m_spdQuery));
+  form->m_lvMain->CheckAll();
+  form->m_lvMainClick(form);
+  WhenShown<TEnquiryForm> close([](TEnquiryForm& dialog) { dialog.Close(); });
+  EXPECT_TRUE(press(form->m_btnECDSHistoryInfo));
+  EXPECT_TRUE(close.Came());
 }
 
 TEST_F(NorvikQry, FollowsTheRightMouseButtonButNotTheOthers) {
