@@ -111,6 +111,7 @@ bool TfrmStatistics::Prepare(TForm* owner, TKVXListView* listView, const corvane
 }
 
 void TfrmStatistics::Compute() {
+  m_usualCurrency = g_pTranslate->Translate("UI42325");
   AddRecords(false);
   BuildColumns(m_ltvInfo);
   Fill(m_ltvInfo);
@@ -130,9 +131,8 @@ void TfrmStatistics::AddRecords(bool checkedOnly) {
 
 void TfrmStatistics::AddRecord(const TListItem* item) {
   const corvane::Property& record = *item->Data();
-  const std::string currency =
-      record.hasField("CRYTYPE") ? record.getValue("CRYTYPE") : g_pTranslate->Translate("UI42325");
-  if (m_listView->PropertyOf(item)->getValue("Color") == kRefusedColor) throw std::runtime_error("");
+  const std::string currency = record.hasField("CRYTYPE") ? record.getValue("CRYTYPE") : m_usualCurrency;
+  if (record.getValue("Color") == kRefusedColor) throw std::runtime_error("");
   std::map<std::string, double>& sums = m_sums[currency];
   for (const std::string& id : m_sumColumns) {
     const std::string amount = record.getValue(id);

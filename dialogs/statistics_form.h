@@ -58,6 +58,7 @@ class TfrmStatistics : public TBaseForm {
   TKVXListView* m_listView = nullptr;  // not owned
   corvane::StringVector m_sumColumns;
   std::map<std::string, std::map<std::string, double>> m_sums;  // by currency text and column id
+  std::string m_usualCurrency;                                  // of a record that names none
   std::string m_ownerClass;
   corvane::List m_fieldDefs;
 };

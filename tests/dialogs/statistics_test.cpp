@@ -90,6 +90,19 @@ TEST_F(Statistics, SumsByCurrencyOnceForAllAndOnceForTheTicked) {
                                                  {"USD", "1", "1,000,000.10", "1.00"}}));
 }
 
+TEST_F(Statistics, AskOnceForTheCurrencyOfAllRecordsThatNameNone) {
+  for (int i = 0; i < 3; ++i) Add({{"AMT", "0.50"}}, true);
+  const auto form = Make();
+  host.libraries.calls.clear();
+  ASSERT_TRUE(form->Prepare(owner, list, {"AMT"}, "sums"));
+  EXPECT_EQ(CellsOf(form->m_ltvInfo), (Cells{{Ansi("人民币"), "3", "1.50"}}));
+  int asked = 0;
+  for (const fakehost::Call& call : host.libraries.CallsOf(Library::kTranslate, 4)) {
+    for (const std::string& argument : call.arguments) asked += argument == "UI42325" ? 1 : 0;
+  }
+  EXPECT_EQ(asked, 1);
+}
+
 TEST_F(Statistics, ColumnsTakeCaptionAndWidthFromTheColumnTable) {
   const auto form = Make();
   ASSERT_TRUE(form->Prepare(owner, list, {"NEW", "AMT", "OTHER"}, ""));

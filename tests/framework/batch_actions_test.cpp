@@ -93,6 +93,7 @@ struct BatchActions : testing::Test {
 };
 
 TEST_F(BatchActions, SynchronizesTheStatesOfTheRecordsThatHaveNone) {
+  EXPECT_FALSE(form->m_pnlAdvance->Visible()) << "a screen without advanced conditions";
   Tick({0, 1, 2, 3});
   ASSERT_TRUE(form->m_actSynState->Enabled());
   host.SetAnswerRows(ScreenHost::ListOf(

@@ -139,6 +139,17 @@ TEST_F(QueryForm, TurnsTheDetailsOffOnlyWithoutATick) {
   EXPECT_FALSE(form->m_crbAllCheck->Checked()) << "the last tick by hand leaves the box";
 }
 
+TEST_F(QueryForm, WritesARecordBackToTheSelectedRow) {
+  Open();
+  form->Fill({{"A"}, {"0"}, {"1"}});
+  corvane::Property record;
+  record["A"] = "9";
+  form->ModifySelected(record);
+  form->m_lvMain->SetItemIndex(1);
+  form->ModifySelected(record);
+  EXPECT_EQ(form->m_lvMain->Items()[0]->Caption() + form->m_lvMain->Items()[1]->Caption(), "09");
+}
+
 TEST_F(QueryForm, FollowsTheSpaceKeyOfASelectedRowWithABox) {
   Open();
   form->Fill({{"A"}, {"0"}});
