@@ -42,6 +42,10 @@ void Provoke(const QString& what, const QString& key) {
     faults.texts.insert(name);
   } else if (what == QLatin1String("entry")) {
     faults.entries.insert(name);
+  } else if (what == QLatin1String("row")) {
+    faults.row = true;
+  } else if (what == QLatin1String("images")) {
+    faults.images = true;
   } else if (what == QLatin1String("none")) {
     faults = Faults();
   } else {

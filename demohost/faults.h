@@ -13,6 +13,10 @@ struct Faults {
   std::set<std::string, std::less<>> texts;
   // Keys of the public information that reads are refused for.
   std::set<std::string, std::less<>> entries;
+  // The first bill of the bank's next answer to a query is marked as refused.
+  bool row = false;
+  // The folder of the client's pictures can't be written to.
+  bool images = false;
 };
 
 }  // namespace demohost

@@ -6,6 +6,10 @@
 namespace demohost {
 namespace {
 
+constexpr std::string_view kImagesField = "ENV.IMAGES";
+// Where nobody can write: below a file.
+constexpr const char* kNoFolder = "/dev/null/";
+
 InfoStore& Store() {
   return *CurrentServices().store;
 }
@@ -51,8 +55,11 @@ std::uint8_t SetField(const char* block, const char* xml, char* error) {
 }
 
 std::uint8_t GetField(char** buffer, std::int32_t* length, const char* block, const char* name, char* error) {
-  return Answered(buffer, length, error, kShortError,
-                  [&] { return StoreWith(Text(block)).GetField(Text(block), Text(name)).toString(); });
+  return Answered(buffer, length, error, kShortError, [&] {
+    corvane::Field field = StoreWith(Text(block)).GetField(Text(block), Text(name));
+    if (CurrentServices().faults.images && field.name() == kImagesField) field.setValue(kNoFolder);
+    return field.toString();
+  });
 }
 
 std::uint8_t GetList(char** buffer, std::int32_t* length, const char* key, char* error) {

@@ -18,8 +18,9 @@ struct OperatorClient {
   std::function<void(const QString& item)> pick;
   std::function<void(const QString& name)> language;
   std::function<void(const QString& name, int size)> font;
-  // Makes something of the host go wrong: "exchange" the next one, with the key of a refusal; "text" a key's
-  // text and "entry" a read of the public information, from now on; "none" ends all that.
+  // Makes something of the host go wrong: "exchange" the next one, with the key of a refusal; "row" the first
+  // bill of the next query; "text" a key's text, "entry" a read of the public information and "images" the
+  // folder of pictures, from now on; "none" ends all that.
   std::function<void(const QString& what, const QString& key)> fail;
   // The window of the module that is in front, null if there is none.
   std::function<QWidget*()> front;

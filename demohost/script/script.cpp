@@ -39,7 +39,7 @@ const QHash<QString, CommandRule>& Commands() {
       {"language", {1, 1, "language NAME"}},
       {"font", {2, 2, "font NAME SIZE"}},
       {"remove", {1, 1, "remove FILE"}},
-      {"fail", {1, 2, "fail exchange|text|entry|none [KEY]"}},
+      {"fail", {1, 2, "fail exchange|row|text|entry|images|none [KEY]"}},
   };
   return kCommands;
 }

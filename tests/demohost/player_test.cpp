@@ -165,6 +165,19 @@ TEST_F(PlayerTest, WorksTheControlsAsAnOperatorDoes) {
   EXPECT_EQ(screen_.states->selectedItems().size(), 3);
 }
 
+TEST_F(PlayerTest, KeysGoToTheOpenMenuOrListOfChoices) {
+  Run("select m_cbxAcc all\nkey Alt+Down\nkey Down\nkey Return\nexpect text m_cbxAcc 1001-甲公司\n"
+      "select m_cbxAcc all\nkey Alt+Down\nkey Down\nkey Escape\nexpect text m_cbxAcc all\nkey Down\n"
+      "expect text m_cbxAcc 1001-甲公司\n");
+  QMenu menu;
+  int taken = 0;
+  menu.addAction("first");
+  menu.addAction("second", &screen_, [&taken] { ++taken; });
+  menu.popup(QPoint(10, 10));
+  Run("key Down\nkey Down\nkey Return\nexpect text m_cbxAcc 1001-甲公司\n");
+  EXPECT_EQ(taken, 1);
+}
+
 TEST_F(PlayerTest, FindsAnActionInTheMenuOfTheList) {
   Run("start m_actSum\n");
   EXPECT_EQ(screen_.sums, 1);
