@@ -72,6 +72,7 @@ void TranslateItems(TWinControl* control) {
   }
   if (auto* combo = qobject_cast<TCustomComboBox*>(control)) {
     TStrings& items = combo->Items();
+    const TStringsUpdate update(items);
     for (std::size_t i = 0; i < items.Count(); ++i) items.SetStrings(i, Translated(items.Strings(i)));
   }
   if (auto* tree = qobject_cast<TCustomTreeView*>(control)) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "dialogs/messages.h"
 #include "host/pub_info.h"
@@ -42,6 +43,23 @@ class CodeTexts {
   std::unordered_map<std::string, Entry> m_entries;
 };
 
+// Each account once, also one that several flows reach, behind the first entry; an empty box without
+// accounts.
+void ShowAccounts(TKVXComboBox* combo, const corvane::List& accounts, const std::string& firstEntry) {
+  const TStringsUpdate update(combo->Items());
+  std::unordered_set<std::string> shown;
+  combo->Clear();
+  for (const corvane::Row& row : accounts) {
+    const std::string number = Value(row, "ACCNO");
+    const std::string name = Value(row, "ACCNM");
+    if (!shown.insert(number).second) continue;
+    combo->Keys().Add(number);
+    combo->Names().Add(name);
+    combo->Items().Add(number + combo->LinkSymbol() + name);
+  }
+  if (!shown.empty()) CQueryCommon::InsertNoChoiceEntry(combo, firstEntry);
+}
+
 }  // namespace
 
 void CQueryCommon::LoadDictCombo(TKVXComboBox* combo, const std::string& dictName) {
@@ -75,16 +93,7 @@ void CQueryCommon::LoadAccountCombo(TKVXComboBox* combo, bool withPrompt) {
     for (unsigned i = 0; i < m_flows.size(); ++i) flows.push_back(m_flows[i].getValue("FLOWID"));
     corvane::List reached = accounts.select("FLOWID", flows);
     const std::string firstEntry = g_pTranslate->Translate(withPrompt ? "UI54176" : "UI53241");
-    combo->Clear();
-    for (unsigned i = 0; i < reached.size(); ++i) {
-      const std::string number = reached[i].getValue("ACCNO");
-      const std::string name = reached[i].getValue("ACCNM");
-      if (combo->FindKeyIndex(number) >= 0) continue;
-      combo->Keys().Add(number);
-      combo->Names().Add(name);
-      combo->Items().Add(number + combo->LinkSymbol() + name);
-    }
-    if (combo->Keys().Count() > 0) InsertNoChoiceEntry(combo, firstEntry);
+    ShowAccounts(combo, reached, firstEntry);
     combo->SetItemIndex(0);
   } catch (const corvane::TException& failure) {
     ReportException(failure);

@@ -61,6 +61,11 @@ void TStrings::SetText(const std::string& text) {
   Assign(std::move(lines));
 }
 
+void TStrings::EndUpdate() {
+  if (--updating_ == 0 && changed_) Changed();
+}
+
 void TStrings::Changed() {
-  if (OnChange) OnChange();
+  changed_ = updating_ > 0;
+  if (!changed_ && OnChange) OnChange();
 }

@@ -30,6 +30,11 @@ class TStrings {
   /// Replaces the content by the lines of a text, parted by "\r\n" or "\n".
   void SetText(const std::string& text);
 
+  /// Gathers the changes up to EndUpdate: OnChange runs once then, if there was any. Calls may be nested.
+  /// Many entries that are told of one by one take a time that grows with the square of their number.
+  void BeginUpdate() { ++updating_; }
+  void EndUpdate();
+
   auto begin() const { return strings_.begin(); }
   auto end() const { return strings_.end(); }
 
@@ -40,4 +45,18 @@ class TStrings {
   void Changed();
 
   std::vector<std::string> strings_;
+  int updating_ = 0;
+  bool changed_ = false;  // since the first BeginUpdate
+};
+
+/// Gathers the changes of a list to the end of its block.
+class TStringsUpdate {
+ public:
+  explicit TStringsUpdate(TStrings& strings) : strings_(strings) { strings_.BeginUpdate(); }
+  ~TStringsUpdate() { strings_.EndUpdate(); }
+  TStringsUpdate(const TStringsUpdate&) = delete;
+  TStringsUpdate& operator=(const TStringsUpdate&) = delete;
+
+ private:
+  TStrings& strings_;
 };

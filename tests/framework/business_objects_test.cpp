@@ -1,6 +1,8 @@
 // The business objects over a host and real lists and boxes.
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+
 #include "dialogs/busy_form.h"
 #include "dialogs/error_msg.h"
 #include "framework/query_common.h"
@@ -144,6 +146,18 @@ TEST_F(BusinessObjects, ListEachAccountOnceBehindThePrompt) {
   common.LoadBusinessFlows("CB000000");
   common.LoadAccountCombo(box, true);
   EXPECT_EQ(Entries(), "");
+}
+
+TEST_F(BusinessObjects, ShowManyAccountsInOneStep) {
+  host.SetAccounts(1000);
+  common.LoadBusinessFlows("CB200310");
+  int steps = 0;
+  const auto* model = static_cast<QComboBox*>(box->Widget())->model();
+  QObject::connect(model, &QAbstractItemModel::rowsInserted, box, [&] { ++steps; });
+  common.LoadAccountCombo(box, true);
+  EXPECT_EQ(steps, 1);
+  EXPECT_EQ(model->rowCount(), 1001);
+  EXPECT_EQ(box->ItemIndex(), 0);
 }
 
 TEST_F(BusinessObjects, DecodeWhatTheDictionaryKnows) {

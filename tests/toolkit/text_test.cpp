@@ -46,3 +46,24 @@ TEST(Strings, TellTheirOwnerOfEachChange) {
   EXPECT_THROW(strings.Delete(0), std::out_of_range);
   EXPECT_EQ(changes, 7);
 }
+
+TEST(Strings, GatherTheirChangesInAnUpdate) {
+  TStrings strings;
+  int changes = 0;
+  strings.OnChange = [&] { ++changes; };
+  {
+    const TStringsUpdate outer(strings);
+    strings.Add("a");
+    {
+      const TStringsUpdate inner(strings);
+      strings.Add("b");
+    }
+    EXPECT_EQ(strings.Count(), 2U);
+    EXPECT_EQ(changes, 0);
+  }
+  EXPECT_EQ(changes, 1);
+  { const TStringsUpdate nothing(strings); }
+  EXPECT_EQ(changes, 1);
+  strings.Add("c");
+  EXPECT_EQ(changes, 2);
+}
