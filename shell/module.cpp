@@ -45,7 +45,7 @@ void ReportEscaped(TObject*, std::exception_ptr error) {
   try {
     std::rethrow_exception(std::move(error));
   } catch (const corvane::TException& exception) {
-    if (nested) throw std::runtime_error(exception.getMessage(" "));
+    if (nested) throw std::runtime_error(exception.getMessage("; "));
     ReportKeys(exception);
   } catch (const std::exception& exception) {
     if (nested) throw;

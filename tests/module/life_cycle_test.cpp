@@ -192,6 +192,19 @@ TEST(CallFunc, OpensOneScreenForEachItem) {
   EXPECT_EQ(OpenScreens(), 3);
 }
 
+TEST(CallFunc, OpensAScreenWithoutAMainWindow) {
+  for (const std::uint32_t stray : {0u, 1u, 0xFFFFFFFFu}) {
+    WindowedHost host;
+    host.handles["APPMAINFORMHANDLE"] = stray;
+    const ModuleLibrary module;
+    module.InitModule(host.publicInformation);
+    module.Pick("ITEM6066");
+    ASSERT_NE(WindowOf("TfrmNorvikQry"), nullptr);
+    EXPECT_EQ(WindowOf("TfrmNorvikQry")->parentWidget(), nullptr);
+    EXPECT_TRUE(WindowOf("TfrmNorvikQry")->isVisible());
+  }
+}
+
 TEST(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
   WindowedHost host;
   const ModuleLibrary module;
@@ -250,6 +263,19 @@ TEST(Release, DestroysScreensOpenOrClosedAndLetsNewOnesBeMade) {
   }
   EXPECT_EQ(host.given, host.released);
   EXPECT_EQ(host.wronglyReleased, 0);
+}
+
+TEST(Release, ComesAfterTheHostsMainWindowHasTakenTheScreensWithIt) {
+  WindowedHost host;
+  host.OfferBills();
+  const ModuleLibrary module;
+  module.InitModule(host.publicInformation);
+  for (const auto& row : kScreens) module.Pick(row.item);
+  for (const auto& row : kScreens) delete WindowOf(row.screen);
+  for (const auto& row : kScreens) module.Pick(row.item);
+  module.Release();
+  EXPECT_EQ(OpenScreens(), 0);
+  EXPECT_EQ(host.given, host.released);
 }
 
 TEST(Release, SavesTheLayoutsInTheOrderOfTheMenu) {
