@@ -95,6 +95,10 @@ TEST(Row, KeepsWholeFields) {
   EXPECT_FALSE(row.containsField(Field("A", "1")) || row.containsField(Field("B", "")));
   row.addField(row.getField("A"));
   EXPECT_EQ(Keys(row), "A=2;");
+  row.addField(field);
+  row.removeField("A");
+  row["B"];
+  EXPECT_EQ(row.getField("B").getAttributes(), AttributeMap());
 }
 
 TEST(Row, RemovesColumns) {
@@ -223,6 +227,7 @@ TEST(Row, ComparesColumnsAlone) {
   second.removeField("A");
   EXPECT_FALSE(first.sameColumns(second));
   EXPECT_TRUE(Row().sameColumns(Row()));
+  EXPECT_FALSE(Row().sameColumns(first) || first.sameColumns(Row()));
   Row emptied = first;
   emptied.removeField("A");
   emptied.removeField("B");

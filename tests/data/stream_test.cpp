@@ -116,6 +116,10 @@ TEST(CorvaneStream, MarksWhatIsAdded) {
             "</row></list></stream>");
   list.clear();
   EXPECT_EQ(stream.getList("L").size(), 1U);
+  list.setAttribute("name", "M");
+  list.addRow(Row());
+  stream.addList(list);
+  EXPECT_EQ(list[0].getAttributes(), (AttributeMap{{"name", ""}}));
 }
 
 TEST(CorvaneStream, GathersFields) {
@@ -177,8 +181,10 @@ TEST(Ini, KeepsSectionsByName) {
   Ini copy;
   ini.setAttribute("a", "1");
   copy.setAttribute("b", "2");
+  copy.addSection("OLD", row);
   copy = ini;
   EXPECT_EQ(copy.getAttributes(), (AttributeMap{{"b", "2"}}));
+  EXPECT_TRUE(copy.find("OLD") == copy.end());
   EXPECT_EQ(copy.getSection("S")["X"], "1");
 }
 
@@ -200,6 +206,26 @@ TEST(Iniplus, ReadsAndWrites) {
     iniplus.setEncoding("");
     EXPECT_EQ(iniplus.toString(), "<?xml version=\"1.0\" encoding=\"\"?>" + one.shown) << one.text;
   }
+}
+
+// Reads a text with a label, and another that is refused; then empties the document.
+template <class Document>
+void TakesEncodingAndClears(const std::string& tag) {
+  Document document("<?xml version=\"1.0\" encoding=\"GBK\"?><" + tag + " a=\"1\"/>");
+  EXPECT_EQ(document.getEncoding(), "GBK");
+  EXPECT_NE(KeyOf([&] { document.fromString("<?xml version=\"1.0\" encoding=\"X\"?><other/>"); }), "none");
+  EXPECT_EQ(document.getEncoding(), "GBK");
+  document.fromString("<" + tag + " a=\"1\"/>");
+  EXPECT_EQ(document.getEncoding() + document.getAttribute("a"), "1");
+  document.clear();
+  EXPECT_EQ(document.getName(), tag);
+  EXPECT_EQ(document.getAttributes(), AttributeMap());
+}
+
+TEST(Documents, TakeTheEncodingOfWhatWasReadAndKeepTheirTag) {
+  TakesEncodingAndClears<Ini>("ini");
+  TakesEncodingAndClears<Iniplus>("iniplus");
+  TakesEncodingAndClears<List>("list");
 }
 
 TEST(Iniplus, KeepsSectionsByName) {

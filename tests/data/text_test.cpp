@@ -37,6 +37,7 @@ TEST(StringVector, Splits) {
       {"a\\\\,b", ",", false, {"a\\\\", "b"}},
       {"a\\\\\\,b", ",", true, {"a\\\\", "b"}},
       {"a", "||", true, {"a"}},
+      {"\\\\", "|||", true, {"\\\\"}},
       {"||", "||", true, {""}},
       {"|||", "||", true, {"", "|"}},
       {",,", ",", true, {"", ""}},
@@ -172,6 +173,7 @@ TEST(Text, GoesWideAndBack) {
   EXPECT_EQ(WideString(u"你x", 1).toString(936), "\xC4\xE3");
   EXPECT_EQ(WideString(std::string("你"), 65001).toString(0), "\xC4\xE3");
   EXPECT_EQ(WideString().toString(0), "");
+  EXPECT_EQ(WideString(u"ab", -1), u"");
 }
 
 TEST(Exceptions, CarryTheirTexts) {
@@ -206,6 +208,8 @@ TEST(Clock, TellsLocalTime) {
   TSysDateTime clock;
   clock.setTime(1709222399000);  // 2024-02-29 15:59:59 UTC
   EXPECT_EQ(clock.getDateTime().substr(0, 12), "202402292359");
+  clock.setTime(1709222369001);
+  EXPECT_EQ(clock.getDateTime(), "20240229235929");
   clock.setTime(1709222400000);
   EXPECT_EQ(clock.getDate(), "20240301");
   EXPECT_EQ(clock.getTime().substr(0, 4), "0000");

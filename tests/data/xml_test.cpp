@@ -73,6 +73,7 @@ TEST(XmlReader, ScansTheEncoding) {
       {"<a/>", ""},
       {"", ""},
       {"?>", ""},
+      {"?> encoding=x", ""},
       {"<a b=\"1\">encoding=x y</a>", "x"},
       {"<?xml version=\"1.0\" encoding=", ""},
       {"<?xml version=\"1.0\" encoding=\"?>", ""},
@@ -169,6 +170,14 @@ TEST(XmlWriter, RefusesWhatNoReaderTakes) {
     std::string kept = "kept";
     EXPECT_EQ(writeXml(row, kept), one.key == "none");
     EXPECT_EQ(kept == "kept", one.key != "none");
+  }
+}
+
+TEST(XmlWriter, RefusesALabelThatWouldEndTheProlog) {
+  for (const char* label : {"\"", "GBK?>", "G\nBK", "?><x/>"}) {
+    Row row;
+    row.setEncoding(label);
+    EXPECT_EQ(KeyOf([&] { (void)row.toString(); }), "ET10058") << label;
   }
 }
 
