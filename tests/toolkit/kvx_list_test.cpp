@@ -1,6 +1,8 @@
 #include <QHeaderView>
 #include <QMenu>
+#include <QProxyStyle>
 #include <QSignalSpy>
+#include <QStyleOption>
 #include <QTreeView>
 
 #include "data/list.h"
@@ -12,6 +14,19 @@
 #include "toolkit/text.h"
 
 namespace {
+
+// Writes down the captions that a header paints.
+class HeaderSpy : public QProxyStyle {
+ public:
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_Header && header != nullptr) captions << header->text;
+    QProxyStyle::drawControl(element, option, painter, widget);
+  }
+
+  mutable QStringList captions;
+};
 
 class KvxListTest : public KvxTest {
  protected:
@@ -369,6 +384,21 @@ TEST_F(KvxListTest, TheHeaderHasTheListsFontUnderASkinToo) {
   list->Font()->SetSize(30);
   EXPECT_EQ(view->header()->font().pointSize(), 30);
   EXPECT_GT(height(), before + 10);
+}
+
+TEST_F(KvxListTest, ACaptionThatIsCutEndsInDots) {
+  Fill(1);
+  HeaderSpy spy;
+  view->header()->setStyle(&spy);
+  for (const int width : {60, 600}) {
+    list->Columns()[0]->SetWidth(width);
+    spy.captions.clear();
+    view->header()->grab();
+    const QString shown = spy.captions.value(0);
+    EXPECT_EQ(shown.endsWith(QChar(0x2026)), width == 60) << shown.toStdString();
+    EXPECT_EQ(shown == "caption of BILLNUM", width == 600) << shown.toStdString();
+  }
+  view->header()->setStyle(nullptr);
 }
 
 TEST_F(KvxListTest, ALowFormLeavesRoomForRows) {
