@@ -15,6 +15,9 @@ namespace {
 // A row of a request's account list names this many accounts at most.
 constexpr std::size_t kAccountsInRow = 20;
 
+// The source whose institutions an account is asked for: custody, the only one that this bank has.
+constexpr std::string_view kCustodySource = "1";
+
 }  // namespace
 
 Bank::Bank(Database database, Day today) : database_(std::move(database)), today_(today) {
@@ -101,7 +104,7 @@ corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
 }
 
 corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) {
-  Required(FieldsOf(request), "SRC");
+  if (Required(FieldsOf(request), "SRC") != kCustodySource) throw Refused(refusal::kUnknownCode, "SRC");
   const std::vector<std::string> accounts = RequestedAccounts(request, "userDataList");
   Where where;
   AddOneOf(where, "ACCNO", accounts);

@@ -239,6 +239,7 @@ TEST_F(BankTest, NamesTheInstitutionsOfAnAccount) {
   EXPECT_EQ(Count("CUSTACC = '" + accounts_[0] + "' AND AGTBHNM <> '" + number + "'"), 0);
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>1</SRC></stream>"), "BK30007");
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream/>"), "SRC\r\nBK30003");
+  EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>2</SRC></stream>"), "SRC\r\nBK30010");
 }
 
 TEST_F(BankTest, TellsOfItsOwnFailure) {
