@@ -62,6 +62,9 @@ TEST_F(Busy, BarLivesFromShowToHideOneForAClass) {
   EXPECT_EQ(Shown()->Width(), 350);
   EXPECT_EQ(Shown()->Height(), 60);
   EXPECT_EQ(Shown()->m_amtmain->Widget()->size(), QSize(350, 60));
+  EXPECT_EQ(Shown()->Position(), poScreenCenter);
+  EXPECT_EQ(Shown()->FormStyle(), fsStayOnTop);
+  EXPECT_EQ(Shown()->BorderStyle(), bsNone);
   EXPECT_TRUE(Shown()->m_amtmain->Active());
   ShowBar(other);
   EXPECT_EQ(Forms(), before + 2);
@@ -95,6 +98,7 @@ TEST_F(Busy, WaitFormIsOneAndNeedsNoOwner) {
   EXPECT_EQ(Shown()->ClassName(), "TWaitForm");
   EXPECT_EQ(Shown()->Width(), 178);
   EXPECT_EQ(Shown()->Height(), 45);
+  EXPECT_EQ(Shown()->Position(), poOwnerFormCenter);
   const int one = Forms();
   ShowWait(nullptr);
   EXPECT_EQ(Forms(), one);
