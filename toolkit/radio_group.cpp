@@ -47,6 +47,7 @@ void TbsSkinRadioGroup::CaptionChanged() {
 
 void TbsSkinRadioGroup::FontChanged() {
   TbsSkinControl::FontChanged();
+  if (Widget() == nullptr) return;
   for (QRadioButton* button : buttons_) button->setFont(Font()->ToQFont());
 }
 
@@ -57,7 +58,7 @@ QWidget* TbsSkinRadioGroup::FocusWidget() const {
 
 // A button that the mouse presses has the focus before it is the chosen one.
 bool TbsSkinRadioGroup::HoldsFocusOn(const QWidget* widget) const {
-  return std::ranges::find(buttons_, widget) != buttons_.end();
+  return Widget() != nullptr && std::ranges::find(buttons_, widget) != buttons_.end();
 }
 
 void TbsSkinRadioGroup::ItemsChanged() {

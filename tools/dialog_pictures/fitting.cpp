@@ -1,4 +1,4 @@
-#include "tests/pictures/fitting.h"
+#include "tools/dialog_pictures/fitting.h"
 
 #include <QAbstractButton>
 #include <QFontMetrics>

@@ -19,10 +19,10 @@
 #include "platform/code_page.h"
 #include "repository/norvik_e_loan_qry.h"
 #include "shell/module.h"
-#include "tests/pictures/fitting.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/list_view.h"
+#include "tools/dialog_pictures/fitting.h"
 
 namespace {
 
