@@ -1,6 +1,6 @@
-// dialog_pictures LANGUAGE FOLDER: leaves pictures of the dialogs round the approval of a record in the
-// folder, opened from the applications of the demonstration bank by the actions that the screens of the menu
-// hide. Fails where a dialog doesn't come, shows a key or has no room for a text.
+// dialog_pictures LANGUAGE FOLDER: leaves pictures of the column dialog and of the dialogs round the approval
+// of a record in the folder, opened from the applications of the demonstration bank by the actions that the
+// screens of the menu hide. Fails where a dialog doesn't come, shows a key or has no room for a text.
 #include <QApplication>
 #include <QTimer>
 #include <cstdlib>
@@ -22,6 +22,7 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/list_view.h"
+#include "toolkit/menu.h"
 #include "tools/dialog_pictures/fitting.h"
 
 namespace {
@@ -109,7 +110,8 @@ std::string Opinion(const std::string& language) {
 
 std::vector<Scene> Scenes(const std::string& language) {
   const auto close = [](TForm* form) { form->Close(); };
-  return {{"TfrmAudit", "audit.png",
+  return {{"TfrmSelectColumn", "column-dialog.png", [](TForm*) {}, close},
+          {"TfrmAudit", "audit.png",
            [opinion = Opinion(language)](TForm* form) {
              auto* audit = static_cast<TfrmAudit*>(form);
              audit->m_rdgAudit->SetItemIndex(TfrmAudit::kDisagree);
@@ -129,13 +131,15 @@ std::vector<Scene> Scenes(const std::string& language) {
           {"TfrmViewBsnFlow", "approval-flow.png", [](TForm*) {}, close}};
 }
 
-// The applications under the name of their business, as a screen with batch actions has it.
+// The applications under the name of their business, as a screen with batch actions and the column dialog has
+// it.
 class TApplications : public TfrmNorvikELoanQry {
  public:
   using TfrmNorvikELoanQry::TfrmNorvikELoanQry;
   void Construct() override {
     TfrmNorvikELoanQry::Construct();
     m_strBsnName = TranslateKey("UI25828");
+    m_bColumnDialog = true;
   }
 };
 
@@ -153,6 +157,14 @@ bool TickOrder(TKVXListView* list) {
   return false;
 }
 
+// Takes the last entry of the column menu, which is the dialog.
+void ChooseColumns(TApplications& screen) {
+  screen.m_actHideColumn->Execute();
+  screen.m_pumColumn->Close();
+  const TMenuItem* entries = screen.m_pumColumn->Items();
+  entries->Items(entries->Count() - 1)->Click();
+}
+
 // Starts the actions that open the dialogs; false without a record for them.
 bool Operate() {
   const TFormPointer<TApplications> screen(CreateForm<TApplications>(Application));
@@ -161,6 +173,7 @@ bool Operate() {
   screen->m_dtEndDate->SetText(kLastDay);
   screen->m_actQuery->Execute();
   if (!TickOrder(screen->m_lvMain)) return false;
+  ChooseColumns(*screen);
   CMQueryIntf business;
   corvane::CorvaneStream source, request;
   business.BuildAuditRequest(screen->m_lvMain, kBusiness, request, 0);
