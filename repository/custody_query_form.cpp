@@ -1,5 +1,7 @@
 #include "repository/custody_query_form.h"
 
+#include <utility>
+
 #include "dialogs/bank_info.h"
 #include "dialogs/messages.h"
 #include "framework/action_off.h"
@@ -181,14 +183,16 @@ void TCustodyQueryForm::m_cbxAccChange(TObject*) {
 }
 
 void TCustodyQueryForm::ShowInstitutions(corvane::List& institutions) {
-  m_cbxBankNo->Clear();
+  std::vector<std::string> numbers;
+  std::vector<std::string> entries;
   for (const corvane::Row& row : institutions) {
-    const std::string number = row.getValue("AGTBHNM");
-    const std::string entry = number + "-" + g_pBankInfo->GetBankName(number);
-    m_cbxBankNo->Keys().Add(number);
-    m_cbxBankNo->Names().Add(entry);
-    m_cbxBankNo->Items().Add(entry);
+    numbers.push_back(row.getValue("AGTBHNM"));
+    entries.push_back(numbers.back() + "-" + g_pBankInfo->GetBankName(numbers.back()));
   }
+  m_cbxBankNo->Clear();
+  m_cbxBankNo->Keys().Assign(std::move(numbers));
+  m_cbxBankNo->Names().Assign(entries);
+  m_cbxBankNo->Items().Assign(std::move(entries));
   // A single institution leaves nothing to choose.
   if (institutions.size() != 1) {
     CQueryCommon::InsertNoChoiceEntry(m_cbxBankNo, g_pTranslate->Translate("UI40115"));

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+
 #include "repository/enquiry_form.h"
 #include "repository/record_info_form.h"
 #include "tests/support/screen_host.h"
@@ -242,6 +244,20 @@ TEST_F(NorvikQry, AsksForTheInstitutionsOfAnAccount) {
   form->m_cbxAcc->SetItemIndex(0);
   form->m_cbxAccChange(form);
   EXPECT_EQ(entries(), "-9999=UI40115 ");
+}
+
+TEST_F(NorvikQry, ShowsManyInstitutionsInOneStep) {
+  Open();
+  ScreenHost::Table rows = {{"AGTBHNM"}};
+  for (int i = 0; i < 1000; ++i) rows.push_back({std::to_string(i)});
+  host.SetAnswerRows(ScreenHost::ListOf(rows));
+  int steps = 0;
+  const auto* model = static_cast<QComboBox*>(form->m_cbxBankNo->Widget())->model();
+  QObject::connect(model, &QAbstractItemModel::rowsInserted, form, [&] { ++steps; });
+  form->m_cbxAcc->SetItemIndex(1);
+  form->m_cbxAccChange(form);
+  EXPECT_EQ(model->rowCount(), 1001);
+  EXPECT_LE(steps, 2);  // the institutions, and the entry before them
 }
 
 TEST_F(NorvikQry, StartsAfreshAtEachShowButKeepsTheBillId) {
