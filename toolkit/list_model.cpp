@@ -10,12 +10,14 @@
 
 static constexpr int kRightTextFormat = 5;
 
-static Qt::Alignment ToQtAlignment(const TListColumn& column) {
+// As a number: of a value of the flags' own type Qt would remember where this library describes the type, and
+// look there again once the library is gone.
+static int ToQtAlignment(const TListColumn& column) {
   const bool right = column.Alignment() == taRightJustify || column.Tag() == kRightTextFormat;
   const Qt::Alignment across = right                            ? Qt::AlignRight
                                : column.Alignment() == taCenter ? Qt::AlignHCenter
                                                                 : Qt::AlignLeft;
-  return across | Qt::AlignVCenter;
+  return (across | Qt::AlignVCenter).toInt();
 }
 
 int TListModel::IndexOf(TListRow* row) const {
@@ -213,7 +215,7 @@ QVariant TListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return ToQt(CellText(column.Tag(), Text(row, index.column())));
     case Qt::TextAlignmentRole:
-      return QVariant::fromValue(ToQtAlignment(column));
+      return ToQtAlignment(column);
     case Qt::CheckStateRole:
       return ShowsCheck(index.column()) ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::ForegroundRole: {
@@ -241,7 +243,7 @@ QVariant TListModel::headerData(int section, Qt::Orientation orientation, int ro
   const TListColumn& column = *view_->Columns()[section];
   if (role == Qt::DisplayRole) return ToQt(column.Caption());
   if (role == Qt::ToolTipRole) return ToToolTip(column.Caption());
-  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(ToQtAlignment(column));
+  if (role == Qt::TextAlignmentRole) return ToQtAlignment(column);
   return {};
 }
 

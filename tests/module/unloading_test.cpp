@@ -1,17 +1,23 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <malloc.h>
-
+#include <sys/mman.h>
 #include <unistd.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QWidget>
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <fstream>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/module/module_library.h"
@@ -63,11 +69,13 @@ bool IsLoaded(const char* path) {
 }
 
 // One life of the module, from loading to unloading, with a query whose rows are in the list to the end.
-void OneLife() {
+// `once` runs when it is loaded.
+void OneLife(const std::function<void()>& once = [] {}) {
   WindowedHost host;
   host.OfferBills();
   {
     const ModuleLibrary module(NORVIK_QRY_UNLOADABLE);
+    once();
     module.InitModule(host.publicInformation);
     EXPECT_FALSE(module.Menu().empty());
     for (const char* item : {"ITEM6066", "ITEM6067", "ITEM6068"}) module.Pick(item);
@@ -89,6 +97,33 @@ void OneLife() {
 TEST(Unloading, LeavesTheCodeOfTheShippedLibraryMapped) {
   { const ModuleLibrary module(NORVIK_QRY); }
   EXPECT_TRUE(IsLoaded(NORVIK_QRY));
+}
+
+// Where the library's parts lie, from the first to the end of the last.
+std::pair<std::uintptr_t, std::uintptr_t> Place(const std::string& path) {
+  std::pair<std::uintptr_t, std::uintptr_t> place{UINTPTR_MAX, 0};
+  std::ifstream maps("/proc/self/maps");
+  for (std::string line; std::getline(maps, line);) {
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
+    if (!line.ends_with(path) || std::sscanf(line.c_str(), "%lx-%lx", &begin, &end) != 2) continue;
+    place = {std::min(place.first, begin), std::max(place.second, end)};
+  }
+  return place;
+}
+
+// Nothing outside goes back to where the library was: there is no memory there in the next life.
+TEST(Unloading, LeavesNoAddressOfTheLibraryBehind) {
+  for (int life = 0; life < 5; ++life) {
+    void* const library = dlopen(NORVIK_QRY_UNLOADABLE, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(library, nullptr);
+    const auto [begin, end] = Place(NORVIK_QRY_UNLOADABLE);
+    ASSERT_LT(begin, end);
+    OneLife([&] { dlclose(library); });
+    void* const taken = mmap(reinterpret_cast<void*>(begin), end - begin, PROT_NONE,
+                             MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
+    EXPECT_NE(taken, MAP_FAILED);
+  }
 }
 
 TEST(Unloading, AThousandTimesInOneProcessHoldsNoMemory) {
