@@ -1,3 +1,9 @@
+# Under the address sanitizer g++ 12 takes the states of a regular expression for uninitialised (GCC bug 105562).
+set_source_files_properties(
+  ${PROJECT_SOURCE_DIR}/tests/demohost/share_files.cpp ${PROJECT_SOURCE_DIR}/tests/demohost/output_test.cpp
+  ${PROJECT_SOURCE_DIR}/tests/demohost/texts_test.cpp PROPERTIES COMPILE_OPTIONS
+                                                                 $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+
 target_compile_definitions(${target} PRIVATE NORVIK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
 target_compile_definitions(demohost_tests PRIVATE DEMOHOST_TEST_SHARE="${PROJECT_SOURCE_DIR}/demohost/share")
 # The rows of the record views, which the column table has to serve.
