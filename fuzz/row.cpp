@@ -1,4 +1,4 @@
-#include "tests/fuzz/round_trip.h"
+#include "fuzz/round_trip.h"
 
 FUZZ_TEXT(text) {
   fuzz::RoundTrip<corvane::Row>(text, {"ET10057"}, {"ET10058"});

@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "data/corvane.h"
+#include "fuzz/target.h"
 #include "platform/code_page.h"
-#include "tests/fuzz/target.h"
 
 namespace fuzz {
 

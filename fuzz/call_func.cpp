@@ -3,8 +3,8 @@
 #include <string>
 
 #include "data/exception.h"
+#include "fuzz/target.h"
 #include "platform/host_api.h"
-#include "tests/fuzz/target.h"
 
 extern "C" void CallFunc(const char* request, uint32_t reserved);
 

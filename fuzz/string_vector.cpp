@@ -5,8 +5,8 @@
 #include <string>
 
 #include "data/character_steps.h"
+#include "fuzz/target.h"
 #include "platform/code_page.h"
-#include "tests/fuzz/target.h"
 
 namespace {
 
