@@ -122,7 +122,7 @@ std::string Subject::MenuText() {
   const CallEnd end = Menu(&buffer);
   run_.Expect(end.kind == CallEnd::kReturned, "MenuConfig: " + end.words);
   run_.Expect(buffer != nullptr, "MenuConfig left the null buffer null");
-  const std::string text = buffer;
+  std::string text = buffer;
   const CallEnd freed = Free(buffer);
   run_.Expect(freed.kind == CallEnd::kReturned, "FreeBuff: " + freed.words);
   return text;

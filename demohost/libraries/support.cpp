@@ -34,12 +34,14 @@ Services& CurrentServices() {
 }
 
 std::string CurrentLanguage() {
-  return CurrentServices().store->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language");
+  const InfoStore* store = CurrentServices().store;
+  return store ? store->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language") : std::string();
 }
 
 std::string CurrentText(std::string_view key) {
-  if (CurrentServices().faults.texts.contains(key)) return {};
-  return std::string(CurrentServices().texts->Find(CurrentLanguage(), key));
+  const Services& services = CurrentServices();
+  if (services.texts == nullptr || services.faults.texts.contains(key)) return {};
+  return std::string(services.texts->Find(CurrentLanguage(), key));
 }
 
 char* NewBuffer(const std::string& text) {

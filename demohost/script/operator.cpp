@@ -191,7 +191,9 @@ Operator::Action Operator::Choose(const QStringList& words) {
       Q_EMIT dialog->filterSelected(filter);
     }
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    // The name counts where no file of the list is selected, such as the one that the dialog was opened with.
     if (auto* edit = dialog->findChild<QLineEdit*>()) edit->setText(file);
+    for (auto* view : dialog->findChildren<QAbstractItemView*>()) view->clearSelection();
     QMetaObject::invokeMethod(dialog, "accept");
   };
 }
