@@ -17,7 +17,7 @@ static int ToQtAlignment(const TListColumn& column) {
   const Qt::Alignment across = right                            ? Qt::AlignRight
                                : column.Alignment() == taCenter ? Qt::AlignHCenter
                                                                 : Qt::AlignLeft;
-  return (across | Qt::AlignVCenter).toInt();
+  return static_cast<int>((across | Qt::AlignVCenter).toInt());
 }
 
 int TListModel::IndexOf(TListRow* row) const {
