@@ -13,9 +13,6 @@
 #include "toolkit/list_box.h"
 #include "toolkit/panels.h"
 
-using norvik::ConditionPanel;
-using norvik::Emptied;
-
 namespace {
 
 // The custody statuses that are selected when the list is built.
