@@ -28,3 +28,14 @@ function(norvik_library target kind)
   target_link_libraries(${target} PRIVATE norvik_settings)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
 endfunction()
+
+set(NORVIK_COMMON_HEADERS <QApplication> <QPointer> <QWidget> <algorithm> <functional> <map> <memory> <optional> <string>
+    <vector>)
+
+# norvik_precompile(<target> <header>...): parses the headers once for all files of the target. Every file includes what
+# it needs all the same: the preset "release" builds without.
+function(norvik_precompile target)
+  if(NORVIK_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
