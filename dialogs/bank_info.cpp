@@ -1,10 +1,12 @@
 #include "dialogs/bank_info.h"
 
 #include <cstdint>
+#include <optional>
 
 #include "dialogs/busy.h"
 #include "host/pub_info.h"
 #include "platform/bank_directory.h"
+#include "platform/life_ended.h"
 
 namespace {
 
@@ -12,15 +14,41 @@ constexpr const char* kLoaderMutex = "_BankInfoLoader_";
 constexpr std::size_t kShortestNumber = 8;
 constexpr std::uint32_t kMostTopCodes = 1000000;  // ends the search in a directory that never ends
 
-// The first top-level code, in key order, that has the area; null if none has.
-const char* FindTopCode(const norvik_bank_directory& directory, const std::string& area) {
-  for (std::uint32_t i = 0; i < kMostTopCodes; ++i) {
-    const char* code = directory.top_code(directory.context, i);
-    if (code == nullptr) return nullptr;
-    if (directory.has_area(directory.context, code, area.c_str()) != 0) return code;
+// The directory as it is asked: `closed` turns true when the host ends the life from inside one of its
+// functions.
+class Directory {
+ public:
+  Directory(const norvik_bank_directory& functions, const bool& closed)
+      : functions_(functions), closed_(closed) {}
+
+  // The first top-level code, in key order, that has the area; nothing if none has.
+  std::optional<std::string> TopCodeOf(const std::string& area) const {
+    for (std::uint32_t i = 0; i < kMostTopCodes; ++i) {
+      const char* const code = Checked(functions_.top_code(functions_.context, i));
+      if (code == nullptr) return std::nullopt;
+      std::string copy = code;
+      if (Checked(functions_.has_area(functions_.context, copy.c_str(), area.c_str())) != 0) return copy;
+    }
+    return std::nullopt;
   }
-  return nullptr;
-}
+
+  std::string BankName(const std::string& code, const std::string& area, const std::string& type,
+                       const std::string& number) const {
+    const char* const name = Checked(
+        functions_.bank_name(functions_.context, code.c_str(), area.c_str(), type.c_str(), number.c_str()));
+    return name != nullptr ? name : std::string();
+  }
+
+ private:
+  template <class Result>
+  Result Checked(Result result) const {
+    if (closed_) throw norvik::LifeEnded();
+    return result;
+  }
+
+  const norvik_bank_directory& functions_;
+  const bool& closed_;
+};
 
 }  // namespace
 
@@ -43,18 +71,15 @@ void TBankInfo::EnsureLoaded() {
 }
 
 std::string TBankInfo::GetBankName(const std::string& number) {
+  if (m_closed) throw norvik::LifeEnded();
   EnsureLoaded();
   const auto directory = norvik::FindBankDirectory(m_directory);
   const bool readable = m_loaded || m_mutex == 0;
   if (!directory || !readable || number.size() < kShortestNumber || number.find('\0') != std::string::npos) {
     return {};
   }
-  const std::string type = number.substr(0, 3);
   const std::string area = number.substr(3, 4);
-  const char* found = FindTopCode(*directory, area);
-  if (found == nullptr) return {};
-  const std::string code = found;
-  const char* name =
-      directory->bank_name(directory->context, code.c_str(), area.c_str(), type.c_str(), number.c_str());
-  return name != nullptr ? name : std::string();
+  const Directory asked(*directory, m_closed);
+  const std::optional<std::string> code = asked.TopCodeOf(area);
+  return code ? asked.BankName(*code, area, number.substr(0, 3), number) : std::string();
 }

@@ -32,10 +32,14 @@ class TBankInfo {
   // characters, or if the wait failed.
   std::string GetBankName(const std::string& number);
 
+  // Reads the directory no more, as the host's proxies do.
+  void Close() { m_closed = true; }
+
  private:
   norvik_handle m_directory;
   norvik_handle m_mutex;
   bool m_loaded = false;
+  bool m_closed = false;
 };
 
 // Set by InitModule, null after Release.

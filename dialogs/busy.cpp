@@ -1,8 +1,6 @@
 #include "dialogs/busy.h"
 
 #include <QPointer>
-#include <map>
-#include <utility>
 
 #include "dialogs/busy_form.h"
 #include "dialogs/form_owner.h"
@@ -10,14 +8,33 @@
 
 namespace {
 
-// The bars that are up, by the class name of the form that each belongs to. A bar whose owner goes dies
-// with it.
-std::map<std::string, QPointer<TBarForm>> g_bars;
-QPointer<TWaitForm> g_wait;
+std::string KeyOf(const TForm* owner) {
+  return owner != nullptr ? owner->ClassName() : std::string();
+}
 
-// Messages are pumped here, so the form may have gone with its owner behind each step.
-void TakeAway(const QPointer<TBusyForm>& form) {
-  if (form.isNull()) return;
+// The busy form of the served life that is up and passes the test, null if there is none. A form whose owner
+// goes dies with it.
+template <class Form, class Test>
+Form* Find(Test test) {
+  for (int i = 0; i < Screen->FormCount(); ++i) {
+    auto* form = qobject_cast<Form*>(Screen->Forms(i));
+    if (form != nullptr && test(form)) return form;
+  }
+  return nullptr;
+}
+
+TBarForm* BarOf(const std::string& key) {
+  return Find<TBarForm>([&](const TBarForm* bar) { return bar->Key() == key; });
+}
+
+TWaitForm* Wait() {
+  return Find<TWaitForm>([](const TWaitForm*) { return true; });
+}
+
+// Messages are pumped here, so the form may have gone with its owner after each step.
+void TakeAway(TBusyForm* found) {
+  const QPointer<TBusyForm> form(found);
+  if (form.isNull() || HasEnded(form->Life())) return;
   form->End();
   DestroyForm(form);
   Application->ProcessMessages();
@@ -26,27 +43,20 @@ void TakeAway(const QPointer<TBusyForm>& form) {
 }  // namespace
 
 void ShowBar(TForm* owner) {
-  const std::string key = owner != nullptr ? owner->ClassName() : std::string();
-  TakeAway(g_bars[key].data());
-  TBarForm* form = CreateForm<TBarForm>(OwnerOf(owner));
-  g_bars[key] = form;
-  form->Begin();
+  const std::string key = KeyOf(owner);
+  TakeAway(BarOf(key));
+  CreateForm<TBarForm>(OwnerOf(owner), key)->Begin();
 }
 
 void HideBar(TForm* owner) {
-  const auto found = g_bars.find(owner != nullptr ? owner->ClassName() : std::string());
-  if (found == g_bars.end()) return;
-  const QPointer<TBusyForm> form(found->second.data());
-  g_bars.erase(found);
-  TakeAway(form);
+  TakeAway(BarOf(KeyOf(owner)));
 }
 
 void ShowWait(TForm* owner) {
-  TakeAway(g_wait.data());
-  g_wait = CreateForm<TWaitForm>(OwnerOf(owner));
-  g_wait->Begin();
+  TakeAway(Wait());
+  CreateForm<TWaitForm>(OwnerOf(owner))->Begin();
 }
 
 void HideWait() {
-  TakeAway(std::exchange(g_wait, nullptr).data());
+  TakeAway(Wait());
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <utility>
 
 #include "data/corvane.h"
 #include "dialogs/busy_frames.h"
@@ -16,7 +17,7 @@ constexpr TBusyDesign kWait = {"LOCALPROCESS.AVI", aviFindFolder, 29, 178, 45, p
 
 }  // namespace
 
-TBarForm::TBarForm(TComponent* owner) : TBusyForm(owner, kBar) {}
+TBarForm::TBarForm(TComponent* owner, std::string key) : TBusyForm(owner, kBar), key_(std::move(key)) {}
 
 TWaitForm::TWaitForm(TComponent* owner) : TBusyForm(owner, kWait) {}
 
@@ -34,6 +35,11 @@ void TBusyForm::BuildControls() {
 void TBusyForm::Construct() {
   TForm::Construct();
   m_imagePath = g_pPubInfo->GetField("ENVIRONMENT", "ENV.IMAGES").getValue();
+}
+
+void TBusyForm::FormDestroy() {
+  m_painter.Stop();
+  TForm::FormDestroy();
 }
 
 void TBusyForm::FormShow(TObject*) {

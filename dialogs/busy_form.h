@@ -27,6 +27,8 @@ class TBusyForm : public TForm {
   void BuildControls() override;
   // Reads the host's image directory, "ENV.IMAGES" of "ENVIRONMENT"; a failing read goes up.
   void Construct() override;
+  // Ends the thread that moves the picture.
+  void FormDestroy() override;
 
   // Shows the form over all others without waiting, has it painted, and sets it moving.
   void Begin();
@@ -54,7 +56,13 @@ class TBarForm : public TBusyForm {
   Q_OBJECT
 
  public:
-  explicit TBarForm(TComponent* owner);
+  // `key` tells whose exchange it covers.
+  TBarForm(TComponent* owner, std::string key);
+
+  const std::string& Key() const { return key_; }
+
+ private:
+  std::string key_;
 };
 
 class TWaitForm : public TBusyForm {

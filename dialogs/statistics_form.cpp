@@ -104,6 +104,8 @@ bool TfrmStatistics::Prepare(TForm* owner, TKVXListView* listView, const corvane
   try {
     Compute();
     return true;
+  } catch (const norvik::LifeEnded&) {
+    throw;
   } catch (...) {
     ShowInfoMsg(TranslateKey("UI12581"), this);
     return false;

@@ -123,6 +123,7 @@ std::intptr_t TBaseForm::Dispatch(std::uint32_t message, std::uintptr_t wparam, 
 void TBaseForm::SendToHost(std::uint32_t message) {
   norvik_window_send(g_pPubInfo->GetHandle("APPMAINFORMHANDLE"), message,
                      reinterpret_cast<std::uintptr_t>(this), Tag());
+  CheckLife();
 }
 
 std::string TBaseForm::TranslateKey(const std::string& key) {
@@ -135,6 +136,7 @@ void TBaseForm::SendToDesktop(const std::string& itemName) {
   g_pPubInfo->SetField("ENVIRONMENT", corvane::Field("CURSHORTCUT.ITEMCAPTION", Caption()));
   g_pPubInfo->SetField("ENVIRONMENT", corvane::Field("CURSHORTCUT.ITEMNAME", itemName));
   norvik_window_send(g_pPubInfo->GetHandle("APPMAINFORMHANDLE"), kMessageCreateShortcut, 0, 0);
+  CheckLife();
 }
 
 std::string TBaseForm::ShowDateCalendar(const std::string& date, TKVXDateType type) {

@@ -90,8 +90,9 @@ void TListForm::BuildMissingColumns(CMInterface& business) {
 
 void TListForm::SaveLayout() {
   if (m_pSelectColumn == nullptr) return;
-  const TFormPointer<TfrmSelectColumn> selectColumn(std::exchange(m_pSelectColumn, nullptr));
-  selectColumn->SaveColumnInfo();
+  // The columns stay owned until they are stored: a Release from within begins again.
+  m_pSelectColumn->SaveColumnInfo();
+  DestroyForm(std::exchange(m_pSelectColumn, nullptr));
 }
 
 void TListForm::m_lvMainClick(TObject*) {

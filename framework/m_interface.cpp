@@ -10,6 +10,7 @@
 #include "host/pub_info.h"
 #include "host/safe_com.h"
 #include "host/translate.h"
+#include "toolkit/application.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/labels.h"
 #include "toolkit/list_view.h"
@@ -34,7 +35,13 @@ std::string UserField(const char* key) {
 class BusyEnd {
  public:
   explicit BusyEnd(TForm* owner) : m_owner(owner) {}
-  ~BusyEnd() { HideBar(m_owner); }
+  ~BusyEnd() {
+    try {
+      HideBar(m_owner);
+    } catch (const norvik::LifeEnded&) {
+      // The form has gone with its life; what follows meets the end at its own next check.
+    }
+  }
   BusyEnd(const BusyEnd&) = delete;
   BusyEnd& operator=(const BusyEnd&) = delete;
 
@@ -59,14 +66,26 @@ void CMInterface::ShowResultTotals(corvane::CorvaneStream& answer) {
 
 bool CMInterface::SendRequest(const std::string& code, corvane::CorvaneStream& request,
                               corvane::CorvaneStream& answer, TForm* owner) {
+  const bool done = Exchange(code, request, answer, owner);
+  // The bar pumps messages once more when it goes.
+  CheckLife();
+  return done;
+}
+
+bool CMInterface::Exchange(const std::string& code, corvane::CorvaneStream& request,
+                           corvane::CorvaneStream& answer, TForm* owner) {
   const BusyEnd end(owner);
   try {
+    // What the user picks in the host meanwhile waits for the end of the exchange.
+    const THold hold;
     ShowBar(owner);
     answer.clear();
     answer = g_pSafeCom->SendStream(code, request);
     return true;
   } catch (const corvane::TException& failure) {
     ReportException(failure);
+  } catch (const norvik::LifeEnded&) {
+    throw;
   } catch (...) {
     // Nothing is known about a failure of another class that could be told to the user.
   }

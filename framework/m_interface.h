@@ -29,7 +29,8 @@ class CMInterface {
 
   // Sends `request` under the transaction code `code`, with the busy form over `owner` meanwhile. True:
   // `answer` holds the bank's answer. False: the failure has been reported and `answer` is empty. The call
-  // blocks as long as the host takes, and sets the encoding of `request` to "GBK".
+  // blocks as long as the host takes, and sets the encoding of `request` to "GBK". LifeEnded if the host ends
+  // the life meanwhile.
   bool SendRequest(const std::string& code, corvane::CorvaneStream& request, corvane::CorvaneStream& answer,
                    TForm* owner);
 
@@ -89,4 +90,8 @@ class CMInterface {
   corvane::List m_flows;  // all flows of the business; each row has the one column FLOWID
   std::map<std::int32_t, std::string> m_resultFlags;  // item index to FLAG, of the last ApplyResultList
   std::string m_bsnCode;
+
+ private:
+  bool Exchange(const std::string& code, corvane::CorvaneStream& request, corvane::CorvaneStream& answer,
+                TForm* owner);
 };

@@ -18,6 +18,7 @@ bool FunctionTable::Resolve(norvik_handle module, std::span<const std::uint32_t>
 }
 
 void* FunctionTable::Find(std::uint32_t ordinal) const {
+  Check();
   const auto found = std::find(m_ordinals.begin(), m_ordinals.end(), ordinal);
   void* const function =
       found == m_ordinals.end() ? nullptr : m_functions[static_cast<std::size_t>(found - m_ordinals.begin())];

@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "data/corvane.h"
 #include "platform/host_api.h"
+#include "platform/life_ended.h"
 
 /// What the proxies share: the function table of a library, the texts that go out to it and the buffers that
 /// come back.
@@ -17,17 +19,30 @@ namespace norvik {
 /// The most bytes that an answer of the host may have: 256 MiB.
 inline constexpr std::int32_t kLongestAnswer = 256 * 1024 * 1024;
 
-/// The functions of one library, in the order of its ordinals.
+template <class Signature>
+class HostFunction;
+
+/// The functions of one library, in the order of its ordinals. A host may end the life of the module from
+/// inside any of them; the owner then closes the table, and no function is called any more.
 class FunctionTable {
  public:
   /// Looks all of `ordinals` up, the list living as long as the table; false if any is missing, and the table
   /// then holds none of them.
   bool Resolve(norvik_handle module, std::span<const std::uint32_t> ordinals);
 
-  /// The function with that ordinal. TException kNotInitialised if the table doesn't hold it.
+  /// The function with that ordinal, good while the table lives. TException kNotInitialised if the table
+  /// doesn't hold it, LifeEnded if it is closed.
   template <class Signature>
-  Signature* Function(std::uint32_t ordinal) const {
-    return reinterpret_cast<Signature*>(Find(ordinal));
+  HostFunction<Signature> Function(std::uint32_t ordinal) const {
+    return {*this, reinterpret_cast<Signature*>(Find(ordinal))};
+  }
+
+  /// Calls no function from now on.
+  void Close() { m_closed = true; }
+  bool Closed() const { return m_closed; }
+  /// Throws LifeEnded if the table is closed.
+  void Check() const {
+    if (m_closed) throw LifeEnded();
   }
 
  private:
@@ -35,6 +50,40 @@ class FunctionTable {
 
   std::span<const std::uint32_t> m_ordinals;
   std::vector<void*> m_functions;
+  bool m_closed = false;
+};
+
+/// One function of a table.
+template <class Result, class... Arguments>
+class HostFunction<Result(Arguments...)> {
+ public:
+  HostFunction(const FunctionTable& table, Result (*function)(Arguments...))
+      : m_table(&table), m_function(function) {}
+
+  /// Calls the host. LifeEnded, and no call, if the table is closed; LifeEnded after the call if the host has
+  /// ended the life in it: what it has given is the host's then.
+  Result operator()(Arguments... arguments) const {
+    m_table->Check();
+    if constexpr (std::is_void_v<Result>) {
+      m_function(arguments...);
+      m_table->Check();
+    } else {
+      const Result result = m_function(arguments...);
+      m_table->Check();
+      return result;
+    }
+  }
+
+  /// Calls the host if the table is open, and throws nothing.
+  void CallIfOpen(Arguments... arguments) const noexcept {
+    if (!m_table->Closed()) m_function(arguments...);
+  }
+
+  void Check() const { m_table->Check(); }
+
+ private:
+  const FunctionTable* m_table;
+  Result (*m_function)(Arguments...);
 };
 
 /// The text as the host takes it. TException kNulInText if it holds a NUL: the host would read only what
@@ -63,19 +112,20 @@ class ErrorText {
   std::array<char, 512> m_buffer = {};
 };
 
-using ReleaseFunction = void(char* buffer);
+using ReleaseFunction = HostFunction<void(char* buffer)>;
 
-/// The buffer and length that the host fills, given back to it once on each path.
+/// The buffer and length that the host fills, given back to it once on each path, but where the host has
+/// ended the life meanwhile.
 class ResultPair {
  public:
   enum class OnNull { kRelease, kSkip };
 
   /// `onNull` tells whether a null buffer is given back as well.
-  ResultPair(ReleaseFunction* release, OnNull onNull) : m_release(release), m_onNull(onNull) {}
+  ResultPair(ReleaseFunction release, OnNull onNull) : m_release(release), m_onNull(onNull) {}
   ResultPair(const ResultPair&) = delete;
   ResultPair& operator=(const ResultPair&) = delete;
   ~ResultPair() {
-    if (m_buffer || m_onNull == OnNull::kRelease) m_release(m_buffer);
+    if (m_buffer || m_onNull == OnNull::kRelease) m_release.CallIfOpen(m_buffer);
   }
 
   char** Buffer() { return &m_buffer; }
@@ -86,7 +136,7 @@ class ResultPair {
   std::string Text() const;
 
  private:
-  ReleaseFunction* m_release;
+  ReleaseFunction m_release;
   OnNull m_onNull;
   char* m_buffer = nullptr;
   std::int32_t m_length = 0;
@@ -95,11 +145,16 @@ class ResultPair {
 /// A read of the public information, translation and error libraries: `call(buffer, length, error)` is the
 /// host's function, `release` its ordinal 3. TIOException with the host's text if it refuses.
 template <class Call>
-std::string ReadText(ReleaseFunction* release, Call call) {
-  ErrorText error(255);
-  ResultPair result(release, ResultPair::OnNull::kRelease);
-  if (call(result.Buffer(), result.Length(), error.Buffer()) == 0) error.ThrowWhole();
-  return result.Text();
+std::string ReadText(ReleaseFunction release, Call call) {
+  std::string text;
+  {
+    ErrorText error(255);
+    ResultPair result(release, ResultPair::OnNull::kRelease);
+    if (call(result.Buffer(), result.Length(), error.Buffer()) == 0) error.ThrowWhole();
+    text = result.Text();
+  }
+  release.Check();
+  return text;
 }
 
 /// An order to the spreadsheet or print library: `call(error)` is the host's function. TException with the

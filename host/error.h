@@ -23,6 +23,10 @@ class ErrorIntf {
   /// The message for a reason code that stands in a row of an answer.
   std::string GetReasonText(const std::string& code, std::uint8_t flag = 1) const;
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_service.Close(); }
+
  private:
   std::string Text(std::uint32_t ordinal, const std::string& codeOrKeys, std::uint8_t flag) const;
 

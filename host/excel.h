@@ -25,6 +25,10 @@ class ExcelIntf {
   void ExportText(const std::string& path, const corvane::Row& head, const corvane::List& columns,
                   const corvane::List& data, const std::string& separator, std::int32_t option) const;
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_functions.Close(); }
+
  private:
   norvik_handle m_module;
   norvik::FunctionTable m_functions;

@@ -25,6 +25,10 @@ class PrintIntf {
   /// Opens the host's print settings of the template. No failure is reported.
   void PrintSetup(const std::string& templateName) const;
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_functions.Close(); }
+
  private:
   norvik_handle m_module;
   norvik::FunctionTable m_functions;

@@ -32,7 +32,7 @@ void PubInfoIntf::SetHandle(const std::string& key, std::uint32_t value) {
 
 template <class Call>
 std::string PubInfoIntf::Read(Call call) const {
-  return norvik::ReadText(m_functions.Function<norvik::ReleaseFunction>(3), call);
+  return norvik::ReadText(m_functions.Function<void(char*)>(3), call);
 }
 
 // Most reads: the result pair, one to three keys, the error text.

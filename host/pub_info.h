@@ -55,6 +55,10 @@ class PubInfoIntf {
   /// All rows of a section.
   corvane::List GetIniplusList(const std::string& key, const std::string& section);
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_functions.Close(); }
+
  private:
   template <class Call>
   std::string Read(Call call) const;

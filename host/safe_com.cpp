@@ -41,8 +41,7 @@ std::string SafeComIntf::Exchange(const std::string& code, const std::string& te
   const char* const name = norvik::Outgoing(code);
   const char* const request = norvik::Outgoing(text);
   norvik::ErrorText error(256);
-  norvik::ResultPair answer(m_functions.Function<norvik::ReleaseFunction>(4),
-                            norvik::ResultPair::OnNull::kSkip);
+  norvik::ResultPair answer(m_functions.Function<void(char*)>(4), norvik::ResultPair::OnNull::kSkip);
   if (send(name, request, flag, answer.Buffer(), answer.Length(), error.Buffer()) == 0) error.ThrowLines();
   return answer.Text();
 }

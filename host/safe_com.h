@@ -33,6 +33,10 @@ class SafeComIntf {
   /// the host's time lies before 1970 or after the year 9999, and the time before stays.
   corvane::TSysDateTime& GetServerTime();
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_functions.Close(); }
+
  private:
   std::string Exchange(const std::string& code, const std::string& text, std::int32_t flag) const;
 

@@ -31,13 +31,16 @@ class TextService {
   /// As ReadText; buffers go back through ordinal 3.
   template <class Call>
   std::string Read(Call call) const {
-    return ReadText(m_functions.Function<ReleaseFunction>(3), call);
+    return ReadText(m_functions.Function<void(char*)>(3), call);
   }
 
   template <class Signature>
-  Signature* Function(std::uint32_t ordinal) const {
+  HostFunction<Signature> Function(std::uint32_t ordinal) const {
     return m_functions.Function<Signature>(ordinal);
   }
+
+  /// Calls the library no more.
+  void Close() { m_functions.Close(); }
 
  private:
   const Terms& m_terms;

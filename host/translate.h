@@ -28,6 +28,10 @@ class TranslateIntf {
   /// The text as the other side of an exchange writes it: 0 for a request, 1 for an answer.
   std::string Convert(const std::string& text, std::uint8_t direction) const;
 
+  /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
+  /// the host comes back from it.
+  void Close() { m_service.Close(); }
+
  private:
   norvik::TextService m_service;
 };

@@ -1,7 +1,6 @@
 #include "shell/menu.h"
 
-#include <QScopedValueRollback>
-#include <utility>
+#include <type_traits>
 
 #include "data/corvane.h"
 #include "platform/host_api.h"
@@ -19,33 +18,43 @@ TfrmNorvikQry* frmNorvikQry = nullptr;
 TfrmNorvikELoanQry* frmNorvikELoanQry = nullptr;
 TfrmNorvikDTLQry* frmNorvikDTLQry = nullptr;
 
+template <class Form>
+bool BeingMade() {
+  for (int i = 0; i < Screen->FormCount(); ++i) {
+    if (qobject_cast<Form*>(Screen->Forms(i)) != nullptr) return true;
+  }
+  return false;
+}
+
 template <auto& screen>
 void OpenForm(const std::string& item) {
-  using Screen = std::remove_pointer_t<std::remove_reference_t<decltype(screen)>>;
-  // A failure while the screen is made is shown in a nested loop, in which the host may pick the item again.
-  static bool making = false;
-  if (making) return;
+  using Form = std::remove_pointer_t<std::remove_reference_t<decltype(screen)>>;
   if (screen) {
     screen->Show();
     norvik_window_send(screen->Handle(), WM_SYSCOMMAND, SC_RESTORE, 0);
     return;
   }
-  {
-    const QScopedValueRollback made(making, true);
-    screen = CreateForm<Screen>(Application);
-  }
-  screen->m_strItemName = item;
-  screen->Show();
+  // The host may pick the item again while it answers what the screen asks on its way.
+  if (BeingMade<Form>()) return;
+  Form* const made = CreateForm<Form>(Application);
+  screen = made;
+  made->m_strItemName = item;
+  made->Show();
 }
 
 template <auto& screen>
-void DestroyScreen() {
-  DestroyForm(std::exchange(screen, nullptr));
+TForm* ScreenOf() {
+  return screen;
+}
+
+template <auto& screen>
+void ForgetScreen(const TApplication* life) {
+  if (screen && screen->Life() == life) screen = nullptr;
 }
 
 template <auto& screen>
 constexpr MenuItem Item(std::string_view item) {
-  return {item, OpenForm<screen>, DestroyScreen<screen>};
+  return {item, OpenForm<screen>, ScreenOf<screen>, ForgetScreen<screen>};
 }
 
 constexpr MenuItem kMenu[] = {Item<frmNorvikQry>("ITEM6066"), Item<frmNorvikELoanQry>("ITEM6067"),

@@ -6,28 +6,16 @@
 #include <exception>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
-#include "dialogs/bank_info.h"
 #include "dialogs/messages.h"
-#include "host/error.h"
-#include "host/excel.h"
 #include "host/keys.h"
-#include "host/print.h"
-#include "host/pub_info.h"
-#include "host/safe_com.h"
-#include "host/translate.h"
 #include "shell/menu.h"
+#include "shell/services.h"
 #include "toolkit/application.h"
 
 namespace norvik {
 namespace {
-
-// True from the end of StartModule to StopModule.
-bool g_started = false;
-
-// True while a failure is shown. The form that shows it asks the host for texts and fonts as any other does,
-// and what made the first failure may fail there again.
-bool g_reporting = false;
 
 void ReportKeys(const corvane::TException& failure) {
   try {
@@ -40,8 +28,9 @@ void ReportKeys(const corvane::TException& failure) {
 
 // A failure while another one is shown goes to the log alone.
 void ReportEscaped(TObject*, std::exception_ptr error) {
-  const bool nested = g_reporting;
-  const QScopedValueRollback reporting(g_reporting, true);
+  Services* const services = ServicesOf(Application);
+  const bool nested = services->reporting;
+  const QScopedValueRollback reporting(services->reporting, true);
   try {
     std::rethrow_exception(std::move(error));
   } catch (const corvane::TException& exception) {
@@ -53,19 +42,8 @@ void ReportEscaped(TObject*, std::exception_ptr error) {
   }
 }
 
-template <class Service>
-void Destroy(Service*& service) {
-  delete service;
-  service = nullptr;
-}
-
-}  // namespace
-
-void StartModule(norvik_handle publicInformation) {
-  StopModule();
-  CreateApplication();
-  Application->OnException = ReportEscaped;
-
+// The steps of the start. Each service is in its place before it is bound.
+void MakeServices(norvik_handle publicInformation) {
   g_pPubInfo = new PubInfoIntf();
   g_pPubInfo->Bind(publicInformation);
   g_pTranslate = new TranslateIntf(g_pPubInfo->GetHandle("HANDLE_TRANSLATE"));
@@ -78,20 +56,53 @@ void StartModule(norvik_handle publicInformation) {
   g_pBankInfo = new TBankInfo();
   g_pExcel = new ExcelIntf(g_pPubInfo->GetHandle("HANDLE_EXCEL"));
   Application->SetHandle(g_pPubInfo->GetHandle("APPMAINFORMHANDLE"));
-  g_started = true;
+}
+
+// Opens the item's screen now; the host may end the life meanwhile, and there is nothing left to open then.
+void Open(const MenuItem& item) {
+  try {
+    item.open(std::string(item.item));
+  } catch (const LifeEnded&) {
+  }
+}
+
+}  // namespace
+
+void StartModule(norvik_handle publicInformation) {
+  // What is served around this call is served again after it.
+  const TLifeScope calling(nullptr, TLifeScope::Returns::kToHost);
+  StopModule();
+  CreateApplication();
+  const TLifeScope scope(Application, TLifeScope::Returns::kToHost);
+  auto* services = new Services(Application);
+  Application->OnException = ReportEscaped;
+  try {
+    MakeServices(publicInformation);
+    scope.Check();
+    services->started = true;
+  } catch (const LifeEnded&) {
+    // The host has released the module while it was starting; a start of its own may stand in this one's
+    // place.
+    const Services* newest = ServicesOf(NewestLife());
+    if (newest == nullptr || !newest->started) throw corvane::TException(key::kNotInitialised);
+  }
 }
 
 void StopModule() {
-  g_started = false;
-  for (const MenuItem& item : Menu()) item.destroy();
-  Destroy(g_pPubInfo);
-  Destroy(g_pTranslate);
-  Destroy(g_pError);
-  Destroy(g_pPrint);
-  Destroy(g_pSafeCom);
-  Destroy(g_pBankInfo);
-  Destroy(g_pExcel);
-  DestroyApplication();
+  DeleteEndedLives();
+  TApplication* const life = NewestLife();
+  if (life == nullptr) return;
+  const TLifeScope scope(life, TLifeScope::Returns::kToHost);
+  Services* const services = ServicesOf(life);
+  services->started = false;
+  std::vector<TForm*> screens;
+  for (const MenuItem& item : Menu()) {
+    if (TForm* screen = item.screen()) screens.push_back(screen);
+  }
+  life->CloseAll(screens);
+  for (const MenuItem& item : Menu()) item.forget(life);
+  services->Close();
+  life->End();
 }
 
 void CallItem(const std::string& request) {
@@ -101,8 +112,15 @@ void CallItem(const std::string& request) {
   const auto picked =
       std::find_if(menu.begin(), menu.end(), [&](const MenuItem& item) { return item.item == name; });
   if (picked == menu.end()) return;
-  if (!g_started) throw corvane::TException(key::kNotInitialised);
-  picked->open(name);
+  TApplication* const life = NewestLife();
+  const Services* services = ServicesOf(life);
+  if (services == nullptr || !services->started) throw corvane::TException(key::kNotInitialised);
+  const TLifeScope scope(life, TLifeScope::Returns::kToHost);
+  if (life->Held()) {
+    life->QueueCall(life, [picked] { Open(*picked); });
+  } else {
+    Open(*picked);
+  }
 }
 
 void CopyMenu(char** buffer) {

@@ -10,18 +10,28 @@
 #include "platform/window.h"
 #include "toolkit/form.h"
 
-TApplication* Application = nullptr;
-TScreen* Screen = nullptr;
-
 struct TApplication::QueuedCall {
   QPointer<QObject> context;
   std::function<void()> call;
 };
 
-TApplication::TApplication() : TComponent(nullptr) {}
+TApplication::TApplication() : TComponent(nullptr), screen_(std::make_unique<TScreen>()) {
+  life_ = this;
+}
 
 TApplication::~TApplication() {
+  // What is deleted finds the pointers of its own life.
+  TApplication* const served = Application == this ? nullptr : Application;
+  Serve(this);
+  while (screen_->FormCount() > 0) {
+    TForm* form = screen_->Forms(screen_->FormCount() - 1);
+    while (auto* owner = dynamic_cast<TForm*>(form->Owner())) form = owner;
+    delete form;
+  }
   DestroyComponents();
+  OnLeave = nullptr;
+  Serve(served);
+  ForgetLife(this);
 }
 
 void TApplication::SetHandle(std::uint32_t handle) {
@@ -33,12 +43,12 @@ QWidget* TApplication::MainWidget() const {
 }
 
 void TApplication::ProcessMessages() {
-  if (pumping_) return;
-  const QPointer<TApplication> self(this);
+  if (pumping_ || ended_) return;
+  const TLifeScope scope(this);
   pumping_ = true;
   QCoreApplication::processEvents();
-  if (!self) return;
   pumping_ = false;
+  scope.Check();
   if (!queue_.empty()) PostQueue();
 }
 
@@ -47,37 +57,81 @@ void TApplication::QueueCall(QObject* context, std::function<void()> call) {
   PostQueue();
 }
 
+void TApplication::Unhold() {
+  --holds_;
+  if (!queue_.empty()) PostQueue();
+}
+
 void TApplication::PostQueue() {
   QMetaObject::invokeMethod(
       this, [this] { RunQueued(); }, Qt::QueuedConnection);
 }
 
 void TApplication::RunQueued() {
-  if (pumping_) return;
-  const QPointer<TApplication> self(this);
+  if (Held()) return;
+  const TLifeScope scope(this);
   std::vector<QueuedCall> calls;
   calls.swap(queue_);
   for (const QueuedCall& queued : calls) {
-    if (queued.context) RunGuarded(queued.context, queued.call);
-    if (!self) return;
+    if (queued.context && !ended_) RunGuarded(queued.context, queued.call);
+  }
+}
+
+std::vector<QPointer<TForm>> TApplication::FormsNewestFirst() const {
+  std::vector<QPointer<TForm>> forms;
+  for (int i = screen_->FormCount() - 1; i >= 0; --i) forms.emplace_back(screen_->Forms(i));
+  return forms;
+}
+
+void TApplication::CloseAll(const std::vector<TForm*>& first) {
+  // The host that calls this from within the second time has heard all that there is to hear.
+  if (closing_ > 1) return;
+  const TLifeScope scope(this);
+  ++closing_;
+  const std::vector<QPointer<TForm>> forms = FormsNewestFirst();
+  for (const QPointer<TForm>& form : forms) {
+    if (form) form->CloseChildWindows();
+  }
+  for (const QPointer<TForm>& form : forms) {
+    if (form) form->EndModal();
+  }
+  std::vector<QPointer<TForm>> order(first.begin(), first.end());
+  order.insert(order.end(), forms.begin(), forms.end());
+  for (const QPointer<TForm>& form : order) {
+    if (form) form->BeforeDestruction();
+  }
+  for (const QPointer<TForm>& form : forms) {
+    if (form) form->Retire();
   }
 }
 
 void TApplication::HandleException(TObject* sender) noexcept {
   const std::exception_ptr error = std::current_exception();
-  if (error == nullptr) return;
+  if (error == nullptr || ended_) return;
   try {
     if (OnException) {
       OnException(sender, error);
     } else {
       std::rethrow_exception(error);
     }
+  } catch (const norvik::LifeEnded&) {
+    // The host has released the module while the failure was shown.
   } catch (const std::exception& failure) {
     qWarning("%s", failure.what());
   } catch (...) {
     qWarning("an unknown failure reached the edge of the forms");
   }
 }
+
+THold::THold() : life_(Application) {
+  if (life_ != nullptr) life_->Hold();
+}
+
+THold::~THold() {
+  if (life_ != nullptr) life_->Unhold();
+}
+
+TScreen::TScreen() : TComponent(nullptr) {}
 
 namespace {
 
@@ -101,22 +155,4 @@ TForm* TScreen::ActiveForm() const {
     if (form->Active()) return form;
   }
   return nullptr;
-}
-
-void CreateApplication() {
-  if (Screen == nullptr) Screen = new TScreen;
-  if (Application == nullptr) Application = new TApplication;
-}
-
-void DestroyApplication() {
-  while (Screen != nullptr && Screen->FormCount() > 0) {
-    // A form that another one owns is still whole when its owner's FormDestroy runs.
-    TForm* form = Screen->Forms(Screen->FormCount() - 1);
-    while (auto* owner = dynamic_cast<TForm*>(form->Owner())) form = owner;
-    DestroyForm(form);
-  }
-  delete Application;
-  Application = nullptr;
-  delete Screen;
-  Screen = nullptr;
 }

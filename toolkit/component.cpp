@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "toolkit/application.h"
 #include "toolkit/text.h"
 
-TComponent::TComponent(TComponent* owner) : QObject(owner), owner_(owner) {
+TComponent::TComponent(TComponent* owner)
+    : QObject(owner), owner_(owner), life_(owner == nullptr ? Application : owner->life_) {
   if (owner_ != nullptr) owner_->components_.push_back(this);
 }
 

@@ -7,6 +7,8 @@
 
 #include "toolkit/types.h"
 
+class TApplication;
+
 /// Something that a form owns, with a name. An owner deletes its components, the last created first.
 class TComponent : public QObject {
   Q_OBJECT
@@ -24,6 +26,8 @@ class TComponent : public QObject {
   void SetTag(std::intptr_t tag) { tag_ = tag; }
 
   TComponent* Owner() const { return owner_; }
+  /// The life that the component belongs to: its owner's, or that which was served when it was made.
+  TApplication* Life() const { return life_; }
   /// The owned components in the order of their creation, also those that aren't controls.
   int ComponentCount() const { return static_cast<int>(components_.size()); }
   TComponent* Components(int index) const { return components_.at(static_cast<std::size_t>(index)); }
@@ -40,7 +44,9 @@ class TComponent : public QObject {
   void DestroyComponents();
 
  private:
+  friend class TApplication;
   TComponent* owner_;
+  TApplication* life_;
   std::vector<TComponent*> components_;
   std::intptr_t tag_ = 0;
 };

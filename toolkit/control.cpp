@@ -203,6 +203,8 @@ void TControl::ActionChange(const TAction& action) {
 }
 
 bool TControl::eventFilter(QObject* watched, QEvent* event) {
+  if (HasEnded(LifeOf(this))) return false;
+  const TLifeScope scope(LifeOf(this));
   return WidgetEvent(static_cast<QWidget*>(watched), event);
 }
 

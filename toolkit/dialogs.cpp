@@ -66,8 +66,10 @@ bool TSaveDialog::Execute(TForm* parent) {
     filter_index_ = static_cast<int>(names.indexOf(name)) + 1;
     FireEvent(OnTypeChange, this);
   });
+  const TLifeScope scope(LifeOf(this));
   const bool accepted = dialog->exec() == QDialog::Accepted;
-  if (self == nullptr) delete dialog.data();
+  if (self == nullptr || HasEnded(Life())) delete dialog.data();
+  scope.Check();
   if (dialog == nullptr) return false;
   if (accepted) file_name_ = WithExtension(FromQt(dialog->selectedFiles().value(0)));
   delete dialog.data();

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QEventLoop>
 #include <QLayout>
 #include <QScreen>
 #include <QWindow>
+#include <utility>
 
 #include "platform/host_api.h"
 #include "toolkit/application.h"
@@ -82,15 +84,21 @@ void TForm::FormDestroy() {
 }
 
 void TForm::BeforeDestruction() {
-  if (destroyed_) return;
-  destroyed_ = true;
+  if (destroyed_ || !made_) return;
+  const QPointer<TForm> self(this);
   RunGuarded(this, [this] { FormDestroy(); });
+  if (self) destroyed_ = true;
 }
 
 void DestroyForm(TForm* form) {
   if (form == nullptr) return;
-  form->BeforeDestruction();
-  delete form;
+  const TApplication* const life = LifeOf(form);
+  if (!HasEnded(life)) form->BeforeDestruction();
+  if (HasEnded(life) || (life != nullptr && life->Closing())) {
+    form->Hide();
+  } else {
+    delete form;
+  }
 }
 
 bool TForm::Showing() const {
@@ -108,18 +116,24 @@ void TForm::BringToFront() {
 }
 
 void TForm::Show() {
+  // The host may pick the form's item once more while it answers what the form asks on its way.
+  if (opening_) return;
   if (Showing()) {
     BringToFront();
-    return;
+  } else {
+    OpenWindow();
   }
-  OpenWindow();
+  CheckLife();
 }
 
 void TForm::OpenWindow() {
   const QPointer<TForm> self(this);
   NameWindow();
+  opening_ = true;
   FireEvent(OnShow, this);
-  if (!self || Widget() == nullptr) return;
+  if (!self) return;
+  opening_ = false;
+  if (Widget() == nullptr || HasEnded(Life())) return;
   QWidget* window = Widget();
   window->ensurePolished();
   // What was added since a layout measured itself counts only once it has been told.
@@ -181,23 +195,37 @@ void TForm::SetModalResult(int result) {
 }
 
 int TForm::ShowModal() {
+  const TLifeScope scope(LifeOf(this));
+  scope.Check();
   if (loop_ != nullptr || Widget() == nullptr) return mrCancel;
   const QPointer<TForm> self(this);
   const QPointer<QWidget> before(QApplication::activeWindow());
   QEventLoop loop;
   loop_ = &loop;
   modal_result_ = mrNone;
+  // A host that deletes its main window takes the form's window with it.
+  QObject::connect(Widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
   Widget()->hide();
   Widget()->setWindowModality(Qt::ApplicationModal);
   OpenWindow();
-  if (!self) return mrCancel;
-  if (modal_result_ == mrNone) loop.exec();
+  if (self && loop_ != nullptr && Widget() != nullptr && modal_result_ == mrNone) loop.exec();
+  if (self) loop_ = nullptr;
+  scope.Check();
   if (!self) return mrCancel;
   if (modal_result_ == mrNone) modal_result_ = mrCancel;
-  loop_ = nullptr;
   FinishModal();
   if (before && before->isVisible()) before->activateWindow();
+  scope.Check();
   return self ? modal_result_ : mrCancel;
+}
+
+void TForm::EndModal() {
+  if (loop_ == nullptr) return;
+  QEventLoop* const loop = std::exchange(loop_, nullptr);
+  if (modal_result_ == mrNone) modal_result_ = mrCancel;
+  const QPointer<QEventLoop> kept(loop);
+  FinishModal();
+  if (kept) loop->quit();
 }
 
 void TForm::FinishModal() {
@@ -289,6 +317,20 @@ bool TForm::PressDialogButton(std::uint16_t key, bool control_wants_return) {
   if (button == nullptr || !button->Enabled() || !button->Visible()) return false;
   button->Click();
   return true;
+}
+
+void TForm::CloseChildWindows() {
+  if (Widget() == nullptr) return;
+  for (QWidget* child : Widget()->findChildren<QWidget*>()) {
+    if (!child->isWindow() || !child->isVisible() || dynamic_cast<FormWindow*>(child) != nullptr) continue;
+    if (auto* dialog = qobject_cast<QDialog*>(child)) dialog->reject();
+    child->hide();
+  }
+}
+
+void TForm::Retire() {
+  if (handle_ != 0) norvik_window_unregister(std::exchange(handle_, 0));
+  Hide();
 }
 
 std::uint32_t TForm::Handle() {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "toolkit/control.h"
+#include "toolkit/life.h"
 
 class QEventLoop;
 class TbsSkinButton;
@@ -91,7 +92,17 @@ class TForm : public TWinControl {
   /// gives 0.
   virtual std::intptr_t Dispatch(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam);
 
+  /// Runs FormDestroy, once, of a form that was made whole. A failure is reported.
   void BeforeDestruction() override;
+  /// Ends ShowModal as if cancelled, OnClose included, if it is running: the window is hidden at once, and
+  /// the loop ends with the running event.
+  void EndModal();
+  /// Closes what has opened over the form: menus, the lists of boxes, file dialogs.
+  void CloseChildWindows();
+  /// Takes the window away for good; messages to the handle are ignored from now on.
+  void Retire();
+  /// Says that each step of CreateForm has been taken.
+  void MarkMade() { made_ = true; }
   /// Gives the window the form's class name as object name; CreateForm and each show do it.
   void NameWindow();
 
@@ -127,10 +138,13 @@ class TForm : public TWinControl {
   bool key_preview_ = false;
   bool width_set_ = false;
   bool height_set_ = false;
+  bool made_ = false;
+  bool opening_ = false;
   bool destroyed_ = false;
 };
 
-/// Deletes a form: FormDestroy first, whose exceptions go to the application's handler. Null does nothing.
+/// Deletes a form: FormDestroy first, whose exceptions go to the application's handler. Null does nothing. A
+/// form of a life that is ending is only hidden, and deleted with the life.
 void DestroyForm(TForm* form);
 
 struct TFormDeleter {
@@ -141,7 +155,7 @@ template <class T>
 using TFormPointer = std::unique_ptr<T, TFormDeleter>;
 
 /// Makes a form of class T; its owner, if any, deletes it at the latest. An exception of a step deletes it
-/// and goes up.
+/// and is passed on; so does the end of its life, with LifeEnded.
 template <class T, class... Arguments>
 T* CreateForm(TComponent* owner, Arguments&&... arguments) {
   auto form = std::make_unique<T>(owner, std::forward<Arguments>(arguments)...);
@@ -149,5 +163,7 @@ T* CreateForm(TComponent* owner, Arguments&&... arguments) {
   form->BuildControls();
   form->SetCaptions();
   form->Construct();
+  CheckLife();
+  form->MarkMade();
   return form.release();
 }
