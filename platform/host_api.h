@@ -131,15 +131,20 @@ norvik_handle norvik_bank_directory_register(const norvik_bank_directory* direct
 /* Ends the handle. [any thread, once the module was released] */
 void norvik_bank_directory_unregister(norvik_handle directory);
 
-/* --- The module's five exports
- * ------------------------------------------------------------------------------------- */
+/* The module's five exports
 
-/* The types of the functions that NorvikQry.so exports as InitModule, MenuConfig, FreeBuff, CallFunc and
+   The types of the functions that NorvikQry.so exports as InitModule, MenuConfig, FreeBuff, CallFunc and
    Release. A failure leaves InitModule, MenuConfig and CallFunc as a C++ exception of corvane::TException. A
-   Qt application object must live from InitModule to Release. */
+   Qt application object must live from InitModule to Release.
 
-/* Binds the host's libraries, found through the public information library; 0 when it returns at all.
-   [user-interface thread, once before the others] */
+   On the user-interface thread each may be called at any moment: from a timer while a dialog of the module
+   waits, from inside a function of a host library or of the bank directory that the module is calling, from a
+   window procedure. Functions of the module then still stand on the stack below the call; they end one after
+   the other without calling the host. */
+
+/* Binds the host's libraries, found through the public information library; 0 when it returns at all. What an
+   earlier call has started is released first. Fails with "CF30007" if the host calls Release from inside.
+   [user-interface thread, before CallFunc] */
 typedef uint32_t (*norvik_init_module)(norvik_handle public_information_module);
 
 /* Writes the menu as an "iniplus" document with a terminator into *buffer; a null *buffer is set to memory
@@ -152,12 +157,16 @@ typedef void (*norvik_menu_config)(char** buffer);
 typedef int32_t (*norvik_free_buff)(char* buffer);
 
 /* Opens or brings back the screen of the item named by the field ItemName of `request`, the text of a row;
-   another item does nothing. `reserved` isn't read. [user-interface thread, between InitModule and Release]
- */
+   another item does nothing. `reserved` isn't read. During an exchange with the bank the item opens once the
+   exchange has ended, and a failure is then shown to the user. Fails with "CF30007" before InitModule has
+   succeeded and once Release has begun. [user-interface thread] */
 typedef void (*norvik_call_func)(const char* request, uint32_t reserved);
 
-/* Destroys the screens and lets go of the host's libraries; also after an InitModule that failed.
-   [user-interface thread, once before unloading; more often does nothing] */
+/* Stores the layouts, closes all windows of the module as if cancelled, and lets go of the host's libraries;
+   also after an InitModule that failed. When it returns the host isn't called any more: a buffer that a host
+   function gives out after Release was called from inside it stays the host's. [user-interface thread, at
+   least once before unloading. While functions of the module stand below the call, the host unloads only
+   after they have ended and its event loop has run, or after one more Release from there] */
 typedef void (*norvik_release)(void);
 
 #ifdef __cplusplus

@@ -203,9 +203,12 @@ void TControl::ActionChange(const TAction& action) {
 }
 
 bool TControl::eventFilter(QObject* watched, QEvent* event) {
-  if (HasEnded(LifeOf(this))) return false;
-  const TLifeScope scope(LifeOf(this));
-  return WidgetEvent(static_cast<QWidget*>(watched), event);
+  TApplication* const life = LifeOf(this);
+  if (HasEnded(life)) return false;
+  const TLifeScope scope(life);
+  const QPointer<QObject> kept(watched);
+  // Qt goes on to the widget itself, which a handler may have cost its life.
+  return WidgetEvent(static_cast<QWidget*>(watched), event) || !kept || HasEnded(life);
 }
 
 bool TControl::WidgetEvent(QWidget* widget, QEvent* event) {
