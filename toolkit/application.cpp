@@ -15,6 +15,24 @@ struct TApplication::QueuedCall {
   std::function<void()> call;
 };
 
+namespace {
+
+/// A child of the host's main window, older than the forms' windows there: it goes before them, and they can
+/// be saved.
+class Anchor : public QObject {
+ public:
+  Anchor(QObject* main, std::function<void()> gone) : QObject(main), gone_(std::move(gone)) {}
+  ~Anchor() override {
+    // Deleted by its owner it is no child any more.
+    if (parent() != nullptr) gone_();
+  }
+
+ private:
+  std::function<void()> gone_;
+};
+
+}  // namespace
+
 TApplication::TApplication() : TComponent(nullptr), screen_(std::make_unique<TScreen>()) {
   life_ = this;
 }
@@ -29,6 +47,7 @@ TApplication::~TApplication() {
     delete form;
   }
   DestroyComponents();
+  Unanchor();
   OnLeave = nullptr;
   Serve(served);
   ForgetLife(this);
@@ -38,8 +57,26 @@ void TApplication::SetHandle(std::uint32_t handle) {
   handle_ = handle;
 }
 
-QWidget* TApplication::MainWidget() const {
-  return static_cast<QWidget*>(norvik::WindowWidget(handle_));
+QWidget* TApplication::MainWidget() {
+  auto* main = static_cast<QWidget*>(norvik::WindowWidget(handle_));
+  if (main != nullptr && (!anchor_ || anchor_->parent() != main)) {
+    Unanchor();
+    anchor_ = new Anchor(main, [this] { LoseMainWidget(); });
+  }
+  return main;
+}
+
+void TApplication::Unanchor() {
+  if (!anchor_) return;
+  anchor_->setParent(nullptr);
+  delete anchor_.data();
+}
+
+void TApplication::LoseMainWidget() {
+  const TLifeScope scope(this);
+  for (const QPointer<TForm>& form : FormsNewestFirst()) {
+    if (form) form->LoseParent();
+  }
 }
 
 void TApplication::ProcessMessages() {

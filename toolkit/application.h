@@ -26,8 +26,10 @@ class TApplication : public TComponent {
   /// Tells the host's main window, whose widget becomes the parent of the forms; 0: none.
   void SetHandle(std::uint32_t handle);
   std::uint32_t Handle() const { return handle_; }
-  /// Widget of the host's main window, null when it has none.
-  QWidget* MainWidget() const;
+  /// Widget of the host's main window, null when it has none. The forms that it becomes the parent of outlive
+  /// it: when the host deletes it they are hidden, the modal ones end as cancelled, and they have no parent
+  /// any more.
+  QWidget* MainWidget();
 
   /// Handles pending events once. Timers and queued calls of the layer wait until it is over; a call from
   /// within, or after the end of the life, does nothing. LifeEnded if the life ends meanwhile.
@@ -68,10 +70,13 @@ class TApplication : public TComponent {
   void PostQueue();
   void RunQueued();
   std::vector<QPointer<TForm>> FormsNewestFirst() const;
+  void LoseMainWidget();
+  void Unanchor();
 
   struct QueuedCall;
   std::vector<QueuedCall> queue_;
   std::unique_ptr<TScreen> screen_;
+  QPointer<QObject> anchor_;
   std::uint32_t handle_ = 0;
   int scopes_ = 0;
   int holds_ = 0;

@@ -328,6 +328,15 @@ void TForm::CloseChildWindows() {
   }
 }
 
+void TForm::LoseParent() {
+  if (Widget() == nullptr) return;
+  CloseChildWindows();
+  if (loop_ != nullptr) SetModalResult(modal_result_ == mrNone ? mrCancel : modal_result_);
+  Hide();
+  // A form's window in another form's goes with that one.
+  if (qobject_cast<TForm*>(Owner()) == nullptr) Widget()->setParent(nullptr, Widget()->windowFlags());
+}
+
 void TForm::Retire() {
   if (handle_ != 0) norvik_window_unregister(std::exchange(handle_, 0));
   Hide();

@@ -101,6 +101,9 @@ class TForm : public TWinControl {
   void CloseChildWindows();
   /// Takes the window away for good; messages to the handle are ignored from now on.
   void Retire();
+  /// Takes the window out of its parent, which is being deleted, and out of sight; a modal form ends as
+  /// cancelled with the running event.
+  void LoseParent();
   /// Says that each step of CreateForm has been taken.
   void MarkMade() { made_ = true; }
   /// Gives the window the form's class name as object name; CreateForm and each show do it.
