@@ -213,8 +213,13 @@ TEST_F(FormTest, SurvivesTheEndOfTheHostsWindow) {
   form->Show();
   norvik_window_unregister(handle);
   host.reset();
-  EXPECT_EQ(form->Widget(), nullptr);
+  ASSERT_NE(form->Widget(), nullptr);
+  EXPECT_EQ(form->Widget()->parentWidget(), nullptr);
   EXPECT_FALSE(form->Showing());
+  form->Show();
+  EXPECT_TRUE(form->Showing());
+  // A window that the host deletes by itself is gone for good.
+  delete form->Widget();
   form->m_lbText->SetCaption("late");
   form->m_btnFirst->SetEnabled(false);
   form->SetCaption("late");
