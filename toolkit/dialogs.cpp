@@ -46,6 +46,8 @@ std::string TSaveDialog::WithExtension(const std::string& name) const {
 }
 
 bool TSaveDialog::Execute(TForm* parent) {
+  const TLifeScope scope(LifeOf(this));
+  scope.Check();
   const QPointer<TSaveDialog> self(this);
   NamedFiles files;
   const QPointer<QFileDialog> dialog(
@@ -66,7 +68,6 @@ bool TSaveDialog::Execute(TForm* parent) {
     filter_index_ = static_cast<int>(names.indexOf(name)) + 1;
     FireEvent(OnTypeChange, this);
   });
-  const TLifeScope scope(LifeOf(this));
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (self == nullptr || HasEnded(Life())) delete dialog.data();
   scope.Check();

@@ -135,6 +135,7 @@ QMenu* TPopupMenu::Widget() const {
 
 void TPopupMenu::Popup(int x, int y) {
   FireEvent(OnPopup, this);
+  if (HasEnded(Life())) return;
   delete menu_.data();
   const auto* control = qobject_cast<const TControl*>(popup_component_ ? popup_component_.data() : Owner());
   const TForm* form = control == nullptr ? nullptr : control->ParentForm();
