@@ -135,12 +135,12 @@ void TfrmStatistics::AddRecord(const TListItem* item) {
   const corvane::Property& record = *item->Data();
   const std::string currency = record.hasField("CRYTYPE") ? record.getValue("CRYTYPE") : m_usualCurrency;
   if (record.getValue("Color") == kRefusedColor) throw std::runtime_error("");
-  std::map<std::string, double>& sums = m_sums[currency];
+  auto& [records, sums] = m_sums[currency];
   for (const std::string& id : m_sumColumns) {
     const std::string amount = record.getValue(id);
-    if (!amount.empty()) sums[id] += StrToFloat(amount);
+    if (!amount.empty()) sums[id] += TDecimal(amount);
   }
-  sums[kRecordCount] += 1;
+  ++records;
 }
 
 // A column without a definition takes caption and width of the sum column before it.
@@ -163,16 +163,13 @@ void TfrmStatistics::BuildColumns(TListView* table) {
 
 void TfrmStatistics::Fill(TListView* table) const {
   table->Items().Clear();
-  for (const auto& [currency, sums] : m_sums) {
-    const auto sumOf = [&sums = sums](const std::string& id) {
-      const auto found = sums.find(id);
-      return found == sums.end() ? 0.0 : found->second;
-    };
+  for (const auto& [currency, totals] : m_sums) {
     TListItem* item = table->Items().Add();
     item->SetCaption(currency);
-    item->AddSubItem(FloatToStr(sumOf(kRecordCount)));
+    item->AddSubItem(IntToStr(totals.records));
     for (const std::string& id : m_sumColumns) {
-      item->AddSubItem(FormatAmount(corvane::doubleToString(sumOf(id), 2)));
+      const auto sum = totals.sums.find(id);
+      item->AddSubItem(FormatAmount((sum == totals.sums.end() ? TDecimal() : sum->second).ToFixed(2)));
     }
   }
 }

@@ -7,6 +7,7 @@
 #include "data/corvane.h"
 #include "framework/base_form.h"
 #include "toolkit/buttons.h"
+#include "toolkit/decimal.h"
 #include "toolkit/labels.h"
 #include "toolkit/list_view.h"
 #include "toolkit/panels.h"
@@ -44,8 +45,10 @@ class TfrmStatistics : public TBaseForm {
   TbsSkinScrollBar* m_SkinScrollBarSelectedH = nullptr;
 
  private:
-  // The column id under which a currency's number of records is kept.
-  static constexpr const char* kRecordCount = "_RecordCount_";
+  struct TTotals {
+    int records = 0;
+    std::map<std::string, TDecimal> sums;  // by column id
+  };
 
   TListView* BuildTable(TbsSkinPanel* panel, const char* name, TbsSkinScrollBar* horizontal,
                         TbsSkinScrollBar* vertical);
@@ -57,8 +60,8 @@ class TfrmStatistics : public TBaseForm {
 
   TKVXListView* m_listView = nullptr;  // not owned
   corvane::StringVector m_sumColumns;
-  std::map<std::string, std::map<std::string, double>> m_sums;  // by currency text and column id
-  std::string m_usualCurrency;                                  // of a record that names none
+  std::map<std::string, TTotals> m_sums;  // by currency text
+  std::string m_usualCurrency;            // of a record that names none
   std::string m_ownerClass;
   corvane::List m_fieldDefs;
 };

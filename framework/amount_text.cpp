@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "data/string_functions.h"
-#include "toolkit/conversion.h"
+#include "toolkit/decimal.h"
 
 namespace norvik {
 bool NormalizeAmountText(std::string_view text, std::string& out) {
@@ -12,7 +11,7 @@ bool NormalizeAmountText(std::string_view text, std::string& out) {
   out.clear();
   std::copy_if(text.begin(), text.end(), std::back_inserter(out), [](char c) { return c != ','; });
   if (out.empty()) out = text;
-  const std::string normal = corvane::doubleToString(StrToFloat(out), 2);
+  const std::string normal = TDecimal(out).ToFixed(2);
   const bool wasNormal = normal == out;
   out = normal;
   return wasNormal;

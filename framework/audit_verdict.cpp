@@ -1,12 +1,12 @@
 #include "framework/audit_verdict.h"
 
-#include <charconv>
 #include <cstdint>
 
 #include "dialogs/audit.h"
 #include "dialogs/messages.h"
 #include "framework/batch_rows.h"
 #include "host/translate.h"
+#include "toolkit/conversion.h"
 
 namespace {
 
@@ -19,10 +19,7 @@ void Warn(const char* key) {
 
 // 0 for a text that is no number.
 std::int64_t NumberOf(const std::string& digits) {
-  std::int64_t number = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, number);
-  return error == std::errc() && stop == end ? number : 0;
+  return ParseInteger(digits).value_or(0);
 }
 
 // The digits of "yyyy-mm-dd"; empty for a shorter text.

@@ -1,10 +1,8 @@
 #include "framework/date_range.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdlib>
-#include <optional>
 
 #include "toolkit/conversion.h"
 
@@ -24,7 +22,9 @@ struct DateParts {
 
 DateParts TakeApart(const std::string& date) {
   const auto part = [&date](std::size_t from, std::size_t length) {
-    return StrToInt(from < date.size() ? date.substr(from, length) : std::string());
+    const int number = StrToInt(from < date.size() ? date.substr(from, length) : std::string());
+    if (date[from] == '-') throw EConvertError("'" + date + "' is not a date");
+    return number;
   };
   return {part(0, 4), part(4, 2), part(6, 2)};
 }
@@ -52,13 +52,6 @@ int DaysInMonth(int year, int month) {
   const std::chrono::year_month_day_last last{
       std::chrono::year{year}, std::chrono::month_day_last{std::chrono::month{static_cast<unsigned>(month)}}};
   return static_cast<int>(static_cast<unsigned>(last.day()));
-}
-
-std::optional<long long> Number(const std::string& text) {
-  long long value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return value;
 }
 
 }  // namespace
@@ -91,8 +84,8 @@ QuickDate QuickDateOf(const DateRange& range, QuickDate shown, const std::string
 }
 
 std::string NotAfter(const std::string& date, const std::string& today) {
-  const auto given = Number(date);
-  const auto limit = Number(today);
+  const auto given = ParseInteger(date);
+  const auto limit = ParseInteger(today);
   return given && limit && *given > *limit ? today : date;
 }
 

@@ -3,7 +3,7 @@
 #include "dialogs/validators.h"
 #include "framework/amount_text.h"
 #include "framework/date_range.h"
-#include "toolkit/conversion.h"
+#include "toolkit/decimal.h"
 
 namespace norvik {
 namespace {
@@ -34,20 +34,19 @@ DateRangeFault CheckDateRange(const DateRangeRule& rule, const std::string& star
   return {};
 }
 
-std::string CheckAmounts(std::string& minimum, std::string& maximum) {
+AmountRangeFault CheckAmounts(std::string& minimum, std::string& maximum) {
   if (minimum.empty() && maximum.empty()) return {};
   if (minimum.empty()) {
     Normalize(maximum);
-    return "UI44564";
+    return {"UI44564"};
   }
   Normalize(minimum);
-  if (maximum.empty()) return "UI44565";
+  if (maximum.empty()) return {"UI44565"};
   Normalize(maximum);
-  if (StrToFloat(maximum) <= 0) {
-    maximum.clear();
-    return "UI44566";
-  }
-  return StrToFloat(minimum) > StrToFloat(maximum) ? "UI44567" : "";
+  const TDecimal most(maximum);
+  if (most <= TDecimal()) return {"UI44566", true};
+  if (TDecimal(minimum) > most) return {"UI44567"};
+  return {};
 }
 
 std::vector<std::string> AccountBatches(const std::vector<std::string>& accounts) {

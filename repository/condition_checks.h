@@ -29,10 +29,15 @@ struct DateRangeFault {
 // The first fault of a range, in the order: start, end, both together.
 DateRangeFault CheckDateRange(const DateRangeRule& rule, const std::string& start, const std::string& end);
 
-// The first fault of a range of amounts, empty when it passes: both or none must be given, the maximum above
-// 0 and not below the minimum. The amounts looked at are brought into their normal form in place; a maximum
-// of 0 or less is emptied. A text that is no number raises the toolkit's EConvertError.
-std::string CheckAmounts(std::string& minimum, std::string& maximum);
+struct AmountRangeFault {
+  std::string messageKey;  // empty: the range passes
+  bool emptiesMaximum = false;
+};
+
+// The first fault of a range of amounts: both or none must be given, the maximum above 0 and not below the
+// minimum. The amounts looked at are brought into their normal form in place. A text that is no number raises
+// the toolkit's EConvertError.
+AmountRangeFault CheckAmounts(std::string& minimum, std::string& maximum);
 
 // Account numbers joined with "|" in rows of at most 20; the last row holds what is left, and no row is
 // empty.

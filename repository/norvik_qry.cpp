@@ -108,11 +108,12 @@ bool TfrmNorvikQry::CheckConditions() {
 bool TfrmNorvikQry::CheckAmountRange(TKVXEdit* minEdit, TKVXEdit* maxEdit) {
   std::string minimum = minEdit->Text();
   std::string maximum = maxEdit->Text();
-  const std::string messageKey = norvik::CheckAmounts(minimum, maximum);
+  const norvik::AmountRangeFault fault = norvik::CheckAmounts(minimum, maximum);
   minEdit->SetText(minimum);
   maxEdit->SetText(maximum);
-  if (messageKey.empty()) return true;
-  ShowWarnMsg(g_pTranslate->Translate(messageKey), nullptr);
+  if (fault.messageKey.empty()) return true;
+  ShowWarnMsg(g_pTranslate->Translate(fault.messageKey), nullptr);
+  if (fault.emptiesMaximum) maxEdit->Clear();
   return false;
 }
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
-#include <limits>
+#include <utility>
 
 namespace {
 
@@ -19,39 +19,6 @@ using std::chrono::year_month_day;
 
 const sys_days kDayZero = year(1899) / 12 / 30;
 constexpr std::int64_t kMillisecondsInDay = 86'400'000;
-
-[[noreturn]] void Refuse(std::string_view text, const char* what) {
-  throw EConvertError("'" + std::string(text) + "' is not a valid " + what);
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
-bool ParseInt(std::string_view text, int& value) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  const bool negative = !text.empty() && text.front() == '-';
-  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-  int base = 10;
-  if (text.starts_with('$')) {
-    base = 16, text.remove_prefix(1);
-  } else if (text.starts_with("0x") || text.starts_with("0X")) {
-    base = 16, text.remove_prefix(2);
-  }
-  if (text.empty() || text.front() == '-') return false;
-  std::int64_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
-  if (error != std::errc() || end != text.data() + text.size()) return false;
-  if (negative) number = -number;
-  // Hexadecimal digits give the bits of the number, decimal ones its value.
-  const std::int64_t largest =
-      base == 16 ? std::numeric_limits<std::uint32_t>::max() : std::numeric_limits<int>::max();
-  if (number < std::numeric_limits<int>::min() || number > largest) return false;
-  value = static_cast<int>(number);
-  return true;
-}
 
 std::int64_t Milliseconds(TDateTime value) {
   return static_cast<std::int64_t>(std::llround(value * static_cast<double>(kMillisecondsInDay)));
@@ -69,34 +36,25 @@ void AppendPadded(std::string& text, int number, std::size_t digits) {
 
 }  // namespace
 
-int StrToInt(std::string_view text) {
-  int value = 0;
-  if (!ParseInt(text, value)) Refuse(text, "integer value");
+std::optional<std::int64_t> ParseInteger(std::string_view text) {
+  std::int64_t value = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  if (error != std::errc() || stop != end) return std::nullopt;
   return value;
+}
+
+int StrToInt(std::string_view text) {
+  const std::optional<std::int64_t> value = ParseInteger(text);
+  if (!value || !std::in_range<int>(*value)) {
+    throw EConvertError("'" + std::string(text) + "' is not a valid integer value");
+  }
+  return static_cast<int>(*value);
 }
 
 int StrToIntDef(std::string_view text, int otherwise) {
-  int value = 0;
-  return ParseInt(text, value) ? value : otherwise;
-}
-
-double StrToFloat(std::string_view text) {
-  std::string_view number = TrimBlanks(text);
-  const bool two_signs = number.starts_with("+-");
-  if (number.starts_with('+')) number.remove_prefix(1);
-  const bool plain = !two_signs && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
-  double value = 0;
-  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (!plain || number.empty() || error != std::errc() || end != number.data() + number.size()) {
-    Refuse(text, "floating point value");
-  }
-  return value;
-}
-
-std::string FloatToStr(double value) {
-  char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.15G", value);
-  return buffer;
+  const std::int64_t value = ParseInteger(text).value_or(otherwise);
+  return std::in_range<int>(value) ? static_cast<int>(value) : otherwise;
 }
 
 std::string IntToStr(int value) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -13,15 +15,13 @@ class EConvertError : public std::runtime_error {
 /// Days since 1899-12-30; the fraction is the time of day.
 using TDateTime = double;
 
-/// A whole number, decimal or with $ or 0x hexadecimal, blanks in front allowed; EConvertError for all else.
+/// A whole number as a host or a bank writes one: decimal digits, "-" before them where it is negative, and
+/// nothing else, no blank, "+" or hexadecimal prefix either. Nothing for any other text.
+std::optional<std::int64_t> ParseInteger(std::string_view text);
+/// The same within 32 bits; EConvertError for all else.
 int StrToInt(std::string_view text);
-/// The same with a result for what isn't a number.
+/// The same with a result for all else.
 int StrToIntDef(std::string_view text, int otherwise);
-/// A decimal number with an optional sign, fraction after "." and exponent, blanks around allowed; no
-/// thousands separators. EConvertError for all else.
-double StrToFloat(std::string_view text);
-/// At most 15 significant digits, without trailing zeros, "." as point.
-std::string FloatToStr(double value);
 std::string IntToStr(int value);
 
 /// A date from year 1 to 9999, month and day; EConvertError when the calendar lacks it.

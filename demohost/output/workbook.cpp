@@ -15,8 +15,12 @@ namespace {
 // Pixels of one character of the workbook's standard font, by which its columns are measured.
 constexpr double kCharacter = 7.0;
 
-// The whole text as a number; false for anything else.
+// What a workbook's numbers hold without loss.
+constexpr std::ptrdiff_t kMaxDigits = 15;
+
+// The whole text as a number; false for anything else, and for a number of more digits than a workbook keeps.
 bool NumberOf(const std::string& text, double& number) {
+  if (std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; }) > kMaxDigits) return false;
   const char* end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
   return !text.empty() && result.ec == std::errc() && result.ptr == end;

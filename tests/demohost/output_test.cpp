@@ -48,10 +48,10 @@ ExportSheet Sheet() {
                      {"PAYAMT", "1250411.89"},
                      {"DUEDATE", "20260229"},
                      {"BILLSID", "20260115"},
-                     {"ENDRMNT", ""},
+                     {"ENDRMNT", "n/a"},
                      {"APLYRMK", "背书\\转让|\"待定\""}}));
   data.addRow(RowOf({{"BILLNUM", "2"},
-                     {"PAYAMT", "n/a"},
+                     {"PAYAMT", "100000000000000.01"},
                      {"DUEDATE", "20260615"},
                      {"BILLSID", ""},
                      {"ENDRMNT", "3"},
@@ -86,8 +86,8 @@ TEST(Export, WritesLinesThatOtherProgramsTakeApart) {
   WriteDelimited(folder / "a.txt", Sheet(), "|");
   EXPECT_EQ(ReadFile(folder / "a.txt"),
             "\xEF\xBB\xBF票号|票面金额|到期日|票据ID|手数|备注\r\n"
-            "0031310012000001|1250411.89|20260229|20260115||\"背书\\转让|\"\"待定\"\"\"\r\n"
-            "2|n/a|20260615||3|\"=1+1\n€\"\r\n");
+            "0031310012000001|1250411.89|20260229|20260115|n/a|\"背书\\转让|\"\"待定\"\"\"\r\n"
+            "2|100000000000000.01|20260615||3|\"=1+1\n€\"\r\n");
 }
 
 TEST(Export, WritesAWorkbookThatAnotherReaderReads) {
@@ -108,9 +108,9 @@ TEST(Export, WritesAWorkbookThatAnotherReaderReads) {
       "str:'代保管票据查询':General",
       "str:'操作员':General|str:'王芳':General",
       "str:'票号':General|str:'票面金额':General|str:'到期日':General",
-      "str:'0031310012000001':@|float:1250411.89:#,##0.00|str:'20260229':@|str:'20260115':@||str:'"
+      "str:'0031310012000001':@|float:1250411.89:#,##0.00|str:'20260229':@|str:'20260115':@|str:'n/a':@|str:'"
       "背书\\\\转让|\"待定\"':@",
-      "str:'2':@|str:'n/a':@|datetime:datetime.datetime(2026, 6, 15, 0, "
+      "str:'2':@|str:'100000000000000.01':@|datetime:datetime.datetime(2026, 6, 15, 0, "
       "0):yyyy-mm-dd||int:3:0|str:'=1+1\\n€':@",
   };
   for (const char* line : lines)

@@ -192,7 +192,7 @@ TEST_F(AuditFoot, TheFlowIsATreeOfLevelsAndTheirOperators) {
 
 TEST_F(AuditFoot, ANumberOfLevelsIsStrictAndBounded) {
   std::size_t reported = 0;
-  for (const char* total : {"", "two", "2 levels", "99999999999"}) {
+  for (const char* total : {"", "two", "2 levels", "99999999999", "$2", "0x2", " 2", "+2"}) {
     const TFormPointer<TfrmViewBsnFlow> wrong(
         CreateForm<TfrmViewBsnFlow>(Application, Flow(total, {Batch()})));
     wrong->Show();

@@ -78,11 +78,13 @@ TEST_F(Statistics, SumsByCurrencyOnceForAllAndOnceForTheTicked) {
   Add({{"CRYTYPE", ""}, {"AMT", "-5"}, {"FEE", "0"}}, true);
   Add({{"AMT", "7.5"}, {"FEE", "2"}});
   Add({{"CRYTYPE", "EUR"}}, true);
+  for (int i = 0; i < 2; ++i) Add({{"CRYTYPE", "JPY"}, {"AMT", "90000000000000.01"}});
   const auto form = Make();
   ASSERT_TRUE(form->Prepare(owner, list, {"AMT", "FEE"}, "sums"));
   EXPECT_EQ(form->Caption(), "sums");
   EXPECT_EQ(CellsOf(form->m_ltvInfo), (Cells{{"", "1", "-5.00", "0.00"},
                                              {"EUR", "1", "0.00", "0.00"},
+                                             {"JPY", "2", "180,000,000,000,000.02", "0.00"},
                                              {"USD", "2", "1,234,567.30", "1.00"},
                                              {Ansi("人民币"), "1", "7.50", "2.00"}}));
   EXPECT_EQ(CellsOf(form->m_ltvSelected), (Cells{{"", "1", "-5.00", "0.00"},

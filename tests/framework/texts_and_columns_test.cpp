@@ -21,6 +21,8 @@ TEST(NormalizeAmountText, GivesTwoDecimals) {
       {"1,234.50", "1234.50", true},
       {"5", "5.00", false},
       {"-3.999", "-4.00", false},
+      {"100000000000000.01", "100000000000000.01", true},  // a cent that a 64-bit float loses
+      {"9,007,199,254,740,993.25", "9007199254740993.25", true},
       {",,5,,", "5.00", false},
       {"007.10", "7.10", false},
       {std::string("12.00\0junk", 10), "12.00", true},

@@ -51,19 +51,25 @@ TEST(CheckAmounts, NormalizesWhatItLooksAt) {
     const char* fault;
     const char* normalMinimum;
     const char* normalMaximum;
+    bool empties = false;
   } cases[] = {
       {"", "", "", "", ""},
       {"", "5", "UI44564", "", "5.00"},
       {"5", "", "UI44565", "5.00", ""},
-      {"0", "0", "UI44566", "0.00", ""},
+      {"0", "0", "UI44566", "0.00", "0.00", true},
+      {"1", "-0.01", "UI44566", "1.00", "-0.01", true},
       {"7", "6.9", "UI44567", "7.00", "6.90"},
       {"1,234", "1234.00", "", "1234.00", "1234.00"},
+      {"9007199254740992.99", "9007199254740993", "", "9007199254740992.99", "9007199254740993.00"},
+      {"9007199254740993.00", "9007199254740992.99", "UI44567", "9007199254740993.00", "9007199254740992.99"},
       {"9999999999999.98", "9999999999999.99", "", "9999999999999.98", "9999999999999.99"},
   };
   for (const auto& c : cases) {
     std::string minimum = c.minimum;
     std::string maximum = c.maximum;
-    EXPECT_EQ(CheckAmounts(minimum, maximum), c.fault) << c.minimum << " to " << c.maximum;
+    const AmountRangeFault fault = CheckAmounts(minimum, maximum);
+    EXPECT_EQ(fault.messageKey, c.fault) << c.minimum << " to " << c.maximum;
+    EXPECT_EQ(fault.emptiesMaximum, c.empties) << c.minimum << " to " << c.maximum;
     EXPECT_EQ(minimum, c.normalMinimum);
     EXPECT_EQ(maximum, c.normalMaximum);
   }

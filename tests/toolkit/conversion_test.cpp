@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "toolkit/decimal.h"
+
 TEST(Conversion, WholeNumbers) {
   struct Case {
     const char* text;
@@ -11,20 +13,18 @@ TEST(Conversion, WholeNumbers) {
   const Case cases[] = {
       {"0", true, 0},
       {"-12", true, -12},
-      {"+7", true, 7},
-      {" 42", true, 42},
-      {"$1F", true, 31},
-      {"0x10", true, 16},
       {"2147483647", true, 2147483647},
       {"-2147483648", true, -2147483647 - 1},
-      {"$FFFFFFFF", true, -1},
       {"", false, 0},
+      {"+7", false, 0},
+      {" 42", false, 0},
       {"12 ", false, 0},
+      {"$1F", false, 0},
+      {"0x10", false, 0},
       {"1.5", false, 0},
       {"2147483648", false, 0},
       {"--1", false, 0},
       {"abc", false, 0},
-      {"$", false, 0},
       {"99999999999999999999", false, 0},
       {"1\0", true, 1},
       {"-", false, 0},
@@ -40,30 +40,72 @@ TEST(Conversion, WholeNumbers) {
   }
 }
 
-TEST(Conversion, DecimalNumbers) {
-  struct Case {
+TEST(Conversion, DecimalNumbersKeepEveryDigit) {
+  const struct {
     const char* text;
-    bool good;
-    double value;
+    const char* fixed;  // with two decimals; null: refused
+  } cases[] = {
+      {"1234.50", "1234.50"},
+      {" 0.01 ", "0.01"},
+      {"+3", "3.00"},
+      {".5", "0.50"},
+      {"5.", "5.00"},
+      {"00012", "12.00"},
+      {"-0", "-0.00"},
+      {"1e3", "1000.00"},
+      {"12.5E-1", "1.25"},
+      {"1e+2", "100.00"},
+      {"1e-300", "0.00"},
+      {"0.005", "0.00"},  // a tie goes to the even digit
+      {"0.015", "0.02"},
+      {"0.00500000000000000000001", "0.01"},
+      {"-9.995", "-10.00"},
+      {"99.994", "99.99"},
+      {"123456789012345678901234567890123456789.01", "123456789012345678901234567890123456789.01"},
+      {"", nullptr},
+      {".", nullptr},
+      {"+", nullptr},
+      {"+-1", nullptr},
+      {"1,234", nullptr},
+      {"1.2.3", nullptr},
+      {"12a", nullptr},
+      {"inf", nullptr},
+      {"1 2", nullptr},
+      {"0x10", nullptr},
+      {"1e", nullptr},
+      {"1e+-2", nullptr},
+      {"1e999", nullptr},
   };
-  const Case cases[] = {
-      {"1234.50", true, 1234.5}, {" 0.01 ", true, 0.01}, {"-3", true, -3},  {"+3", true, 3},
-      {".5", true, 0.5},         {"1e3", true, 1000},    {"5.", true, 5},   {"", false, 0},
-      {"1,234", false, 0},       {"12a", false, 0},      {"inf", false, 0}, {"nan", false, 0},
-      {"1 2", false, 0},         {"+", false, 0},        {"+-1", false, 0}, {"1e999", false, 0},
-  };
-  for (const Case& row : cases) {
-    SCOPED_TRACE(row.text);
-    if (row.good) {
-      EXPECT_DOUBLE_EQ(StrToFloat(row.text), row.value);
+  for (const auto& row : cases) {
+    if (row.fixed != nullptr) {
+      EXPECT_EQ(TDecimal(row.text).ToFixed(2), row.fixed) << row.text;
     } else {
-      EXPECT_THROW(StrToFloat(row.text), EConvertError);
+      EXPECT_THROW(TDecimal(row.text), EConvertError) << row.text;
     }
   }
-  EXPECT_EQ(FloatToStr(3), "3");
-  EXPECT_EQ(FloatToStr(0.1 + 0.2), "0.3");
-  EXPECT_EQ(FloatToStr(-1234.5), "-1234.5");
-  EXPECT_EQ(FloatToStr(100000), "100000");
+  EXPECT_EQ(TDecimal().ToFixed(2), "0.00");
+}
+
+TEST(Conversion, DecimalNumbersAreSummedAndCompared) {
+  const struct {
+    const char *a, *b, *sum;
+    int order;
+  } cases[] = {{"100000000000000", "0.01", "100000000000000.010", 1},
+               {"99.99", "0.011", "100.001", 1},
+               {"5", "-7.5", "-2.500", 1},
+               {"-7.5", "5", "-2.500", -1},
+               {"1000", "-0.001", "999.999", 1},
+               {"-1", "-2", "-3.000", 1},
+               {"3.10", "-3.1", "0.000", 1},
+               {"2.50", "2.5", "5.000", 0},
+               {"-0", "0", "0.000", 0}};
+  for (const auto& row : cases) {
+    TDecimal sum(row.a);
+    sum += TDecimal(row.b);
+    EXPECT_EQ(sum.ToFixed(3), row.sum) << row.a << " + " << row.b;
+    const auto order = TDecimal(row.a) <=> TDecimal(row.b);
+    EXPECT_EQ(order < 0 ? -1 : order > 0 ? 1 : 0, row.order) << row.a << " <=> " << row.b;
+  }
 }
 
 TEST(Conversion, Dates) {
