@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/application.h"
 #include "toolkit/text.h"
@@ -21,6 +22,12 @@ TbsSkinRadioGroup::TbsSkinRadioGroup(TComponent* owner) : TbsSkinControl(owner) 
     if (setting_ || !on) return;
     item_index_ = index;
     Click();
+  });
+  // The item that is shown already toggles nothing when it is clicked.
+  connect(group_, &QButtonGroup::idPressed, this,
+          [this](int index) { pressed_shown_ = index == item_index_; });
+  connect(group_, &QButtonGroup::idClicked, this, [this] {
+    if (std::exchange(pressed_shown_, false)) Click();
   });
 }
 

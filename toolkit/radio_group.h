@@ -11,7 +11,8 @@ class QGridLayout;
 class QRadioButton;
 
 /// A framed group of alternatives, of which one or none is chosen. The radio button of item i bears the
-/// group's name, "_" and i as object name. OnClick runs when the user chooses another item.
+/// group's name, "_" and i as object name. OnClick runs when the user chooses an item, also the chosen one
+/// again.
 class TbsSkinRadioGroup : public TbsSkinControl {
   Q_OBJECT
   Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
@@ -52,4 +53,5 @@ class TbsSkinRadioGroup : public TbsSkinControl {
   int columns_ = 1;
   int item_index_ = -1;
   bool setting_ = false;
+  bool pressed_shown_ = false;  // the button under the mouse or the key is the chosen one
 };

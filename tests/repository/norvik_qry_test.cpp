@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QRadioButton>
 
+#include "dialogs/com_msg.h"
 #include "repository/enquiry_form.h"
 #include "repository/record_info_form.h"
 #include "tests/support/screen_host.h"
@@ -305,6 +307,25 @@ TEST_F(NorvikQry, WritesTheQuickChoiceIntoTheDueDates) {
   form->m_dtDeadStartDate->SetText("20260101");
   form->m_dtDeadStartDateChange(form);
   EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 2);
+  form->m_dtDeadStartDate->Clear();  // as a check does it
+  form->m_dtDeadEndDate->Clear();
+  form->Widget()->findChild<QRadioButton*>("m_rgSelDate_2")->click();
+  EXPECT_EQ(form->m_dtDeadStartDate->Text() + form->m_dtDeadEndDate->Text(), "2026110120261122");
+}
+
+TEST_F(NorvikQry, EmptiesTheMaximumAfterTheMessage) {
+  Open();
+  form->m_pnlAdvance->SetRollState(false);
+  form->m_edMinAmount->SetText("1");
+  form->m_edMaxAmount->SetText("0");
+  std::string read;
+  WhenShown<TFrmComMsg> look([&](TFrmComMsg& message) {
+    read = message.m_lblInfo->Caption() + " " + form->m_edMaxAmount->Text();
+    message.Close();
+  });
+  form->m_actQuery->Execute();
+  EXPECT_EQ(read, "UI44566 0.00");
+  EXPECT_EQ(form->m_edMaxAmount->Text(), "");
 }
 
 TEST_F(NorvikQry, OpensTheRecordOfTheTickedRow) {

@@ -151,6 +151,16 @@ TEST_F(KvxChoicesTest, RadioGroupRunsOnClickForCodeAndUser) {
   week->click();
   EXPECT_EQ(group->ItemIndex(), 1);
   EXPECT_EQ(clicks, 3);
+  week->click();
+  EXPECT_EQ(clicks, 4) << "the item that is shown";
+  ASSERT_TRUE(QTest::qWaitForWindowActive(form->Widget()));
+  week->setFocus();
+  QTest::keyClick(week, Qt::Key_Right);
+  EXPECT_EQ(group->ItemIndex(), 2);
+  EXPECT_EQ(clicks, 5);
+  week->setChecked(true);  // as an assistive technology does it
+  EXPECT_EQ(group->ItemIndex(), 1);
+  EXPECT_EQ(clicks, 6);
   group->Items().SetStrings(1, "this week");
   EXPECT_EQ(week->text(), "this week");
   EXPECT_TRUE(week->isChecked());
