@@ -54,13 +54,12 @@ void TFrmComMsg::BuildControls() {
   TBaseForm::BuildControls();
   m_Img = NewComponent<TImage>(this, "m_Img");
   m_lblInfo = NewComponent<TLabel>(this, "m_lblInfo");
+  m_memo = NewComponent<TMemo>(this, "m_memo");
   m_imgList = NewComponent<TImageList>(this, "m_imgList");
   m_btnOk = NewComponent<TbsSkinButton>(this, "m_btnOk");
   m_btnNo = NewComponent<TbsSkinButton>(this, "m_btnNo");
-  for (TControl* control : {static_cast<TControl*>(m_Img), static_cast<TControl*>(m_lblInfo),
-                            static_cast<TControl*>(m_btnOk), static_cast<TControl*>(m_btnNo)}) {
-    control->SetParent(this);
-  }
+  const std::initializer_list<TControl*> controls = {m_Img, m_lblInfo, m_memo, m_btnOk, m_btnNo};
+  for (TControl* control : controls) control->SetParent(this);
   m_imgList->SetSize(32);
   for (const TStockImage icon : {siWarning, siInformation, siQuestion}) m_imgList->Add(icon);
   SetBorderStyle(bsDialog);
@@ -70,6 +69,9 @@ void TFrmComMsg::BuildControls() {
   m_lblInfo->SetBounds(kTextLeft, kTextTop, kTextWidth, kTextHeight);
   m_lblInfo->SetWordWrap(true);
   m_lblInfo->SetLayout(tlTop);
+  m_memo->SetVisible(false);
+  m_memo->SetReadOnly(true);
+  m_memo->SetScrollBars(ssVertical);
   m_btnOk->SetBounds(0, kButtonTop, kButtonWidth, kButtonHeight);
   m_btnNo->SetBounds(0, kButtonTop, kButtonWidth, kButtonHeight);
   m_btnOk->OnClick = [this](TObject* sender) { m_btnOkClick(sender); };
@@ -104,6 +106,10 @@ void TFrmComMsg::ResetForm() {
 void TFrmComMsg::FitToFont() {
   m_lblInfo->SetWidth(TextWidth(*m_lblInfo, kBytesInLine / 2, kTextWidth));
   m_lblInfo->SetHeight(TextHeight(*m_lblInfo, m_text, m_lblInfo->Width(), m_lblInfo->Height()));
+  const bool fits = TextFits(*m_lblInfo, m_text, m_lblInfo->Width());
+  m_lblInfo->SetVisible(fits);
+  m_memo->SetVisible(!fits);
+  if (!fits) m_memo->SetText(m_text);
   for (TbsSkinButton* button : {m_btnOk, m_btnNo}) FitButton(*button, kButtonWidth, kButtonHeight);
   Arrange();
 }
@@ -111,6 +117,7 @@ void TFrmComMsg::FitToFont() {
 // The buttons stand below the text: one in the middle, two there as a group.
 void TFrmComMsg::Arrange() {
   const int extra = m_lblInfo->Height() - kTextHeight;
+  m_memo->SetBounds(kTextLeft, kTextTop, m_lblInfo->Width(), m_lblInfo->Height());
   SetWidth(kTextLeft + m_lblInfo->Width() + kTextRight);
   SetHeight(kHeight + extra + m_btnOk->Height() - kButtonHeight);
   const int group = m_btnOk->Width() + (m_btnNo->Visible() ? kButtonGap + m_btnNo->Width() : 0);

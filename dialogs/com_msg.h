@@ -5,12 +5,14 @@
 
 #include "framework/base_form.h"
 #include "toolkit/buttons.h"
+#include "toolkit/edits.h"
 #include "toolkit/image_list.h"
 #include "toolkit/labels.h"
 
 enum class TMessageMode { kInformation = 0, kWarning = 1, kQuestion = 2 };
 
-// Tag is the user's answer: kConfirmed once m_btnOk was pressed, otherwise 0.
+// Tag is the user's answer: kConfirmed once m_btnOk was pressed, otherwise 0. A text that is higher than half
+// of the screen stands in m_memo, where it scrolls, instead of in the label.
 class TFrmComMsg : public TBaseForm {
   Q_OBJECT
 
@@ -32,6 +34,7 @@ class TFrmComMsg : public TBaseForm {
 
   TImage* m_Img = nullptr;
   TLabel* m_lblInfo = nullptr;
+  TMemo* m_memo = nullptr;
   TImageList* m_imgList = nullptr;
   TbsSkinButton* m_btnOk = nullptr;
   TbsSkinButton* m_btnNo = nullptr;

@@ -18,6 +18,11 @@ QFontMetrics MetricsOf(const TControl& control) {
   return QFontMetrics(control.Widget()->font());
 }
 
+int NeededHeight(const TControl& control, const QString& text, int width) {
+  const QRect room(0, 0, width, Screen->Height() * 4);
+  return MetricsOf(control).boundingRect(room, Qt::TextWordWrap, text.left(kLongestMeasured)).height();
+}
+
 }  // namespace
 
 int TextWidth(const TControl& control, int characters, int least) {
@@ -26,10 +31,12 @@ int TextWidth(const TControl& control, int characters, int least) {
 }
 
 int TextHeight(const TControl& control, const std::string& text, int width, int least) {
-  const QString shown = ToQt(text).left(kLongestMeasured);
-  const QRect room(0, 0, width, Screen->Height() * 4);
-  const int needed = MetricsOf(control).boundingRect(room, Qt::TextWordWrap, shown).height();
-  return std::min(std::max(least, needed), Screen->Height() / 2);
+  return std::min(std::max(least, NeededHeight(control, ToQt(text), width)), Screen->Height() / 2);
+}
+
+bool TextFits(const TControl& control, const std::string& text, int width) {
+  const QString shown = ToQt(text);
+  return shown.size() <= kLongestMeasured && NeededHeight(control, shown, width) <= Screen->Height() / 2;
 }
 
 void FitButton(TbsSkinButton& button, int leastWidth, int leastHeight) {

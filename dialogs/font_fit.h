@@ -15,5 +15,8 @@ int TextWidth(const TControl& control, int characters, int least);
 // `least`. Only the beginning of a very long text is measured.
 int TextHeight(const TControl& control, const std::string& text, int width, int least);
 
+// Whether the whole text is to be seen in a control of that width and TextHeight.
+bool TextFits(const TControl& control, const std::string& text, int width);
+
 // Gives a button the room that its caption needs in its font, at least the given size.
 void FitButton(TbsSkinButton& button, int leastWidth, int leastHeight);

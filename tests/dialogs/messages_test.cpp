@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "dialogs/com_msg.h"
@@ -88,7 +90,15 @@ TEST_F(Messages, EverythingIsReadableAtALargeFontAndStaysOnTheScreen) {
       EXPECT_LT(form->m_btnNo->Left() + form->m_btnNo->Width(), form->ClientWidth()) << size;
       EXPECT_LT(form->m_btnOk->Top() + form->m_btnOk->Height(), form->ClientHeight()) << size;
       EXPECT_LE(form->Height(), Screen->Height()) << size;
-      if (text.size() < 1000) {
+      const auto* memo = qobject_cast<QPlainTextEdit*>(form->m_memo->Widget());
+      EXPECT_EQ(form->m_lblInfo->Visible(), text.size() < 1000) << size;
+      EXPECT_EQ(form->m_memo->Visible(), text.size() > 1000) << size;
+      if (text.size() > 1000) {
+        EXPECT_EQ(form->m_memo->Text(), text);
+        EXPECT_GT(memo->verticalScrollBar()->maximum(), 0) << "read to its end";
+        EXPECT_TRUE(form->m_memo->CanFocus());
+        EXPECT_EQ(form->ActiveControl(), form->m_btnOk);
+      } else {
         EXPECT_GE(form->m_lblInfo->Height(),
                   form->m_lblInfo->Widget()->heightForWidth(form->m_lblInfo->Width()) - 4)
             << size;
