@@ -343,6 +343,14 @@ TEST_F(BusinessObjects, ExportByTypeAndName) {
   corvane::Row head;
   head["ACCGRP"] = "x";
   corvane::List none;
+  host.libraries.SetAnswer(Library::kExcel, 2, fakehost::Refusal("ET90001"));
+  WhenShown<TFrmErrorMsg> report([](TFrmErrorMsg& message) {
+    EXPECT_EQ(message.Owner(), Application);
+    message.Close();
+  });
+  common.ExportRecords("a.xls", head, none, none, 1);
+  EXPECT_TRUE(report.Came());
+  head["ACCGRP"] = "x";
   common.ExportRecords("a.xml", head, none, none, 2);
   EXPECT_EQ(head.getValue("USERNAME") + head.getValue("QUERYUSER"), "OperatorUI50258");
   EXPECT_FALSE(head.hasField("ACCGRP") || head.hasField("CONDITION"));

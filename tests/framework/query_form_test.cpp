@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QTemporaryDir>
@@ -255,14 +256,13 @@ TEST_F(QueryForm, AsksBeforeItOverwritesAFile) {
   const struct {
     int filter;
     const char* name;
+    const char* written;
     bool exists;
     bool overwrite;
     std::uint32_t ordinal;  // of the spreadsheet library; 0: not called
-  } cases[] = {{1, "a.xls", false, false, 2},
-               {1, "b.xls", true, false, 0},
-               {1, "c.xls", true, true, 2},
-               {2, "d.txt", false, false, 5},
-               {3, "e.xml", false, false, 0}};
+  } cases[] = {{1, "a.xls", "a.xls", false, false, 2}, {1, "b.xls", "b.xls", true, false, 0},
+               {1, "c.xls", "c.xls", true, true, 2},   {2, "d", "d.txt", false, false, 5},
+               {3, "e", "e.xml", false, false, 0},     {1, "f", "f.xls", false, false, 2}};
   QTemporaryDir folder;
   Open();
   form->Fill({{"A", "B"}, {"0", "1"}});
@@ -280,8 +280,9 @@ TEST_F(QueryForm, AsksBeforeItOverwritesAFile) {
         auto* dialog = qobject_cast<QFileDialog*>(widget);
         if (dialog == nullptr || !dialog->isVisible()) continue;
         choose.stop();
-        form->m_sdOutput->SetFilterIndex(c.filter);
-        form->m_sdOutputTypeChange(form);
+        auto* types = dialog->findChild<QComboBox*>("fileTypeCombo");
+        types->setCurrentIndex(c.filter - 1);
+        Q_EMIT types->textActivated(types->currentText());
         dialog->selectFile(path);
         QMetaObject::invokeMethod(dialog, "accept");
       }
@@ -289,6 +290,7 @@ TEST_F(QueryForm, AsksBeforeItOverwritesAFile) {
     choose.start(5);
     const std::string question = MessageOf([&] { form->m_actOutput->Execute(); }, c.overwrite);
     EXPECT_EQ(question, c.exists ? "UI12572" : "") << c.name;
+    EXPECT_TRUE(form->m_sdOutput->FileName().ends_with(c.written)) << form->m_sdOutput->FileName();
     for (const std::uint32_t ordinal : {2u, 5u}) {
       EXPECT_EQ(host.libraries.CallsOf(Library::kExcel, ordinal).size(), c.ordinal == ordinal ? 1u : 0u)
           << c.name;

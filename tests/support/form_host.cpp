@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
 #include "host/error.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
@@ -59,6 +61,8 @@ FormHost::FormHost() {
   Application->OnException = [this](TObject*, std::exception_ptr error) {
     failures.push_back(TextOf(error));
   };
+  patience_.callOnTimeout([this] { CloseForgotten(); });
+  patience_.start(4000);
 }
 
 FormHost::~FormHost() {
@@ -67,6 +71,16 @@ FormHost::~FormHost() {
   End(g_pTranslate);
   End(g_pPubInfo);
   norvik_window_unregister(window_);
+}
+
+void FormHost::CloseForgotten() {
+  QWidget* modal = QApplication::activeModalWidget();
+  if (modal != nullptr && modal == unanswered_) {
+    ADD_FAILURE() << modal->objectName().toStdString() << " \"" << modal->windowTitle().toStdString()
+                  << "\" was not closed";
+    modal->close();
+  }
+  unanswered_ = modal;
 }
 
 void FormHost::SetText(const std::string& key, const char* text) {
@@ -98,9 +112,4 @@ TForm* ShownForm(const QMetaObject& type) {
     if (form->Showing() && form->metaObject()->inherits(&type)) return form;
   }
   return nullptr;
-}
-
-void CloseForgotten(TForm* form) {
-  ADD_FAILURE() << form->ClassName() << " \"" << form->Caption() << "\" was not closed";
-  form->Close();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <cstdint>
@@ -14,7 +15,8 @@
 
 /// The world that a form lives in: registered host libraries that answer by key, the services bound to them,
 /// the layer's Application, and a main window of the host that writes its messages down. One at a time,
-/// user-interface thread.
+/// user-interface thread. A modal window that nobody answers within four to eight seconds fails the test and
+/// is closed, so that a wrong answer never waits.
 class FormHost {
  public:
   struct Message {
@@ -48,16 +50,17 @@ class FormHost {
   std::vector<std::string> failures;
 
  private:
+  void CloseForgotten();
+
   std::uint32_t window_ = 0;
+  QTimer patience_;
+  QPointer<QWidget> unanswered_;
 };
 
 /// The shown form of a class, the last made first; null if there is none.
 TForm* ShownForm(const QMetaObject& type);
-/// Fails the test over a form that nobody closed, and closes it.
-void CloseForgotten(TForm* form);
 
-/// Does something with the first form of class T that is shown, as soon as it is, once. A form that is still
-/// open four seconds later fails the test and is closed.
+/// Does something with the first form of class T that is shown, as soon as it is, once.
 template <class T>
 class WhenShown {
  public:
@@ -77,14 +80,10 @@ class WhenShown {
     } else if (!came_) {
       came_ = true;
       step_(*form);
-    } else if (++looks_ > 800) {
-      timer_.stop();
-      CloseForgotten(form);
     }
   }
 
   std::function<void(T&)> step_;
   QTimer timer_;
   bool came_ = false;
-  int looks_ = 0;
 };
