@@ -32,10 +32,11 @@ endfunction()
 set(NORVIK_COMMON_HEADERS <QApplication> <QPointer> <QWidget> <algorithm> <functional> <map> <memory> <optional> <string>
     <vector>)
 
-# norvik_precompile(<target> <header>...): parses the headers once for all files of the target. Every file includes what
-# it needs all the same: the preset "release" builds without.
+# norvik_precompile(<target> <header>...): parses the headers once for all C++ files of the target. Every file includes
+# what it needs all the same: the preset "release" builds without.
 function(norvik_precompile target)
   if(NORVIK_PRECOMPILE)
+    list(TRANSFORM ARGN REPLACE "^<(.*)>$" "$<$<COMPILE_LANGUAGE:CXX>:<\\1$<ANGLE-R>>")
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
 endfunction()

@@ -18,6 +18,7 @@ constexpr int kWidth = 860;
 constexpr int kHeight = 520;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
+constexpr int kRowGap = 4;  // so that the form fits a low screen with a large font
 constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
 constexpr int kPurposeCharacters = 39;       // full-width ones in a line, 78 bytes
 constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
@@ -89,7 +90,7 @@ void TfrmEBillAuditFoot::BuildControls() {
 void TfrmEBillAuditFoot::BuildBasicInfo() {
   TGridLayout grid(m_pnBasicInfo);
   grid.SetMargins(kMargin, kGap, kMargin, kGap);
-  grid.SetSpacing(kGap);
+  grid.SetSpacing(kRowGap);
   grid.SetColumnStretch(1, 1);
   int row = 0;
   for (const Line& line : kLines) {

@@ -88,7 +88,11 @@ void TQueryForm::BuildFrame() {
   frame.Add(m_pnRightBottom);
   TColumnLayout center(m_pnCenter);
   center.SetSpacing(kFrameGap);
-  center.Add(m_pnlTop);
+  // With a large font the conditions scroll, so that the list and the buttons below it stay on the screen.
+  auto* conditions = NewComponent<TbsSkinScrollBox>(this, "m_sbxConditions");
+  conditions->SetKeepsWidth(true);
+  center.Add(conditions);
+  TColumnLayout(conditions).Add(m_pnlTop);
   center.Add(m_pnlData, 1);
 }
 

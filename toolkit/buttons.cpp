@@ -12,6 +12,21 @@
 #include "toolkit/menu.h"
 #include "toolkit/text.h"
 
+namespace {
+
+/// A push button of a usual width, but never narrower than its caption: a skin must not say the least width,
+/// since a layout takes that for enough, whatever the font.
+class PushButton : public QPushButton {
+ public:
+  QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({kLeastWidth, 0}); }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  static constexpr int kLeastWidth = 90;
+};
+
+}  // namespace
+
 void TbsSkinCustomButton::SetButton(QAbstractButton* button) {
   SetWidget(button);
   QObject::connect(button, &QAbstractButton::clicked, this, [this] { Pressed(); });
@@ -47,7 +62,7 @@ void TbsSkinCustomButton::ActionChange(const TAction& action) {
 }
 
 TbsSkinButton::TbsSkinButton(TComponent* owner) : TbsSkinCustomButton(owner) {
-  auto* button = new QPushButton;
+  auto* button = new PushButton;
   button->setAutoDefault(false);
   SetButton(button);
   SetTabStop(true);
@@ -70,15 +85,6 @@ TbsSkinSpeedButton::TbsSkinSpeedButton(TComponent* owner) : TbsSkinCustomButton(
   button->setFocusPolicy(Qt::NoFocus);
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   SetButton(button);
-}
-
-void TbsSkinSpeedButton::SetShowCaption(bool show) {
-  auto* button = static_cast<QToolButton*>(Button());
-  if (button == nullptr) return;
-  button->setToolButtonStyle(show ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
-  if (show || !Hint().empty()) return;
-  SetHint(Caption());
-  SetShowHint(true);
 }
 
 TbsSkinMenuButton::TbsSkinMenuButton(TComponent* owner) : TbsSkinButton(owner) {

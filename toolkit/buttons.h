@@ -61,9 +61,6 @@ class TbsSkinSpeedButton : public TbsSkinCustomButton {
  public:
   explicit TbsSkinSpeedButton(TComponent* owner);
 
-  /// Whether the caption shows beside the picture; on at the start. Off, it shows as the hint.
-  void SetShowCaption(bool show);
-
  protected:
   QWidget* FocusWidget() const override { return nullptr; }
 };

@@ -29,6 +29,9 @@ class TCustomComboBox::Box : public QComboBox {
     setFocusPolicy(Qt::StrongFocus);
   }
 
+  /// Both hints are the same here, but Qt keeps the smallest one when the font changes.
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
   void showPopup() override {
     view()->setTextElideMode(Qt::ElideRight);
     QComboBox::showPopup();

@@ -163,6 +163,10 @@ QSize TListTree::minimumSizeHint() const {
   return {QTreeView::minimumSizeHint().width(), height};
 }
 
+QSize TListTree::sizeHint() const {
+  return {QTreeView::sizeHint().width(), minimumSizeHint().height()};
+}
+
 void TListTree::mousePressEvent(QMouseEvent* event) {
   const QPointer<TListTree> self(this);
   QTreeView::mousePressEvent(event);

@@ -21,6 +21,8 @@ class TListTree : public QTreeView {
   void ShowSelection();
   /// Leaves room for a few rows, whatever the font.
   QSize minimumSizeHint() const override;
+  /// No higher than that: a list takes the room that others leave over.
+  QSize sizeHint() const override;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

@@ -1,14 +1,17 @@
 #include "toolkit/panels.h"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "toolkit/application.h"
 #include "toolkit/text.h"
@@ -27,6 +30,42 @@ QVBoxLayout* BareColumn(QWidget* widget) {
   column->setSpacing(0);
   return column;
 }
+
+/// As large as what it holds where there is room, and as small as its scroll bars where there is none. What
+/// gets the focus comes into sight.
+class ScrollArea : public QScrollArea {
+ public:
+  explicit ScrollArea(QWidget* client) {
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(client);
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+      if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
+    });
+  }
+  void KeepWidth(bool keeps) {
+    keeps_width_ = keeps;
+    updateGeometry();
+  }
+  QSize minimumSizeHint() const override {
+    const QSize least = QScrollArea::minimumSizeHint();
+    if (!keeps_width_ || widget() == nullptr) return least;
+    const int content = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::min(content, screen()->availableSize().width() - kBesideIt), least.height()};
+  }
+  QSize sizeHint() const override { return widget() == nullptr ? QSize() : widget()->sizeHint(); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+
+ private:
+  static constexpr int kBesideIt = 40;  // of the screen, for the form's margins and frame
+  bool keeps_width_ = false;
+};
 
 }  // namespace
 
@@ -136,15 +175,15 @@ void TbsSkinExPanel::FontChanged() {
 }
 
 TbsSkinScrollBox::TbsSkinScrollBox(TComponent* owner) : TbsSkinControl(owner), client_(new QWidget) {
-  auto* area = new QScrollArea;
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setWidget(client_);
+  auto* area = new ScrollArea(client_);
   SetSkinRole(area, "scroll");
   SetSkinRole(client_, "scroll-client");
   SetWidget(area);
   client_->installEventFilter(this);
+}
+
+void TbsSkinScrollBox::SetKeepsWidth(bool keeps) {
+  if (Widget() != nullptr) static_cast<ScrollArea*>(Widget())->KeepWidth(keeps);
 }
 
 TbsSkinScrollBar::TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind)

@@ -99,13 +99,16 @@ class TbsSkinExPanel : public TbsSkinControl {
   int open_height_ = 0;
 };
 
-/// A container that scrolls when what it holds is higher than itself.
+/// A container that asks for the size of what it holds, and scrolls where it gets less. A control in it that
+/// gets the focus is scrolled into sight.
 class TbsSkinScrollBox : public TbsSkinControl {
   Q_OBJECT
 
  public:
   explicit TbsSkinScrollBox(TComponent* owner);
   QWidget* ClientWidget() const override { return client_; }
+  /// Whether the box is at least as wide as what it holds, as far as the screen allows; off at the start.
+  void SetKeepsWidth(bool keeps);
 
  protected:
   QWidget* FocusWidget() const override { return nullptr; }

@@ -146,21 +146,6 @@ TEST_F(BankTest, HonoursTheConditionsOfApplicationsAndEvents) {
   EXPECT_EQ(Query("CB200330", {{"BSNFLOW", flow}}).size(), 1u);
 }
 
-TEST_F(BankTest, GivesTheFieldsOfABill) {
-  Statement bill = database_.Prepare(
-      "SELECT b.BILLNUM, b.CENTS, c.ACCNM, i.AGTBNAM FROM bill b JOIN account c ON c.ACCNO = b.CUSTACC JOIN "
-      "institution i "
-      "USING (AGTBHNM) WHERE b.ID = 7");
-  ASSERT_TRUE(bill.Step());
-  const corvane::List list = Query("CB200310", {{"BILLNUM", std::string(bill.Text(0))}});
-  ASSERT_EQ(list.size(), 1u);
-  const std::string amount = list[0].getValue("PAYAMT");
-  EXPECT_EQ(CentsOf(amount), bill.Number(1)) << amount;
-  EXPECT_EQ(amount[amount.size() - 3], '.');
-  EXPECT_EQ(norvik::Utf8FromAnsi(list[0].getValue("CUSTNAM")), bill.Text(2));
-  EXPECT_EQ(norvik::Utf8FromAnsi(list[0].getValue("AGTBNAM")), bill.Text(3));
-}
-
 TEST_F(BankTest, AnswersForTheAccountsAskedForAlone) {
   const auto ask = [this](const std::vector<std::string>& groups) {
     corvane::CorvaneStream answer(bank_.Exchange("EBBADQDB", Request("CB200310", {}, groups)));
@@ -210,18 +195,6 @@ TEST_F(BankTest, RefusesAWrongRequestByKeyAndPlace) {
   };
   for (const auto& [business, fields, refusal] : cases) {
     EXPECT_EQ(query(fields, business), refusal) << fields.begin()->first << "=" << fields.begin()->second;
-  }
-}
-
-TEST_F(BankTest, RefusesARequestThatLacksAnyField) {
-  for (const char* field : kFields) {
-    corvane::CorvaneStream request(Request("CB200310", {}, Groups()));
-    corvane::CorvaneStream shorter;
-    for (const auto& [name, value] : request.getFields()) {
-      if (name != field) shorter.addField(value);
-    }
-    shorter.addList(request.getList("resultList"));
-    EXPECT_EQ(RefusalOf("EBBADQDB", shorter.toString()), field + std::string("\r\nBK30003"));
   }
 }
 

@@ -94,15 +94,6 @@ TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
   EXPECT_EQ(std::to_string(result.getList("resultList").size()), large[3]);
 }
 
-TEST_F(EnquiriesTest, GiveAnEmptyListForABillWithoutRecords) {
-  const auto bill =
-      First("SELECT BILLSID, CUSTACC FROM bill WHERE BILLSID <> '' AND ID NOT IN (SELECT BILL FROM enquiry)");
-  corvane::CorvaneStream answer =
-      Ask("EBBADEHQ", {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[1]}});
-  EXPECT_EQ(answer.getValue("TOTALNM"), "0");
-  EXPECT_EQ(answer.getList("resultList").size(), 0u);
-}
-
 TEST_F(EnquiriesTest, RefuseWhatNamesNoBillOfTheAccount) {
   const auto bill = First("SELECT BILLSID, CUSTACC, BILLNUM FROM bill WHERE BILLSID <> ''");
   const auto other = First("SELECT CUSTACC FROM bill WHERE CUSTACC <> '" + bill[1] + "'");

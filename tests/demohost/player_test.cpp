@@ -2,24 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QImage>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
-
-#include "tests/demohost/folder.h"
 
 namespace demohost {
 namespace {
@@ -58,13 +53,6 @@ class Screen : public QWidget {
     bound->setProperty("action", "m_actQuery");
     connect(bound, &QPushButton::clicked, this, [this] { ++queries; });
     Add<QPushButton>(layout, "m_btnOff")->setEnabled(false);
-    list->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(list, &QWidget::customContextMenuRequested, this, [this] {
-      auto* menu = new QMenu(this);
-      menu->setAttribute(Qt::WA_DeleteOnClose);
-      menu->addAction("Sum", this, [this] { ++sums; })->setObjectName("m_actSum");
-      menu->popup(QPoint(10, 10));
-    });
   }
 
   void Ask(const QString& question) {
@@ -77,7 +65,6 @@ class Screen : public QWidget {
               [&dialog, name] { dialog.done(QLatin1String(name) == QLatin1String("m_btnOk")); });
     }
     answer = dialog.exec();
-    if (answer == 1 && question.startsWith("Really")) Ask("Really really?");
   }
 
   // A picture of something at work, longer than a script is patient, and then a question.
@@ -103,7 +90,7 @@ class Screen : public QWidget {
   QTreeView* list;
   QPushButton* ask;
   QStandardItemModel model;
-  int activated = -1, queries = 0, sums = 0, answer = -1;
+  int activated = -1, queries = 0, answer = -1;
 };
 
 struct Played {
@@ -165,38 +152,6 @@ TEST_F(PlayerTest, WorksTheControlsAsAnOperatorDoes) {
   EXPECT_EQ(screen_.states->selectedItems().size(), 3);
 }
 
-TEST_F(PlayerTest, KeysGoToTheOpenMenuOrListOfChoices) {
-  Run("select m_cbxAcc all\nkey Alt+Down\nkey Down\nkey Return\nexpect text m_cbxAcc 1001-甲公司\n"
-      "select m_cbxAcc all\nkey Alt+Down\nkey Down\nkey Escape\nexpect text m_cbxAcc all\nkey Down\n"
-      "expect text m_cbxAcc 1001-甲公司\n");
-  QMenu menu;
-  int taken = 0;
-  menu.addAction("first");
-  menu.addAction("second", &screen_, [&taken] { ++taken; });
-  menu.popup(QPoint(10, 10));
-  Run("key Down\nkey Down\nkey Return\nexpect text m_cbxAcc 1001-甲公司\n");
-  EXPECT_EQ(taken, 1);
-}
-
-TEST_F(PlayerTest, FindsAnActionInTheMenuOfTheList) {
-  Run("start m_actSum\n");
-  EXPECT_EQ(screen_.sums, 1);
-  const Folder folder;
-  const std::string file = (folder / "menu.png").string();
-  screen_.list->customContextMenuRequested({});
-  Run(QString::fromStdString("picture " + file + "\nkey Escape\nexpect rows 4\n"));
-  EXPECT_LT(QImage(QString::fromStdString(file)).width(), screen_.width());
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST_F(PlayerTest, AnswersDialogsThatOpenInsideEachOther) {
-  Run("press m_btnAsk\nexpect dialog \"delete?\"\nanswer m_btnOk \"Really delete?\"\nanswer m_btnNo \"Really "
-      "really?\"\nexpect dialog none\n");
-  EXPECT_EQ(screen_.answer, 0);
-  Run("press m_btnAsk\nanswer m_btnNo\nset m_edNo 5\n");
-  EXPECT_EQ(screen_.edit->text(), "5");
-}
-
 TEST_F(PlayerTest, TakesABusyPictureForNoDialog) {
   Run("press m_btnWork\nanswer m_btnOk Done?\n");
   EXPECT_EQ(screen_.answer, 1);
@@ -225,7 +180,6 @@ TEST_F(PlayerTest, FailsWithThePlaceAndTheReason) {
     const Played played = Play(script);
     EXPECT_EQ(played.end, ScriptEnd::kFailed) << script;
     EXPECT_EQ(played.reason.toStdString(), reason);
-    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   }
 }
 
@@ -237,16 +191,6 @@ TEST_F(PlayerTest, NeverHangsInADialogWithoutAnAnswer) {
   const Played over = Play("press m_btnAsk\n");
   EXPECT_EQ(over.reason.toStdString(),
             "the end: the script is over; this dialog waits for an answer:  | Really delete?");
-}
-
-TEST_F(PlayerTest, PrintsTheListAndTakesPictures) {
-  const Folder folder;
-  const QString file = QString::fromStdString((folder / "pictures/a.png").string());
-  const Played played = Play("print 2\npicture " + file + "\nexpect file " + file + "\n");
-  EXPECT_EQ(played.end, ScriptEnd::kPlayed) << played.reason.toStdString();
-  EXPECT_EQ(played.output.toStdString(),
-            "票号  金额\n----  ----\nB1    100\nB2    200\n4 rows, 2 more not printed\npicture: " +
-                file.toStdString() + "\n");
 }
 
 }  // namespace

@@ -46,23 +46,6 @@ TEST(Script, NamesTheLineAndTheReasonOfAFault) {
   }
 }
 
-TEST(Script, ReadsRowNumbers) {
-  EXPECT_EQ(ParseNumbers("1,3-5"), (std::vector<int>{1, 3, 4, 5}));
-  EXPECT_EQ(ParseNumbers("7"), std::vector<int>{7});
-  for (const char* bad : {"", "a", "1-", "1-2-3", "-1", "1,,2"}) {
-    EXPECT_THROW(ParseNumbers(bad), std::invalid_argument) << bad;
-  }
-}
-
-TEST(AlignedTable, CountsTheWidthOfChinese) {
-  const struct {
-    const char* text;
-    int width;
-  } cases[] = {{"", 0},        {"abc", 3}, {"票号", 4}, {"ＡＢ：", 6}, {"a票b", 4},
-               {"e\u0301", 1}, {"、", 2},  {"€", 1},    {"𠀀", 2}};
-  for (const auto& [text, width] : cases) EXPECT_EQ(DisplayWidth(text), width) << text;
-}
-
 TEST(AlignedTable, LaysColumnsOut) {
   const QString table = AlignedTable({{"票号", false}, {"Amount", true}, {"状态", false}},
                                      {{"31", "5.00", "在库"}, {"x\ty\n", "1234567.50", ""}, {"short"}});

@@ -17,18 +17,6 @@
 namespace demohost {
 namespace {
 
-TEST(Options, HaveTheirDefaults) {
-  QString message;
-  const auto options = ParseOptions({"/proc/self/exe"}, message);
-  ASSERT_TRUE(options);
-  EXPECT_EQ(options->module.filename(), "NorvikQry.so");
-  EXPECT_EQ(options->data.filename(), "norvik-demohost");
-  EXPECT_NE(options->data, options->config);
-  EXPECT_EQ(options->bills, 10000);
-  EXPECT_EQ(DayText(options->today), "20260615");
-  EXPECT_TRUE(options->script.isEmpty());
-}
-
 TEST(Options, AreReadFromTheCommandLine) {
   QString message;
   const auto options = ParseOptions(

@@ -4,6 +4,7 @@
 #include "demohost/client_data.h"
 #include "demohost/info_store.h"
 #include "demohost/refusals.h"
+#include "demohost/text_file.h"
 #include "platform/code_page.h"
 #include "tests/demohost/folder.h"
 
@@ -124,17 +125,6 @@ TEST(ClientData, FillsTheStoreFromTheTables) {
   corvane::List accounts = store.GetList("CMLGBSNACC");
   EXPECT_EQ(accounts.select("FLOWID", corvane::StringVector("F31001", "|", false)).size(), 2u);
   EXPECT_FALSE(store.GetList("CMLGUSERINFO")[0].getValue("OPRNO").empty());
-}
-
-TEST(ClientData, KnowsEveryColumnOfTheScreensFromTheShippedTables) {
-  const Tables tables = ReadTables(DEMOHOST_TEST_SHARE);
-  for (const char* form : {"TfrmNorvikQry", "TfrmNorvikELoanQry", "TfrmNorvikDTLQry"}) {
-    EXPECT_FALSE(tables.columns.at(form).empty()) << form;
-  }
-  for (const char* dictionary :
-       {"AGENTSTT", "BILLTYPE", "YESORNO", "BANKRMK", "LOANRESULT", "LOANTYPEAPP", "BUSITYPE", "TRANSMK"}) {
-    EXPECT_FALSE(tables.dictionaries.at(dictionary).empty()) << dictionary;
-  }
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <regex>
 #include <set>
 
@@ -86,25 +85,6 @@ TEST(Texts, EachLineIsAKeyOnceAndASoundText) {
   }
 }
 
-TEST(Texts, TheFaultFinderFindsFaults) {
-  const struct {
-    const char* text;
-    const char* fault;
-  } kCases[] = {
-      {"", "empty text"},
-      {"Query ", "blank at an end"},
-      {" Query", "blank at an end"},
-      {"Query\r", "blank at an end"},
-      {"a\tb", "control character"},
-      {"a\\qb", "unknown escape"},
-      {"a\\", "unknown escape"},
-      {"\xF0\x9F\x98\x80", "character outside the code page"},
-      {"\xE4\xBB\xA3\xE4\xBF\x9D\xE7\xAE\xA1 \\n\\t\\\\", ""},
-      {"\xE5\xB8\xB3\xE8\x99\x9F", ""},
-  };
-  for (const auto& row : kCases) EXPECT_EQ(Fault(row.text), row.fault) << row.text;
-}
-
 TEST(Texts, NumberedKeysStandInOrder) {
   for (const std::string& language : kLanguages) {
     std::string before;
@@ -179,33 +159,6 @@ TEST(Dictionaries, CodesAreDistinctAndInTheOrderOfTheBoxes) {
       ASSERT_EQ(row.size(), 2U) << section << " " << row.at(0);
       EXPECT_LT(before, row[0]) << section;
       before = row[0];
-    }
-  }
-}
-
-TEST(Dictionaries, HoldWhatTheScreensAskFor) {
-  const struct {
-    const char* dictionary;
-    std::vector<std::string> codes;
-  } kCases[] = {
-      {"AGENTSTT", {"02", "03", "07", "09", "10", "D0", "C0", "12"}},
-      {"BILLTYPE", {"-9999", "AC01", "AC02"}},
-      {"BANKRMK", {"-9999"}},
-      {"LOANRESULT", {"-9999"}},
-      {"LOANTYPEAPP", {"-9999"}},
-      {"BUSITYPE", {"-9999"}},
-      {"YESORNO", {"0", "1"}},
-      {"TRANSMK", {}},
-      {"SIGNINFOTYPE", {}},
-  };
-  const Table table = ReadTable("businessdict.txt");
-  for (const auto& row : kCases) {
-    const auto section = table.find(row.dictionary);
-    ASSERT_NE(section, table.end()) << row.dictionary;
-    for (const std::string& code : row.codes) {
-      const bool found = std::any_of(section->second.begin(), section->second.end(),
-                                     [&](const auto& entry) { return entry[0] == code; });
-      EXPECT_TRUE(found) << row.dictionary << " " << code;
     }
   }
 }

@@ -127,21 +127,6 @@ class MainWindowTest : public testing::Test {
   MainWindow window_;
 };
 
-TEST_F(MainWindowTest, SpeaksThreeLanguages) {
-  const struct {
-    const char* language;
-    const char* title;
-    const char* menu;
-  } cases[] = {{"Simplified Chinese", "企业网银客户端", "业务"},
-               {"English", "Corporate banking client", "Business"}};
-  for (const auto& [language, title, menu] : cases) {
-    Show(language);
-    EXPECT_EQ(window_.windowTitle(), title);
-    EXPECT_EQ(window_.menuBar()->actions()[0]->text(), menu);
-    EXPECT_EQ(window_.menuBar()->actions().size(), 4);
-  }
-}
-
 TEST_F(MainWindowTest, PicksItemsAndSettings) {
   Show("English");
   Entry(0, "second")->trigger();

@@ -242,43 +242,6 @@ TEST_F(ColumnLayout, TheNextFillBuildsTheColumnsThatCouldNotBeToldAtFirst) {
   EXPECT_EQ(Save(), "not saved") << "a form without columns keeps the layout that there is";
 }
 
-TEST_F(ColumnLayout, ATickInALongListIsCountedWithTheOthers) {
-  for (const char* key : {"UI52150", "UI52148", "UI52140", "UI52142", "UI52144", "UI53030"})
-    host.SetText(key, key);
-  constexpr int kRows = 10000;
-  host.SetLayout(kForm, {});
-  Open();
-  corvane::List rows = ScreenHost::ListOf({{"NO", "AMOUNT", "STT", "LASTOPRNO"}});
-  corvane::Row row;
-  row["NO"] = "B";
-  row["AMOUNT"] = "5.25";
-  row["STT"] = "UI52140";
-  row["LASTOPRNO"] = "007";
-  for (int i = 0; i < kRows; ++i) rows.addRow(row);
-  form->Fill(rows);
-  form->m_crbAllCheck->SetChecked(true);
-  form->SelectAll(form);
-  EXPECT_TRUE(form->m_actDelete->Enabled());
-  form->m_crbAllCheck->SetChecked(false);
-  form->SelectAll(form);
-  // One by one, too.
-  QAbstractItemModel* model = View()->model();
-  for (int i = 0; i < kRows; i += 10) model->setData(model->index(i, 0), Qt::Checked, Qt::CheckStateRole);
-  EXPECT_EQ(form->m_lvMain->CheckedCount(), kRows / 10);
-  EXPECT_TRUE(form->m_actDelete->Enabled());
-  EXPECT_FALSE(form->m_actReason->Enabled());
-  corvane::Property other(row);
-  other["STT"] = "UI52148";
-  form->m_lvMain->Modify(other, form->m_lvMain->ColumnIds(), form->m_lvMain->Items()[10]);
-  form->m_lvMainItemCheck(form, form->m_lvMain->Items()[0]);
-  EXPECT_FALSE(form->m_actDelete->Enabled());
-  EXPECT_TRUE(form->m_actReason->Enabled());
-  form->m_lvMain->DelItem(10);
-  form->m_lvMainItemCheck(form, form->m_lvMain->Items()[0]);
-  EXPECT_TRUE(form->m_actDelete->Enabled());
-  EXPECT_FALSE(form->m_actReason->Enabled());
-}
-
 }  // namespace
 
 #include "column_layout_test.moc"

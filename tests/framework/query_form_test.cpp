@@ -344,11 +344,16 @@ TEST_F(QueryForm, KeepsTheLayoutUntilItIsDestroyed) {
   form->Close();
   EXPECT_EQ(host.Stored(80, "COLUMN_INFO").size(), 0u);
   columns[2]->SetWidth(77);
+  // Another screen has stored its layout meanwhile.
+  corvane::Iniplus newer;
+  newer.addSection("TOther", ScreenHost::ListOf({{"ColumnID"}, {"KEPT"}, {"NEW"}}));
+  host.libraries.SetAnswer(Library::kPublicInformation, 82, {"COLUMN_INFO"},
+                           fakehost::Text(newer.toString()));
   DestroyForm(form);
   const auto stored = host.Stored(80, "COLUMN_INFO");
   ASSERT_EQ(stored.size(), 1u);
   const corvane::Iniplus layouts(stored[0].arguments.at(1));
-  EXPECT_EQ(layouts.getSection("TOther").size(), 1u);
+  EXPECT_EQ(layouts.getSection("TOther").size(), 2u);
   std::string saved;
   for (const corvane::Row& row : layouts.getSection("TfrmSmallQry")) {
     saved += row.getValue("ColumnID") + row.getValue("ColumnWidth") + row.getValue("ColumnCaption") +
@@ -398,6 +403,10 @@ TEST_F(QueryForm, RebuildsTheColumnsFromTheDialog) {
     dialog.m_btnUp->Click();
     EXPECT_EQ(list->Items()[1]->Caption(), "UI44005");
     EXPECT_TRUE(dialog.m_btnDown->Enabled());
+    dialog.m_btnUp->Click();
+    EXPECT_EQ(list->Items()[0]->Caption(), "UI44005") << "the first place can be reached";
+    EXPECT_FALSE(dialog.m_btnUp->Enabled());
+    dialog.m_btnDown->Click();
     list->Items()[2]->SetChecked(false);
     list->Items()[0]->SetChecked(false);
     EXPECT_EQ(MessageOf([&] { dialog.m_btnConfirm->Click(); }), "UI60006");

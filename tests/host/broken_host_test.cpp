@@ -248,29 +248,21 @@ TEST(BrokenHost, OnlyTheLowEightBitsOfAResultCount) {
 
 TEST(BrokenHost, ATextWithANulIsRefusedBeforeAnythingIsSent) {
   std::vector<Operation> operations = All();
-  for (const Operation& more : std::vector<Operation>{
-           {"GetHandle", {}, 0, "", [](auto&s, auto&text) { s.pubInfo.GetHandle(text); }},
-           {"SetHandle", {}, 0, "", [](auto&s, auto&text) { s.pubInfo.SetHandle(text, 1); }},
-           {"SetIni", {}, 0, "", [](auto&s, auto&text) { s.pubInfo.SetIni(text, corvane::Ini()); }},
-           {"SetIniplus",
-            {},
-            0,
-            "",
-            [](auto&s, auto&text) { s.pubInfo.SetIniplus(text, corvane::Iniplus()); }},
-           {"GetField", {}, 0, "", [](auto&s, auto&text) { s.pubInfo.GetField(text, "name"); }},
-           {"GetIniValue", {}, 0, "", [](auto&s, auto&text) { s.pubInfo.GetIniValue("k", text, "i"); }},
-           {"Translate", {}, 0, "", [](auto&s, auto&text) { s.translate->Translate(text); }},
-           {"Lookup", {}, 0, "", [](auto&s, auto&text) { s.translate->Lookup(text, "UI12002"); }},
-           {"SendText", {}, 0, "", [](auto&s, auto&text) { s.safeCom->SendText(text, "<stream/>", 1); }},
-           {"ExportText",
-            {},
-            0,
-            "",
-            [](auto&s,
-               auto&text) { s.excel->ExportText("path", corvane::Row(), NoRows(), NoRows(), text, 2); }},
-           {"PrintSetup", {}, 0, "", [](auto&s, auto&text) { s.print->PrintSetup(text); }}}) {
-    operations.push_back(more);
-  }
+  const auto add = [&](const char* name, std::function<void(Services&, const std::string&)> call) {
+    operations.push_back({name, {}, 0, "", std::move(call)});
+  };
+  add("GetHandle", [](auto& s, auto& text) { s.pubInfo.GetHandle(text); });
+  add("SetHandle", [](auto& s, auto& text) { s.pubInfo.SetHandle(text, 1); });
+  add("SetIni", [](auto& s, auto& text) { s.pubInfo.SetIni(text, corvane::Ini()); });
+  add("SetIniplus", [](auto& s, auto& text) { s.pubInfo.SetIniplus(text, corvane::Iniplus()); });
+  add("GetField", [](auto& s, auto& text) { s.pubInfo.GetField(text, "name"); });
+  add("GetIniValue", [](auto& s, auto& text) { s.pubInfo.GetIniValue("k", text, "i"); });
+  add("Translate", [](auto& s, auto& text) { s.translate->Translate(text); });
+  add("Lookup", [](auto& s, auto& text) { s.translate->Lookup(text, "UI12002"); });
+  add("SendText", [](auto& s, auto& text) { s.safeCom->SendText(text, "<stream/>", 1); });
+  add("ExportText",
+      [](auto& s, auto& text) { s.excel->ExportText("path", corvane::Row(), NoRows(), NoRows(), text, 2); });
+  add("PrintSetup", [](auto& s, auto& text) { s.print->PrintSetup(text); });
   for (const auto& operation : operations) {
     FakeHost host;
     Services services(host);

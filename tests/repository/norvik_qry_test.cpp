@@ -370,51 +370,19 @@ TEST_F(NorvikQry, LeadsTheKeyboardThroughAllItHas) {
 
 TEST_F(NorvikQry, BearsTheCaptionsOfItsTable) {
   Open();
-  const struct {
-    const char* control;
-    std::string caption;
-  } cases[] = {
-      {"m_lbAcc", "UI44003"},
-      {"m_lbBankNo", "UI44001"},
-      {"m_lbBatNo", "UI44004"},
-      {"m_lbSTT", "UI44005"},
-      {"m_lbBillId", "UI44006"},
-      {"m_lbNo", "UI44008"},
-      {"m_lbType", "UI44007"},
-      {"m_lbStorageStartDate", "UI44010"},
-      {"m_lbStorageEndDate", "UI44011"},
-      {"m_lbBackName", "UI44304"},
-      {"m_lbBankRmk", Ansi("银行备注")},
-      {"m_lbDeadStartDate", "UI44302"},
-      {"m_lbDeadEndDate", "UI44303"},
-      {"m_lbMinAmount", "UI44498"},
-      {"m_lbMaxAmount", "UI44499"},
-      {"m_lbStarlAgentAcc", "*"},
-      {"Label1", "*"},
-      {"Label2", "*"},
-      {"Label3", "*"},
-      {"m_rgSelDate", "UI40109"},
-      {"m_pnlNormal", "UI40305"},
-      {"m_pnlAdvance", "UI40306"},
-      {"m_tbHideColumn", "UI40922"},
-      {"m_tbSendToDesktop", "UI40923"},
-      {"m_tbExport", "UI43006"},
-      {"m_spdQuery", "UI12501"},
-      {"m_spdSum", "UI12580"},
-      {"m_crbAllCheck", "UI12506"},
-      {"m_btnClose", "UI12517"},
-      {"m_btnTicketInfo", "UI44316"},
-      {"m_btnECDSSignInfo", "UI44317"},
-      {"m_btnECDSHistoryInfo", "UI44318"},
-      {"m_btnBigResult", "UI44319"},
-  };
-  for (const auto& c : cases) {
-    auto* control = dynamic_cast<TControl*>(form->FindComponent(c.control));
-    ASSERT_NE(control, nullptr) << c.control;
-    EXPECT_EQ(control->Caption(), c.caption) << c.control;
-    EXPECT_EQ(control->Font()->Color() == clRed, c.caption == "*") << c.control;
-  }
-  EXPECT_EQ(form->Caption(), "UI25826");
+  ExpectCaptions(
+      *form,
+      "=UI25826 m_lbAcc=UI44003 m_lbBankNo=UI44001 m_lbBatNo=UI44004 m_lbSTT=UI44005 m_lbBillId=UI44006 "
+      "m_lbNo=UI44008 m_lbType=UI44007 m_lbStorageStartDate=UI44010 m_lbStorageEndDate=UI44011 "
+      "m_lbBackName=UI44304 m_lbDeadStartDate=UI44302 m_lbDeadEndDate=UI44303 m_lbMinAmount=UI44498 "
+      "m_lbMaxAmount=UI44499 m_rgSelDate=UI40109 m_pnlNormal=UI40305 m_pnlAdvance=UI40306 "
+      "m_tbHideColumn=UI40922 m_tbSendToDesktop=UI40923 m_tbExport=UI43006 m_spdQuery=UI12501 "
+      "m_spdSum=UI12580 m_crbAllCheck=UI12506 m_btnClose=UI12517 m_btnTicketInfo=UI44316 "
+      "m_btnECDSSignInfo=UI44317 m_btnECDSHistoryInfo=UI44318 m_btnBigResult=UI44319 m_lbBankRmk=" +
+          Ansi("银行备注"));
+  ExpectCaptions(*form, "m_lbStarlAgentAcc=* Label1=* Label2=* Label3=*");
+  for (const char* star : {"m_lbStarlAgentAcc", "Label1", "Label2", "Label3"})
+    EXPECT_EQ(static_cast<TLabel*>(form->FindComponent(star))->Font()->Color(), clRed) << star;
   std::string items;
   for (std::size_t i = 0; i < form->m_rgSelDate->Items().Count(); ++i) items += form->m_rgSelDate->Items()[i];
   EXPECT_EQ(items, "UI40110UI40111UI40112UI40113UI40114");

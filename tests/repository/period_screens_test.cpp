@@ -43,10 +43,6 @@ struct Opened {
            std::to_string(stream.getFields().size());
   }
 
-  std::string CaptionOf(const char* label) const {
-    const auto* found = dynamic_cast<TLabel*>(form->FindComponent(label));
-    return found == nullptr ? "" : found->Caption();
-  }
   // The row that the screen makes of an answer's row.
   corvane::Property Shown(const ScreenHost::Table& row) {
     SetDates("20260101", "20260102");
@@ -140,39 +136,25 @@ TEST(NorvikDtlQry, SendsItsConditions) {
 }
 
 TEST(PeriodScreens, CaptionTheirConditions) {
-  const std::string remark = Ansi("银行备注");
-  const struct {
-    const char* label;
-    std::string ofLoans, ofEvents;  // empty: the screen has no such label
-  } cases[] = {
-      {"m_lbAcc", "UI44003", "UI44003"},
-      {"m_lbBankNo", "UI44001", "UI44001"},
-      {"m_lbNo", "UI44008", "UI44008"},
-      {"m_lbType", "UI44007", "UI44007"},
-      {"m_lbLoanNo", "UI44474", ""},
-      {"m_lbLoanType", "UI44475", "UI44496"},
-      {"m_lbLoanResult", "UI44476", ""},
-      {"m_lbBillId", "", "UI44006"},
-      {"m_lbFlowNo", "", "UI44497"},
-      {"m_lbBankRmk", remark, remark},
-      {"m_lbStartDate", "UI44477", "UI44556"},
-      {"m_lbEndDate", "UI44478", "UI44557"},
-      {"Label1", "*", ""},
-      {"Label2", "*", "*"},
-      {"Label3", "*", "*"},
-      {"Label4", "*", ""},
-      {"m_lbeee", "", "*"},
-  };
+  const std::string shared =
+      "m_lbAcc=UI44003 m_lbBankNo=UI44001 m_lbNo=UI44008 m_lbType=UI44007 Label2=* Label3=* "
+      "m_lbBankRmk=" +
+      Ansi("银行备注");
   {
     Opened<TfrmNorvikELoanQry> loans;
-    for (const auto& c : cases) EXPECT_EQ(loans.CaptionOf(c.label), c.ofLoans) << c.label;
-    EXPECT_EQ(loans.form->Caption(), "UI25828");
+    ExpectCaptions(*loans.form, shared);
+    ExpectCaptions(
+        *loans.form,
+        "=UI25828 m_lbLoanNo=UI44474 m_lbLoanType=UI44475 m_lbLoanResult=UI44476 m_lbStartDate=UI44477 "
+        "m_lbEndDate=UI44478 Label1=* Label4=*");
     EXPECT_EQ(loans.form->m_edNo->InputRule().max_length, 16);
     EXPECT_EQ(loans.form->m_edLoanNo->InputRule().max_length, 18);
   }
   Opened<TfrmNorvikDTLQry> events;
-  for (const auto& c : cases) EXPECT_EQ(events.CaptionOf(c.label), c.ofEvents) << c.label;
-  EXPECT_EQ(events.form->Caption(), "UI25830");
+  ExpectCaptions(*events.form, shared);
+  ExpectCaptions(*events.form,
+                 "=UI25830 m_lbLoanType=UI44496 m_lbBillId=UI44006 m_lbFlowNo=UI44497 m_lbStartDate=UI44556 "
+                 "m_lbEndDate=UI44557 m_lbeee=*");
   EXPECT_EQ(events.form->m_edBillId->InputRule().max_length, 20);
   EXPECT_EQ(events.form->m_edFlowNo->InputRule().max_length, 18);
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <sstream>
 
 #include "repository/app_qry_info.h"
 #include "repository/detail_qry_info.h"
@@ -86,73 +87,58 @@ TEST_F(RecordInfoForm, ShowsValuesAsTheyStand) {
 }
 
 TEST_F(RecordInfoForm, HasTheRowsOfItsKind) {
-  // B: of a bill, A: of an application, E: of an event. A bill's type and payer are told above.
+  // B: of a bill, A: of an application, E: of an event; the rows as name=caption=field. A bill's type and
+  // payer are told above.
   const struct {
-    const char* row;
-    const char* caption;
-    const char* field;
     std::string_view kinds;
+    const char* rows;
   } cases[] = {
-      {"m_lbTicketNo", "UI44307", "BILLNUM", "BAE"},
-      {"m_lbBillId", "票据ID", "BILLSID", "BAE"},
-      {"m_lbOutData", "UI44342", "ISSDATE", "BAE"},
-      {"m_lbDeadData", "UI44343", "DUEDATE", "BAE"},
-      {"m_lbMoney", "UI44344", "PAYAMT", "BAE"},
-      {"m_lbOuterNM", "UI44345", "DRWRNAM", "BAE"},
-      {"m_lbOuterAcc", "UI44348", "DRWRACC", "BAE"},
-      {"m_lbRecverNM", "UI44349", "PYEENAM", "BAE"},
-      {"m_lbRecverBankName", "UI44351", "PYEEBNA", "BAE"},
-      {"m_lbRecverAcc", "UI44352", "PYEEACC", "BAE"},
-      {"m_lbPtEndNm", "UI44031", "PTENDNM", "BAE"},
-      {"m_lbEndRmnt", "UI44033", "ENDRMNT", "BAE"},
-      {"m_lbHasImpn", "UI44362", "HASIMPN", "BAE"},
-      {"m_lbSaveNo", "存票批次号", "BATCHNO", "BAE"},
-      {"m_lbSaveDate", "存票日期", "SAVEDAT", "BAE"},
-      {"m_lbAutoCol", "UI44410", "AUTOCOL", "BAE"},
-      {"m_lbRetmAcc", "UI44411", "RETMACC", "BAE"},
-      {"m_lbTendFlg", "UI44032", "TENDFLG", "BAE"},
-      {"m_lbType", "UI44308", "BILLTYP", "BAE"},
-      {"m_lbPurpose", "客户备注", "APLYRMK", "BE"},
-      {"m_lbBankPur", "银行备注", "CHEKRMK", "BE"},
-      {"m_lbCustRem", "客户备注", "APLYRMK", "A"},
-      {"m_lbBankRem", "银行备注", "CHEKRMK", "A"},
-      {"m_lbCustAcc", "代保管账号", "CUSTACC", "BAE"},
-      {"m_lbCustName", "代保管客户名称", "CUSTNAM", "BAE"},
-      {"m_lbAgtName", "代保管机构名称", "AGTBNAM", "BAE"},
-      {"m_lbAgtBank", "代保管机构联行号", "AGTBHNM", "BAE"},
-      {"m_lbCustNo", "代保管客户号", "CUSTNUM", "BAE"},
-      {"m_lbAgtStt", "代保管状态", "AGTSTAT", "B"},
-      {"m_lbAppNo", "申请编号", "APPLYNO", "A"},
-      {"m_lbAppStt", "申请状态", "APPREST", "A"},
-      {"m_lbAppTyp", "申请类别", "APPTYPE", "A"},
-      {"m_lbAppTyp", "业务类别", "APPTYPE", "E"},
-      {"m_lbAppDate", "申请日期", "APPDATE", "A"},
-      {"m_lbBsnFlwNo", "业务流水号", "BSNFLWNO", "E"},
-      {"m_lbBsnDat", "业务发生日期", "BSNDAT", "E"},
-      {"m_lbCustDat", "客户经办日期", "DLDAT", "AE"},
-      {"m_lbCustOpr", "客户经办操作员", "DLOPR", "AE"},
-      {"m_lbCustAudDat", "客户审核日期", "CKDAT", "AE"},
-      {"m_lbCustAudOpr", "客户审核操作员", "CKOPR", "AE"},
-      {"m_lbAccpBankNo", "业务受理机构联行号", "BSNPUNO", "AE"},
-      {"m_lbAccpAgtNm", "业务受理机构名称", "BSNPUNM", "AE"},
-      {"m_lbBankAudDat", "银行审批日期", "CHCKDAT", "AE"},
-      {"m_lbBankAudOpr", "银行审批操作员", "BKCKOPR", "AE"},
-      {"m_lbGetName", "取票人名称", "GETPNAM", "AE"},
-      {"m_lbCertTyp", "取票人证件类型", "GETPTYP", "AE"},
-      {"m_lbCertNo", "取票人证件号码", "GETPNUM", "AE"},
-      {"m_lbTranFlg", "是否可转让", "KZRFLAG", "AE"},
-      {"m_lbAppPur", "客户申请备注", "CUSTRMK", "A"},
-      {"m_lbBankPur", "银行备注", "BANKRMK", "A"},
+      {"BAE",
+       "m_lbTicketNo=UI44307=BILLNUM m_lbBillId=票据ID=BILLSID m_lbOutData=UI44342=ISSDATE "
+       "m_lbDeadData=UI44343=DUEDATE m_lbMoney=UI44344=PAYAMT m_lbOuterNM=UI44345=DRWRNAM "
+       "m_lbOuterAcc=UI44348=DRWRACC m_lbRecverNM=UI44349=PYEENAM m_lbRecverBankName=UI44351=PYEEBNA "
+       "m_lbRecverAcc=UI44352=PYEEACC m_lbPtEndNm=UI44031=PTENDNM m_lbEndRmnt=UI44033=ENDRMNT "
+       "m_lbHasImpn=UI44362=HASIMPN m_lbSaveNo=存票批次号=BATCHNO m_lbSaveDate=存票日期=SAVEDAT "
+       "m_lbAutoCol=UI44410=AUTOCOL m_lbRetmAcc=UI44411=RETMACC m_lbTendFlg=UI44032=TENDFLG "
+       "m_lbType=UI44308=BILLTYP m_lbCustAcc=代保管账号=CUSTACC m_lbCustName=代保管客户名称=CUSTNAM "
+       "m_lbAgtName=代保管机构名称=AGTBNAM m_lbAgtBank=代保管机构联行号=AGTBHNM "
+       "m_lbCustNo=代保管客户号=CUSTNUM"},
+      {"BE", "m_lbPurpose=客户备注=APLYRMK m_lbBankPur=银行备注=CHEKRMK"},
+      {"A",
+       "m_lbCustRem=客户备注=APLYRMK m_lbBankRem=银行备注=CHEKRMK m_lbAppNo=申请编号=APPLYNO "
+       "m_lbAppStt=申请状态=APPREST m_lbAppTyp=申请类别=APPTYPE m_lbAppDate=申请日期=APPDATE "
+       "m_lbAppPur=客户申请备注=CUSTRMK m_lbBankPur=银行备注=BANKRMK"},
+      {"B", "m_lbAgtStt=代保管状态=AGTSTAT"},
+      {"E", "m_lbAppTyp=业务类别=APPTYPE m_lbBsnFlwNo=业务流水号=BSNFLWNO m_lbBsnDat=业务发生日期=BSNDAT"},
+      {"AE",
+       "m_lbCustDat=客户经办日期=DLDAT m_lbCustOpr=客户经办操作员=DLOPR m_lbCustAudDat=客户审核日期=CKDAT "
+       "m_lbCustAudOpr=客户审核操作员=CKOPR m_lbAccpBankNo=业务受理机构联行号=BSNPUNO "
+       "m_lbAccpAgtNm=业务受理机构名称=BSNPUNM m_lbBankAudDat=银行审批日期=CHCKDAT "
+       "m_lbBankAudOpr=银行审批操作员=BKCKOPR m_lbGetName=取票人名称=GETPNAM "
+       "m_lbCertTyp=取票人证件类型=GETPTYP m_lbCertNo=取票人证件号码=GETPNUM m_lbTranFlg=是否可转让=KZRFLAG"},
   };
+  struct Line {
+    std::string name, captionAndField;
+    std::string_view kinds;
+  };
+  std::vector<Line> lines;
   corvane::Property record;
-  for (const auto& c : cases) record[c.field] = c.field;
+  for (const auto& [kinds, rows] : cases) {
+    std::istringstream words(rows);
+    for (std::string word; words >> word;) {
+      const std::size_t sign = word.find('=');
+      lines.push_back({word.substr(0, sign), word.substr(sign + 1), kinds});
+      const std::string field = word.substr(word.rfind('=') + 1);
+      record[field] = field;
+    }
+  }
   const auto expect = [&](char kind) {
     std::set<std::string> others;
-    for (const auto& c : cases) others.insert(c.row);
-    for (const auto& c : cases) {
-      if (c.kinds.find(kind) == std::string_view::npos) continue;
-      EXPECT_EQ(Row(c.row), Ansi(c.caption) + "=" + c.field) << kind;
-      others.erase(c.row);
+    for (const Line& line : lines) others.insert(line.name);
+    for (const Line& line : lines) {
+      if (line.kinds.find(kind) == std::string_view::npos) continue;
+      EXPECT_EQ(Row(line.name), Ansi(line.captionAndField.c_str())) << kind;
+      others.erase(line.name);
     }
     for (const std::string& row : others) EXPECT_EQ(Row(row), "missing") << kind << " " << row;
     EXPECT_EQ(view->FindComponent("m_spBusiInfo") != nullptr, kind != 'B');

@@ -146,6 +146,17 @@ std::vector<fakehost::Call> ScreenHost::Stored(std::uint32_t ordinal, const std:
   return calls;
 }
 
+void ExpectCaptions(const TForm& form, const std::string& captions) {
+  std::istringstream parts(captions);
+  for (std::string part; parts >> part;) {
+    const std::string name = part.substr(0, part.find('='));
+    const auto* control = name.empty() ? static_cast<const TControl*>(&form)
+                                       : qobject_cast<const TControl*>(form.FindComponent(name));
+    ASSERT_NE(control, nullptr) << form.ClassName() << " " << name;
+    EXPECT_EQ(name + "=" + control->Caption(), part) << form.ClassName();
+  }
+}
+
 std::string MessageOf(const std::function<void()>& action, bool yes) {
   std::string text;
   WhenShown<TFrmComMsg> answer([&](TFrmComMsg& message) {

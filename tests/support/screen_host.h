@@ -36,6 +36,10 @@ class ScreenHost : public FormHost {
   static corvane::List ListOf(const Table& lines);
 };
 
+/// Expects of a form's controls the captions that "name=caption" says, parted by blanks; no name is the form
+/// itself.
+void ExpectCaptions(const TForm& form, const std::string& captions);
+
 /// Runs an action and answers the message that it shows, yes where it is a question; gives the message's
 /// text, empty if none came.
 std::string MessageOf(const std::function<void()>& action, bool yes = true);

@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
 #include "tests/toolkit/test_form.h"
-#include "toolkit/clipboard.h"
 #include "toolkit/timer.h"
 
 TEST(Application, QueuedCallsRunInOrderFromTheEventLoopAndDieWithTheirContext) {
@@ -108,14 +106,4 @@ TEST(Application, ItsEndDestroysAllFormsTheLastMadeFirst) {
   QTest::qWait(0);
   EXPECT_FALSE(ran);
   EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
-}
-
-TEST(Application, TheScreenHasASize) {
-  EXPECT_EQ(Screen->Width(), QApplication::primaryScreen()->geometry().width());
-  EXPECT_EQ(Screen->Height(), QApplication::primaryScreen()->geometry().height());
-}
-
-TEST(Application, TheClipboardCarriesNarrowText) {
-  Clipboard().SetAsText("\xC6\xB1\xBE\xDD\r\nET00001");
-  EXPECT_EQ(Clipboard().AsText(), "\xC6\xB1\xBE\xDD\r\nET00001");
 }

@@ -11,7 +11,6 @@
 #include "toolkit/image_list.h"
 #include "toolkit/menu.h"
 #include "toolkit/tabs.h"
-#include "toolkit/text.h"
 
 namespace {
 
@@ -63,12 +62,6 @@ TEST_F(ControlTest, TextsAreNeverReadAsMarkup) {
   EXPECT_TRUE(form->m_lbText->Widget()->toolTip().isEmpty());
   form->m_lbText->SetShowHint(true);
   EXPECT_EQ(form->m_lbText->Widget()->toolTip(), "<span>&lt;img src='file:///etc/passwd'&gt;</span>");
-}
-
-TEST_F(ControlTest, ChineseCrossesTheEdgeInTheAnsiCodePage) {
-  form->m_lbText->SetCaption(Ansi("代保管账号"));
-  EXPECT_EQ(form->m_lbText->Caption(), "\xB4\xFA\xB1\xA3\xB9\xDC\xD5\xCB\xBA\xC5");
-  EXPECT_EQ(static_cast<QLabel*>(form->m_lbText->Widget())->text(), QString::fromUtf8("代保管账号"));
 }
 
 TEST_F(ControlTest, MouseEventsComeInTheirOrderAndGraphicControlsKeepTheirs) {
@@ -182,32 +175,6 @@ TEST_F(ControlTest, OnClickGoesBeforeTheAction) {
   form->m_btnFirst->OnClick = [&](TObject*) { seen += "click "; };
   form->m_btnFirst->Click();
   EXPECT_EQ(seen, "action click ");
-}
-
-TEST_F(ControlTest, ARollUpPanelFoldsByItsHeaderAndKeepsItsChildrensVisible) {
-  auto* panel = NewComponent<TbsSkinExPanel>(form, "m_pnlAdvance");
-  auto* inside = NewComponent<TLabel>(form, "m_lbInside");
-  auto* hidden = NewComponent<TLabel>(form, "m_lbHidden");
-  TColumnLayout page(form);
-  page.Add(panel);
-  TRowLayout row(panel);
-  row.Add(inside);
-  row.Add(hidden);
-  hidden->SetVisible(false);
-  panel->SetCaption("Advanced");
-  int changes = 0;
-  panel->OnChangeRollState = [&](TObject*) { ++changes; };
-  panel->SetRollState(true);
-  EXPECT_TRUE(panel->RollState());
-  EXPECT_FALSE(inside->Widget()->isVisible());
-  EXPECT_EQ(changes, 0);
-  auto* header = panel->Widget()->findChild<QAbstractButton*>();
-  EXPECT_EQ(header->text(), "Advanced");
-  QTest::mouseClick(header, Qt::LeftButton);
-  EXPECT_FALSE(panel->RollState());
-  EXPECT_EQ(changes, 1);
-  EXPECT_TRUE(inside->Widget()->isVisible());
-  EXPECT_FALSE(hidden->Widget()->isVisible());
 }
 
 TEST_F(ControlTest, AlignedControlsShareTheClientArea) {

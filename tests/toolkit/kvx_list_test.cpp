@@ -413,23 +413,6 @@ TEST_F(KvxListTest, ALowFormLeavesRoomForRows) {
   }
 }
 
-TEST_F(KvxListTest, AColumnIsDraggedByItsHeader) {
-  QWidget* header = view->header()->viewport();
-  const auto send = [&](QEvent::Type type, int x) {
-    const QPoint at(x, header->height() / 2);
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, at, header->mapToGlobal(at), button,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(header, &event);
-  };
-  send(QEvent::MouseButtonPress, 20);
-  for (int x = 30; x < 215; x += 5) send(QEvent::MouseMove, x);
-  send(QEvent::MouseButtonRelease, 210);
-  EXPECT_EQ(list->ColumnIds(), (corvane::StringVector{"PAYAMT", "BILLNUM", "SECRET", "STATE"}));
-  EXPECT_EQ(view->columnWidth(1), 120);
-  EXPECT_EQ(view->header()->visualIndex(1), 1);
-}
-
 TEST_F(KvxListTest, TheRightButtonOpensThePopupMenu) {
   Fill(2);
   TPopupMenu menu(form);
@@ -461,17 +444,6 @@ TEST_F(KvxListTest, AHiddenColumnComesBackWithTheWidthItIsGiven) {
   EXPECT_EQ(view->columnWidth(0), 90);
   column->SetMinWidth(100);
   EXPECT_EQ(column->Width(), 100);
-}
-
-TEST_F(KvxListTest, ColumnsCanBeBuiltAnew) {
-  Fill(2);
-  const int id = list->Columns()[3]->ID();
-  list->Columns().Clear();
-  list->ColumnIds().clear();
-  EXPECT_EQ(view->model()->columnCount(), 0);
-  AddColumn("STATE", 70, 0);
-  EXPECT_GT(list->Columns()[0]->ID(), id);
-  EXPECT_EQ(Cell(1, 0), QString::fromUtf8("已存"));
 }
 
 TEST_F(KvxListTest, PlainRowsHoldTexts) {

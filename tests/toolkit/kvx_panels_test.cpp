@@ -2,16 +2,12 @@
 #include <QHeaderView>
 #include <QTableView>
 #include <QToolButton>
-#include <QTreeWidget>
 
-#include "data/row.h"
 #include "tests/toolkit/kvx_fixture.h"
 #include "toolkit/calendar.h"
 #include "toolkit/edits.h"
 #include "toolkit/layout.h"
 #include "toolkit/panels.h"
-#include "toolkit/text.h"
-#include "toolkit/tree_view.h"
 
 namespace {
 
@@ -43,13 +39,6 @@ class KvxPanelTest : public KvxTest {
   QToolButton* header = nullptr;
   int changes = 0;
 };
-
-corvane::Property Node(const char* key, const std::string& name) {
-  corvane::Property node;
-  node["Key"] = key;
-  node["Name"] = name;
-  return node;
-}
 
 }  // namespace
 
@@ -88,30 +77,31 @@ TEST_F(KvxPanelTest, RollsByTheKeyboard) {
   EXPECT_EQ(changes, 2);
 }
 
-TEST_F(KvxTest, TreeShowsItsRecords) {
-  auto* tree = Put<TKVXTreeView>("m_tvBsnFlowID");
-  auto* view = form->Widget()->findChild<QTreeWidget*>("m_tvBsnFlowID");
-  ASSERT_NE(view, nullptr);
-  tree->CreateRoot(Node("old", "old"), {});
-  TKVXTreeNode* root = tree->CreateRoot(Node("BSNNM", Ansi("票据存入")), {});
-  TKVXTreeNode* level = tree->AddChildNode(root, Node("LEVEL1", "first level"), {});
-  tree->AddChildNode(level, Node("0001", "0001-Li(<b>)"), {});
-  tree->AddChildNode(nullptr, Node("BATCH", "batch"), {});
-  EXPECT_EQ(tree->RootCount(), 1);
-  EXPECT_EQ(root->Count(), 2);
-  EXPECT_EQ(root->Items(1)->Text(), "batch");
-  EXPECT_EQ(level->Parent(), root);
-  EXPECT_EQ(tree->AllocateDataNode(level->Items(0))->Data().getValue("Key"), "0001");
-  EXPECT_EQ(view->topLevelItem(0)->text(0), QString::fromUtf8("票据存入"));
-  EXPECT_FALSE(root->Expanded());
-  tree->ExpandAll();
-  EXPECT_TRUE(level->Expanded());
-  EXPECT_EQ(tree->Selected(), nullptr);
-  view->setCurrentItem(view->topLevelItem(0)->child(0));
-  EXPECT_EQ(tree->Selected(), level);
-  tree->Clear();
-  EXPECT_EQ(tree->RootCount(), 0);
-  EXPECT_EQ(view->topLevelItemCount(), 0);
+TEST_F(KvxTest, AScrollBoxGrowsWithWhatItHoldsAndScrollsToTheFocus) {
+  form = CreateForm<TForm>(Application);
+  auto* box = NewComponent<TbsSkinScrollBox>(form, "m_sbx");
+  TEdit* edits[] = {NewComponent<TEdit>(form, "m_ed1"), NewComponent<TEdit>(form, "m_ed2")};
+  TColumnLayout page(form);
+  page.Add(box);
+  page.Add(NewComponent<TPanel>(form, "m_pnRest"), 1);
+  TColumnLayout inside(box);
+  for (TEdit* edit : edits) {
+    edit->SetHeight(100);
+    inside.Add(edit);
+  }
+  edits[1]->SetVisible(false);
+  form->SetHeight(400);
+  form->Show();
+  QTest::qWait(20);
+  EXPECT_EQ(box->Height(), 100);
+  edits[1]->SetVisible(true);
+  QTest::qWait(20);
+  EXPECT_GE(box->Height(), 200);
+  form->SetHeight(130);
+  QTest::qWait(20);
+  EXPECT_LE(box->Height(), 130);
+  edits[1]->SetFocus();
+  EXPECT_EQ(edits[1]->Widget()->visibleRegion().boundingRect().bottom(), edits[1]->Height() - 1);
 }
 
 TEST_F(KvxTest, CalendarShowsAllWeeks) {

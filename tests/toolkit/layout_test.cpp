@@ -6,6 +6,7 @@
 
 #include "tests/toolkit/test_form.h"
 #include "toolkit/application.h"
+#include "toolkit/combo_box.h"
 #include "toolkit/edits.h"
 
 namespace {
@@ -96,6 +97,15 @@ TEST_F(LayoutTest, AFieldStandsBehindItsLabelAndGrowsWithTheFont) {
   EXPECT_GT(label->Width(), label->Widget()->fontMetrics().horizontalAdvance("Numbe"));
 }
 
+TEST_F(LayoutTest, ABoxGrowsAndShrinksWithTheFont) {
+  auto* combo = NewComponent<TKVXComboBox>(form, "m_cbx");
+  TColumnLayout(box).Add(combo);
+  for (const int size : {9, 24, 9}) {
+    combo->Font()->SetSize(size);
+    EXPECT_EQ(combo->Widget()->minimumSizeHint(), combo->Widget()->sizeHint()) << size;
+  }
+}
+
 TEST_F(LayoutTest, ANewLayoutTakesThePlaceOfTheOldOne) {
   TPanel* part = Part("part");
   {
@@ -109,23 +119,4 @@ TEST_F(LayoutTest, ANewLayoutTakesThePlaceOfTheOldOne) {
   Show(200, 100);
   EXPECT_EQ(part->Widget()->geometry(), QRect(0, 70, 200, 30));
   EXPECT_EQ(box->ControlCount(), 1);
-}
-
-TEST_F(LayoutTest, AToolBarAddsItsButtonsInOrder) {
-  auto* bar = NewComponent<TbsSkinToolBar>(form, "m_tbQuery");
-  auto* first = NewComponent<TbsSkinSpeedButton>(form, "m_tbPrint");
-  auto* second = NewComponent<TbsSkinSpeedButton>(form, "m_tbExport");
-  TColumnLayout column(box);
-  column.Add(bar);
-  bar->Add(first);
-  bar->Add(nullptr);
-  bar->Add(second);
-  first->SetCaption("Print");
-  second->SetCaption("Export");
-  second->SetShowCaption(false);
-  Show(300, 80);
-  EXPECT_GT(second->Left(), first->Left() + first->Width());
-  EXPECT_LT(second->Left() + second->Width(), 200);
-  EXPECT_EQ(second->Hint(), "Export");
-  EXPECT_FALSE(first->CanFocus());
 }

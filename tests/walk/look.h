@@ -1,0 +1,12 @@
+// What an operator would find wrong with a form by looking at it, whatever form it is.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class TForm;
+
+/// A sentence for each fault of what the form shows: two siblings that overlap, a control that stands outside
+/// its parent or nowhere, one that has less room than it needs, one that draws the same with and without what
+/// it holds.
+std::vector<std::string> FaultsOf(TForm* form);
