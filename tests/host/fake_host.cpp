@@ -60,7 +60,7 @@ std::uint32_t GetRow(char** buffer, std::int32_t* length, const char* key, const
 }
 
 std::uint32_t GetHandle(const char* key) {
-  g_host->calls.push_back({kPub, 123, {key}});
+  g_host->Note({kPub, 123, {key}});
   const auto found = g_host->handles.find(key);
   return found == g_host->handles.end() ? 0 : found->second;
 }
@@ -81,6 +81,7 @@ std::uint32_t Send(const char* code, const char* request, std::int32_t flag, cha
 }
 
 void ServerTime(std::int64_t* milliseconds) {
+  g_host->Note({Library::kSafeCom, 8, {}});
   *milliseconds = g_host->serverTime;
 }
 
@@ -255,12 +256,18 @@ std::vector<Call> FakeHost::CallsOf(Library library, std::uint32_t ordinal) cons
   return found;
 }
 
+void FakeHost::Note(Call call) {
+  calls.push_back(call);
+  if (during) during(call);
+}
+
 std::uint32_t FakeHost::Reply(Call call, char** buffer, std::int32_t* length, char* error) {
   const auto exact = m_answersByArguments.find({call.library, call.ordinal, call.arguments});
   const auto general = m_answers.find({call.library, call.ordinal});
   const Answer answer = exact != m_answersByArguments.end() ? exact->second
                         : general != m_answers.end()        ? general->second
                                                             : Usual(call);
+  Note(std::move(call));
   if (answer.throws) throw std::runtime_error("a host function that throws");
   if (error) {
     const bool small = call.library <= Library::kError;
@@ -273,12 +280,11 @@ std::uint32_t FakeHost::Reply(Call call, char** buffer, std::int32_t* length, ch
     ++given;
   }
   if (length) *length = answer.length.value_or(static_cast<std::int32_t>(answer.text.size()));
-  calls.push_back(std::move(call));
   return answer.result;
 }
 
 void FakeHost::Release(Library library, std::uint32_t ordinal, char* buffer) {
-  calls.push_back({library, ordinal, {}});
+  Note({library, ordinal, {}});
   if (!buffer) {
     ++nullReleased;
   } else if (m_live.erase(buffer) == 1) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -70,6 +71,7 @@ class FakeHost {
   std::map<std::string, std::uint32_t> handles;
   std::int64_t serverTime = 0;
   std::vector<Call> calls;
+  std::function<void(const Call&)> during;  // runs inside each call, once it is written down
 
   // Buffers given out, and what came back of them.
   int given = 0;
@@ -78,6 +80,7 @@ class FakeHost {
   int wronglyReleased = 0;
 
   // For the libraries' functions.
+  void Note(Call call);
   std::uint32_t Reply(Call call, char** buffer, std::int32_t* length, char* error);
   void Release(Library library, std::uint32_t ordinal, char* buffer);
 

@@ -173,7 +173,7 @@ TEST(CallFunc, OpensOneScreenForEachItem) {
     QWidget* const window = WindowOf(row.screen);
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->parentWidget(), &host.mainWindow);
+    EXPECT_EQ(window->parentWidget(), host.mainWindow.get());
     EXPECT_NE(host.handles[row.screen], 0u);
 
     window->showMinimized();

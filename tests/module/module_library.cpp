@@ -33,7 +33,9 @@ std::string ListText(const std::vector<std::vector<std::string>>& lines) {
 }
 
 intptr_t WriteDown(void* context, uint32_t message, uintptr_t, intptr_t) {
-  static_cast<WindowedHost*>(context)->messages.push_back(message);
+  auto* host = static_cast<WindowedHost*>(context);
+  host->messages.push_back(message);
+  if (host->duringMessage) host->duringMessage(message);
   return 0;
 }
 
@@ -64,15 +66,25 @@ std::string ModuleLibrary::Menu() const {
   return text;
 }
 
-WindowedHost::WindowedHost()
-    : publicInformation(RegisterAll()), m_window(norvik_window_register(WriteDown, this, &mainWindow)) {
-  handles["APPMAINFORMHANDLE"] = m_window;
+WindowedHost::WindowedHost() : publicInformation(RegisterAll()) {
+  OpenMainWindow();
   SetAnswer(fakehost::Library::kPublicInformation, 68, {"SYSCONFIG_DATA", "APPLICATION.FONT", "Size"},
             fakehost::Text("9"));
 }
 
 WindowedHost::~WindowedHost() {
-  norvik_window_unregister(m_window);
+  CloseMainWindow();
+}
+
+void WindowedHost::OpenMainWindow() {
+  mainWindow = std::make_unique<QWidget>();
+  m_window = norvik_window_register(WriteDown, this, mainWindow.get());
+  handles["APPMAINFORMHANDLE"] = m_window;
+}
+
+void WindowedHost::CloseMainWindow() {
+  norvik_window_unregister(std::exchange(m_window, 0));
+  mainWindow.reset();
 }
 
 void WindowedHost::OfferBills() {

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -45,12 +46,17 @@ class WindowedHost : public fakehost::FakeHost {
   /// repository screen the accounts A1 and A2 and a custody status.
   void OfferBills();
 
+  /// Makes the main window and registers it; CloseMainWindow unregisters and destroys it.
+  void OpenMainWindow();
+  void CloseMainWindow();
+
   norvik_handle publicInformation;
-  QWidget mainWindow;
+  std::unique_ptr<QWidget> mainWindow;
   std::vector<std::uint32_t> messages;
+  std::function<void(std::uint32_t)> duringMessage;  // runs inside each message, once it is written down
 
  private:
-  norvik_handle m_window;
+  norvik_handle m_window = 0;
 };
 
 /// The process's window with that object name, null if there is none or it was destroyed.
