@@ -237,12 +237,23 @@ void Client::MakeShortcut() {
   }
 }
 
+void Client::EndModule() {
+  try {
+    module_.Release();
+  } catch (const ModuleError& error) {
+    TellFailure(error);
+  }
+  forms_ = OpenForms();
+  ShowWindow();
+}
+
 OperatorClient Client::ForOperator() {
   return {[this](const QString& item) { Pick(item.toStdString()); },
           [this](const QString& name) { ChooseLanguage(name.toStdString()); },
           [this](const QString& name, int size) { ChooseFont(name, size); },
           [](const QString& what, const QString& key) { Provoke(what, key); },
-          [this] { return forms_.Front(); }};
+          [this] { return forms_.Front(); },
+          [this] { EndModule(); }};
 }
 
 }  // namespace demohost

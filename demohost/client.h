@@ -44,6 +44,9 @@ class Client {
   void ChooseFont(const QString& name, int size);
   void ChooseStyle(const std::string& style);
 
+  // Ends the module, as a client does when its user's time is over, whatever is open.
+  void EndModule();
+
   // What the operator of a script asks of this client.
   OperatorClient ForOperator();
 

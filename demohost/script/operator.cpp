@@ -54,6 +54,7 @@ Operator::Action Operator::Prepare(const ScriptStep& step) {
       {"patience", &Operator::Nothing}, {"picture", &Operator::Picture}, {"print", &Operator::Print},
       {"say", &Operator::Say},          {"close", &Operator::Close},     {"language", &Operator::Language},
       {"font", &Operator::Font},        {"fail", &Operator::Fail},       {"remove", &Operator::Remove},
+      {"end", &Operator::End},
   };
   return (this->*kPreparers.value(step.command))(step.words);
 }
@@ -249,6 +250,10 @@ Operator::Action Operator::Remove(const QStringList& words) {
 
 Operator::Action Operator::Fail(const QStringList& words) {
   return [this, what = words[0], key = words.value(1)] { client_.fail(what, key); };
+}
+
+Operator::Action Operator::End(const QStringList&) {
+  return [this] { client_.end(); };
 }
 
 void Operator::ExpectDialog(const QString& text) {

@@ -24,6 +24,8 @@ struct OperatorClient {
   std::function<void(const QString& what, const QString& key)> fail;
   // The window of the module that is in front, null if there is none.
   std::function<QWidget*()> front;
+  // Ends the module, whatever of it is open.
+  std::function<void()> end = {};
 };
 
 // A step can't be done as things stand; what() says why, in UTF-8.
@@ -76,6 +78,7 @@ class Operator {
   Action Font(const QStringList& words);
   Action Remove(const QStringList& words);
   Action Fail(const QStringList& words);
+  Action End(const QStringList& words);
 
   void ExpectDialog(const QString& text);
   void ExpectCount(const QString& what, const QStringList& words);

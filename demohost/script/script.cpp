@@ -39,6 +39,7 @@ const QHash<QString, CommandRule>& Commands() {
       {"language", {1, 1, "language NAME"}},
       {"font", {2, 2, "font NAME SIZE"}},
       {"remove", {1, 1, "remove FILE"}},
+      {"end", {0, 0, "end"}},
       {"fail", {1, 2, "fail exchange|row|text|entry|images|none [KEY]"}},
   };
   return kCommands;
