@@ -22,6 +22,10 @@ class CaseRun {
   // The host, made at its first use.
   CheckHost& Host();
 
+  // From now on a modal window is no failure.
+  void ExpectDialogs() { expects_dialogs_ = true; }
+  bool ExpectsDialogs() const { return expects_dialogs_; }
+
   // Notes what is begun now; it is told if the process doesn't come back from it.
   void Step(const std::string& what) { report_.Step(what); }
   // Notes an item of the module's menu.
@@ -36,6 +40,7 @@ class CaseRun {
   const Options& options_;
   std::string item_;
   Report& report_;
+  bool expects_dialogs_ = false;
   std::optional<CheckHost> host_;
 };
 

@@ -47,6 +47,12 @@ void ReleaseFailedStart(CaseRun& run);
 void ReleaseOpen(CaseRun& run);
 void ReleaseClosed(CaseRun& run);
 void ReleaseTwice(CaseRun& run);
+void CallInStart(CaseRun& run);
+void CallInRelease(CaseRun& run);
+void CallInPick(CaseRun& run);
+void CallInFunction(CaseRun& run);
+void CallInDialog(CaseRun& run);
+void CallInTimer(CaseRun& run);
 void Cycles(CaseRun& run);
 
 }  // namespace demohost::check

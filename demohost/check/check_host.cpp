@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <sstream>
 
 #include "demohost/bank/seed.h"
 #include "demohost/skins.h"
@@ -38,15 +39,19 @@ CheckHost::CheckHost(const Options& options, const std::filesystem::path& folder
       clock_(kBankDay),
       bank_(OpenBank(BankFile(folder), Plan(tables_)), kBankDay),
       directory_(BankFile(folder)),
-      store_(folder / "config"),
-      window_handle_(norvik_window_register(&Procedure, this, &window_)) {
+      store_(folder / "config") {
   FillStore(store_, tables_, bank_.Accounts(), {folder / "images", SkinFolder(folder)});
   if (!options.language.empty()) {
     store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", options.language);
   }
-  store_.SetHandle("APPMAINFORMHANDLE", window_handle_);
+  OpenWindow();
   store_.SetHandle("BANK_PDATA", directory_.Handle());
   output_.print_folder = folder / "prints";
+  for (const HostLibrary& library : kHostLibraries) {
+    for (const norvik_ordinal& entry : library.table()) {
+      function_names_[entry.function] = "function " + std::to_string(entry.ordinal) + " of " + library.name;
+    }
+  }
   RegisterLibraries();
   const QWidgetList windows = QApplication::topLevelWidgets();
   windows_of_host_.insert(windows.begin(), windows.end());
@@ -54,13 +59,39 @@ CheckHost::CheckHost(const Options& options, const std::filesystem::path& folder
 
 CheckHost::~CheckHost() {
   store_.on_handle = nullptr;
+  CloseWindow();
+}
+
+void CheckHost::CloseWindow() {
   norvik_window_unregister(window_handle_);
+  window_handle_ = 0;
+  if (window_) windows_of_host_.erase(&*window_);
+  window_.reset();
+}
+
+void CheckHost::OpenWindow() {
+  if (window_) return;
+  window_.emplace();
+  windows_of_host_.insert(&*window_);
+  window_handle_ = norvik_window_register(&Procedure, this, &*window_);
+  store_.SetHandle("APPMAINFORMHANDLE", window_handle_);
+}
+
+void CheckHost::Called(void* function) const {
+  const auto name = function_names_.find(function);
+  if (during && name != function_names_.end()) during(name->second);
 }
 
 void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
   libraries_.reset();
   store_.on_handle = nullptr;
-  libraries_.emplace(Services{&store_, &texts_, &bank_, &clock_, &output_, 0, {}}, missing);
+  libraries_.emplace(Services{.store = &store_,
+                              .texts = &texts_,
+                              .bank = &bank_,
+                              .clock = &clock_,
+                              .output = &output_,
+                              .called = [this](void* function) { Called(function); }},
+                     missing);
   store_.on_handle = [this](const std::string& key, std::uint32_t value) {
     if (value == 0) {
       form_handles_.erase(key);
@@ -90,7 +121,11 @@ int CheckHost::Told(std::uint32_t message) const {
 }
 
 intptr_t CheckHost::Procedure(void* context, uint32_t message, uintptr_t, intptr_t) {
-  ++static_cast<CheckHost*>(context)->told_[message];
+  auto* host = static_cast<CheckHost*>(context);
+  ++host->told_[message];
+  std::ostringstream place;
+  place << "the message 0x" << std::uppercase << std::hex << message;
+  if (host->during) host->during(place.str());
   return 0;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -41,6 +42,14 @@ class CheckHost {
   // Registers the six libraries anew, whole or without one function; no module may hold them.
   void RegisterLibraries(std::optional<MissingFunction> missing = std::nullopt);
 
+  // Runs inside each function of the libraries and each message to the main window, with the name of the
+  // place in plain words.
+  std::function<void(const std::string& place)> during;
+
+  // The main window and its handle go; or a new window comes where there is none.
+  void CloseWindow();
+  void OpenWindow();
+
   // The module's windows: those that weren't there when this host was made; Shown are the visible ones.
   std::vector<QWidget*> Windows() const;
   std::vector<QWidget*> ShownWindows() const;
@@ -50,6 +59,7 @@ class CheckHost {
   const std::set<std::string>& FormHandles() const { return form_handles_; }
 
  private:
+  void Called(void* function) const;
   static intptr_t Procedure(void* context, uint32_t message, uintptr_t wparam, intptr_t lparam);
 
   Texts texts_;
@@ -59,12 +69,13 @@ class CheckHost {
   BankDirectory directory_;
   InfoStore store_;
   Output output_;
-  QWidget window_;
-  norvik_handle window_handle_;
+  std::optional<QWidget> window_;
+  norvik_handle window_handle_ = 0;
   std::optional<Libraries> libraries_;
   std::set<QWidget*> windows_of_host_;
   std::map<std::uint32_t, int> told_;
   std::set<std::string> form_handles_;
+  std::map<void*, std::string> function_names_;
 };
 
 }  // namespace demohost::check

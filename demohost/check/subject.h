@@ -34,8 +34,8 @@ class Subject {
 
   // The calls as they are. Each is noted as a step; `where` says under which circumstances.
   CallEnd Init(norvik_handle public_information, const std::string& where = {});
-  CallEnd Call(const std::string& request);
-  CallEnd Release();
+  CallEnd Call(const std::string& request, const std::string& where = {});
+  CallEnd Release(const std::string& where = {});
   CallEnd Menu(char** buffer);
   CallEnd Free(char* buffer);
 
@@ -43,8 +43,8 @@ class Subject {
   void Start(const std::string& where = {});
   // Picks an item, and lets its screen come up.
   void Pick(const std::string& item);
-  // Release; no window and no buffer of the host may be left.
-  void End();
+  // Release; no window and no more buffers of the host than those may be left.
+  void End(std::size_t buffers = 0);
   // The menu text by MenuConfig, given back with FreeBuff.
   std::string MenuText();
   // The items of the menu; the case fails where the menu text can't be read.

@@ -43,8 +43,8 @@ std::uint8_t ErrorText(char** buffer, std::int32_t* length, const char* keys, ch
 }  // namespace
 
 std::vector<norvik_ordinal> ErrorTable() {
-  std::vector<norvik_ordinal> table = {Entry(1, &Initialize), Entry(3, &Release), Entry(4, &ReasonText),
-                                       Entry(5, &ErrorText)};
+  std::vector<norvik_ordinal> table = {Entry<&Initialize>(1), Entry<&Release>(3), Entry<&ReasonText>(4),
+                                       Entry<&ErrorText>(5)};
   AddIdle(table, 1, 8);
   return table;
 }

@@ -89,7 +89,7 @@ void PrintSetup(const char* name) {
 }  // namespace
 
 std::vector<norvik_ordinal> PrintTable() {
-  std::vector<norvik_ordinal> table = {Entry(1, &Initialize), Entry(3, &PrintList), Entry(5, &PrintSetup)};
+  std::vector<norvik_ordinal> table = {Entry<&Initialize>(1), Entry<&PrintList>(3), Entry<&PrintSetup>(5)};
   AddIdle(table, 1, 7);
   return table;
 }

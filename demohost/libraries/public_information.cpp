@@ -124,12 +124,12 @@ std::uint32_t GetHandle(const char* key) {
 
 std::vector<norvik_ordinal> PublicInformationTable() {
   std::vector<norvik_ordinal> table = {
-      Entry(1, &Initialize),     Entry(3, &Release),         Entry(23, &SetField),
-      Entry(24, &GetField),      Entry(40, &GetList),        Entry(58, &SetIni),
-      Entry(59, &RemoveIni),     Entry(60, &GetIni),         Entry(68, &GetIniValue),
-      Entry(80, &SetIniplus),    Entry(81, &RemoveIniplus),  Entry(82, &GetIniplus),
-      Entry(87, &GetIniplusRow), Entry(90, &GetIniplusList), Entry(122, &SetHandle),
-      Entry(123, &GetHandle),
+      Entry<&Initialize>(1),     Entry<&Release>(3),         Entry<&SetField>(23),
+      Entry<&GetField>(24),      Entry<&GetList>(40),        Entry<&SetIni>(58),
+      Entry<&RemoveIni>(59),     Entry<&GetIni>(60),         Entry<&GetIniValue>(68),
+      Entry<&SetIniplus>(80),    Entry<&RemoveIniplus>(81),  Entry<&GetIniplus>(82),
+      Entry<&GetIniplusRow>(87), Entry<&GetIniplusList>(90), Entry<&SetHandle>(122),
+      Entry<&GetHandle>(123),
   };
   constexpr std::pair<std::uint32_t, std::uint32_t> kRanges[] = {
       {1, 10}, {20, 27}, {38, 47}, {58, 69}, {80, 93}, {104, 111}, {122, 127}, {184, 184}};

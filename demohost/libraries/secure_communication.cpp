@@ -49,7 +49,7 @@ void ServerTime(std::int64_t* milliseconds) {
 }  // namespace
 
 std::vector<norvik_ordinal> SecureCommunicationTable() {
-  std::vector<norvik_ordinal> table = {Entry(4, &Release), Entry(5, &Exchange), Entry(8, &ServerTime)};
+  std::vector<norvik_ordinal> table = {Entry<&Release>(4), Entry<&Exchange>(5), Entry<&ServerTime>(8)};
   AddIdle(table, 1, 12);
   return table;
 }

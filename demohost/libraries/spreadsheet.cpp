@@ -36,7 +36,7 @@ std::uint8_t ExportText(const char* path, const char* head, const char* columns,
 }  // namespace
 
 std::vector<norvik_ordinal> SpreadsheetTable() {
-  std::vector<norvik_ordinal> table = {Entry(2, &ExportWorkbook), Entry(5, &ExportText)};
+  std::vector<norvik_ordinal> table = {Entry<&ExportWorkbook>(2), Entry<&ExportText>(5)};
   AddIdle(table, 1, 10);
   return table;
 }

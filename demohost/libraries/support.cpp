@@ -44,6 +44,12 @@ std::string CurrentText(std::string_view key) {
   return std::string(services.texts->Find(CurrentLanguage(), key));
 }
 
+void NoteCall(void* function) {
+  // Whoever is told may exchange the services.
+  const std::function<void(void*)> called = CurrentServices().called;
+  if (called) called(function);
+}
+
 char* NewBuffer(const std::string& text) {
   char* buffer = new char[text.size() + 1];
   std::memcpy(buffer, text.c_str(), text.size() + 1);
@@ -87,7 +93,7 @@ void AddIdle(std::vector<norvik_ordinal>& table, std::uint32_t first, std::uint3
     const bool known = std::any_of(table.begin(), table.end(), [ordinal](const norvik_ordinal& entry) {
       return entry.ordinal == ordinal;
     });
-    if (!known) table.push_back(Entry(ordinal, &Idle));
+    if (!known) table.push_back(Entry<&Idle>(ordinal));
   }
 }
 

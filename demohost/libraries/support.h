@@ -28,7 +28,9 @@ struct Services {
   // The bank takes at least this long for an exchange.
   int delay_milliseconds = 0;
   // A failure that the caller isn't told about, in UTF-8.
-  std::function<void(const std::string& text)> report;
+  std::function<void(const std::string& text)> report = {};
+  // Runs at the beginning of each call of a function, which is told as its library's table has it.
+  std::function<void(void* function)> called = {};
   Faults faults = {};
 };
 
@@ -89,10 +91,24 @@ inline std::string Text(const char* text) {
   return text == nullptr ? std::string() : std::string(text);
 }
 
-// Entry of a function in a library's table.
-template <class Function>
-norvik_ordinal Entry(std::uint32_t ordinal, Function* function) {
-  return {ordinal, reinterpret_cast<void*>(function)};
+// Reports a call to Services::called.
+void NoteCall(void* function);
+
+template <auto function>
+struct Noted;
+
+template <class Result, class... Arguments, Result (*function)(Arguments...)>
+struct Noted<function> {
+  static Result Call(Arguments... arguments) {
+    NoteCall(reinterpret_cast<void*>(&Call));
+    return function(arguments...);
+  }
+};
+
+// Entry of a function in a library's table, which notes each call before it runs.
+template <auto function>
+norvik_ordinal Entry(std::uint32_t ordinal) {
+  return {ordinal, reinterpret_cast<void*>(&Noted<function>::Call)};
 }
 
 // Adds an entry for each ordinal from first to last that the table doesn't have: a function that does nothing

@@ -34,8 +34,8 @@ std::uint8_t Convert(char** buffer, std::int32_t* length, const char* text, std:
 }  // namespace
 
 std::vector<norvik_ordinal> TranslateTable() {
-  std::vector<norvik_ordinal> table = {Entry(1, &Initialize), Entry(3, &Release), Entry(4, &Lookup),
-                                       Entry(6, &Convert)};
+  std::vector<norvik_ordinal> table = {Entry<&Initialize>(1), Entry<&Release>(3), Entry<&Lookup>(4),
+                                       Entry<&Convert>(6)};
   AddIdle(table, 1, 8);
   return table;
 }

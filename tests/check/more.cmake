@@ -19,7 +19,8 @@ foreach(fault IN ITEMS
         menu_ignores_host_buffer menu_overrun free_null_crash unstarted_pick_ignored request_swallowed request_hangs
         unknown_opens unknown_throws second_window replaced_window no_reopening modal_message open_silent close_silent
         close_keeps_window handle_stays release_unstarted_crash release_twice_crash release_exits
-        leaves_window_of_failed_start leaves_open_window leaves_closed_window loses_memory loses_files loses_threads)
+        leaves_window_of_failed_start leaves_open_window leaves_closed_window loses_memory loses_files loses_threads
+        goes_on_after_release falls_after_dialog)
   file(CONFIGURE OUTPUT ${modules}/${fault}.c CONTENT "const char norvik_fault[] = \"${fault}\";\n" @ONLY)
   set(exports ${PROJECT_SOURCE_DIR}/shell/exports.map)
   if(EXISTS ${modules}/${fault}.map)

@@ -4,6 +4,8 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 #include <array>
 #include <chrono>
@@ -55,6 +57,8 @@ const std::array<Library, 6>& Libraries() {
 }
 
 norvik_handle g_public_information = 0;
+// Changes at each start and release: what began before ends without a further step.
+int g_life = 0;
 
 template <class Function>
 Function Public(std::uint32_t ordinal) {
@@ -93,6 +97,8 @@ class Screen : public QWidget {
  public:
   explicit Screen(const char* name) : name_(name) {
     setObjectName(QString::fromLatin1(name));
+    auto* ask = new QPushButton(QStringLiteral("?"), this);
+    connect(ask, &QPushButton::clicked, this, [this] { Ask(); });
     handle_ = norvik_window_register([](void*, uint32_t, uintptr_t, intptr_t) -> intptr_t { return 0; }, this,
                                      static_cast<QWidget*>(this));
   }
@@ -101,24 +107,37 @@ class Screen : public QWidget {
   void Open() {
     if (isVisible()) return;
     show();
-    Enter(handle_);
-    Tell(0x824);
+    if (Enter(handle_)) Tell(0x824);
   }
 
  protected:
   void closeEvent(QCloseEvent*) override {
-    if (!Has("handle_stays")) Enter(0);
+    if (!Has("handle_stays") && !Enter(0)) return;
     if (!Has("close_silent")) Tell(0x825);
     if (Has("close_keeps_window")) QMetaObject::invokeMethod(this, &QWidget::show, Qt::QueuedConnection);
   }
 
  private:
-  void Enter(norvik_handle handle) {
+  // False if the host has ended the life meanwhile.
+  bool Enter(norvik_handle handle) {
+    const int life = g_life;
     Public<std::int32_t (*)(const char*, std::uint32_t)>(122)(name_, handle);
+    if (Has("goes_on_after_release") && life != g_life) HandleOf("APPMAINFORMHANDLE");
+    return life == g_life;
   }
   void Tell(std::uint32_t message) {
     if (Has("open_silent") && message == 0x824) return;
-    norvik_window_send(HandleOf("APPMAINFORMHANDLE"), message, reinterpret_cast<std::uintptr_t>(this), 0);
+    const int life = g_life;
+    const norvik_handle host = HandleOf("APPMAINFORMHANDLE");
+    if (life == g_life) norvik_window_send(host, message, reinterpret_cast<std::uintptr_t>(this), 0);
+  }
+  void Ask() {
+    const int life = g_life;
+    const QPointer<QMessageBox> box = new QMessageBox(QMessageBox::Question, QStringLiteral("NorvikQry"),
+                                                      QStringLiteral("?"), QMessageBox::Yes, this);
+    box->exec();
+    if (Has("falls_after_dialog") && life != g_life) Misbehave();
+    delete box.data();
   }
 
   const char* name_;
@@ -165,6 +184,17 @@ void Grow() {
   if (Has("loses_threads")) std::thread([] { std::this_thread::sleep_for(std::chrono::hours(1)); }).detach();
 }
 
+void End() {
+  ++g_life;
+  g_started = false;
+  for (Item& item : g_items) {
+    if (item.window == nullptr) continue;
+    if (Has("leaves_open_window") && item.window->isVisible()) continue;
+    if (Has("leaves_closed_window") && !item.window->isVisible()) continue;
+    delete std::exchange(item.window, nullptr);
+  }
+}
+
 // What the library does as it is loaded.
 const bool g_loaded = [] {
   if (Has("load_crash")) Misbehave();
@@ -175,11 +205,16 @@ const bool g_loaded = [] {
 
 MODULE_EXPORT std::uint32_t InitModule(norvik_handle public_information) {
   if (Has("start_throws")) throw 15;
+  End();
+  const int life = g_life;
   g_public_information = public_information;
   if (Has("leaves_window_of_failed_start") && public_information == 0) new QWidget;
   Bind(Libraries()[0], public_information);
   for (const Library& library : Libraries()) {
-    if (library.handle_key != nullptr) Bind(library, HandleOf(library.handle_key));
+    if (library.handle_key == nullptr) continue;
+    const norvik_handle handle = HandleOf(library.handle_key);
+    if (life != g_life) throw corvane::TException("CF30007");
+    Bind(library, handle);
   }
   Grow();
   g_started = true;
@@ -237,13 +272,7 @@ MODULE_EXPORT void Release() {
   if (Has("release_unstarted_crash") && !g_started && g_releases == 1) Misbehave();
   if (Has("release_twice_crash") && !g_started && g_releases > 1) Misbehave();
   if (Has("release_exits") && g_started) std::exit(0);
-  for (Item& item : g_items) {
-    if (item.window == nullptr) continue;
-    if (Has("leaves_open_window") && item.window->isVisible()) continue;
-    if (Has("leaves_closed_window") && !item.window->isVisible()) continue;
-    delete std::exchange(item.window, nullptr);
-  }
-  g_started = false;
+  End();
 }
 
 // Exported by one fault only.
