@@ -12,10 +12,11 @@ namespace demohost::check {
 namespace {
 
 constexpr const char* kExchange = "function 5 of secure communication";
-constexpr const char* kTimer = "the event loop";
+// A button pumps the event loop some few times; where it pumps more, one turn is as the other.
+constexpr int kMostTurns = 4;
 
 PlaceKind KindOf(const std::string& place) {
-  if (place == kTimer) return PlaceKind::kTimer;
+  if (place.starts_with("turn ")) return PlaceKind::kTimer;
   return place.starts_with("the dialog") || place.starts_with("the menu") ? PlaceKind::kDialog
                                                                           : PlaceKind::kFunction;
 }
@@ -32,13 +33,6 @@ QWidget* WaitingWindow() {
   if (QWidget* menu = QApplication::activePopupWidget()) return menu;
   QWidget* modal = QApplication::activeModalWidget();
   return modal == nullptr || modal->findChild<QAbstractButton*>() == nullptr ? nullptr : modal;
-}
-
-std::string PlaceNow() {
-  const QWidget* waiting = WaitingWindow();
-  if (waiting == nullptr) return kTimer;
-  return (waiting == QApplication::activePopupWidget() ? "the menu " : "the dialog ") +
-         waiting->objectName().toStdString();
 }
 
 }  // namespace
@@ -66,6 +60,16 @@ QWidget* Moments::ShownWindow(const std::string& item) const {
   return nullptr;
 }
 
+std::string Moments::PlaceNow() {
+  const QWidget* waiting = WaitingWindow();
+  if (waiting != nullptr) {
+    return (waiting == QApplication::activePopupWidget() ? "the menu " : "the dialog ") +
+           waiting->objectName().toStdString();
+  }
+  if (!acting_ || turn_ == kMostTurns) return {};
+  return "turn " + std::to_string(++turn_) + " of the event loop";
+}
+
 // A timer doesn't run inside itself, so each turn is one of its own: a call that opens a window returns late.
 void Moments::Turn() {
   auto* next = new QTimer(&turns_);
@@ -73,7 +77,7 @@ void Moments::Turn() {
   next->callOnTimeout(&turns_, [this, next] {
     next->deleteLater();
     Turn();
-    if (reach_) reach_(PlaceNow());
+    if (const std::string place = PlaceNow(); reach_ && !place.empty()) reach_(place);
     if (QWidget* waiting = WaitingWindow()) waiting->close();
   });
   next->start(0);
@@ -84,7 +88,10 @@ void Moments::Perform(const Scene& scene, const std::function<void(const std::st
   run_.Step(scene.what + where_);
   run_.Host().during = reach;
   reach_ = reach;
+  turn_ = 0;
+  acting_ = true;
   const CallEnd end = scene.act();
+  acting_ = false;
   run_.Expect(end.kind != CallEnd::kForeign, scene.what + where_ + ": " + end.words);
   Settle();
   run_.Host().during = nullptr;
@@ -103,7 +110,9 @@ void Moments::Play(const Scene& scene, PlaceKind kind, std::set<std::string>* pl
   subject_.End(buffers);
   if (places != nullptr) places->insert(found.begin(), found.end());
   for (const std::string& place : found) {
-    if (KindOf(place) != kind || !done_.insert(place).second) continue;
+    if (KindOf(place) != kind) continue;
+    // The same function or dialog is one place wherever it comes up; a turn of the event loop is not.
+    if (!done_.insert(kind == PlaceKind::kTimer ? scene.what + place : place).second) continue;
     for (std::size_t call = 0; call < std::size(kCallNames); ++call) {
       if (!other_.empty() || static_cast<Call>(call) != Call::kPickOther) {
         Round(scene, place, static_cast<Call>(call));

@@ -50,6 +50,8 @@ class Moments {
   void Perform(const Scene& scene, const std::function<void(const std::string&)>& reach);
   void Make(Call call);
   void ExpectAtOnce(const std::string& place, Call call);
+  // Where a call from a timer would come now; empty where that is no place.
+  std::string PlaceNow();
   void Turn();
   QWidget* ShownWindow(const std::string& item) const;
 
@@ -60,6 +62,8 @@ class Moments {
   std::map<std::string, std::string> windows_;  // the object name of each item's window
   std::set<std::string> done_;
   std::function<void(const std::string&)> reach_;
+  bool acting_ = false;
+  int turn_ = 0;
   std::string where_;  // the round, for reports
   QObject turns_;
 };
