@@ -166,7 +166,6 @@ void TfrmEBillAuditFoot::ResetForm() {
     m_lvMain->Add(m_auditList, m_lvMain->ColumnIds().toString("; ", false));
   }
   ShowRecord();
-  SetDefaultButton(m_btnClose);
   SetCancelButton(m_btnClose);
   SetActiveControl(m_btnClose);
 }

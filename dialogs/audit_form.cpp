@@ -58,7 +58,6 @@ void TfrmAudit::ResetForm() {
   m_rdgAudit->Items().Assign({TranslateKey("UI12202"), TranslateKey("UI12203")});
   m_rdgAudit->SetItemIndex(kAgree);
   m_memInfo->Clear();
-  SetDefaultButton(m_btnOk);
   SetCancelButton(m_btnCancel);
   SetActiveControl(m_rdgAudit);
 }

@@ -98,7 +98,6 @@ void TfrmBookingProc::ResetForm() {
   TBaseForm::ResetForm();
   m_grpPreFlg->Items().Assign({TranslateKey("UI42069"), TranslateKey("UI42070")});
   m_grpPreFlg->SetItemIndex(kAtOnce);
-  SetDefaultButton(m_btnOk);
   SetCancelButton(m_btnCancel);
   SetActiveControl(m_grpPreFlg);
 }

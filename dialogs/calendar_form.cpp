@@ -142,7 +142,6 @@ void TDateCalendar::FormShow(TObject* sender) {
 
 void TDateCalendar::ResetForm() {
   TBaseForm::ResetForm();
-  SetDefaultButton(m_btnok);
   SetCancelButton(m_btncancel);
   SetActiveControl(m_pnlmonth->Visible() ? static_cast<TWinControl*>(m_MonthCalendar) : m_btnok);
   m_MonthCalendar->Widget()->setLocale(LocaleOf(m_nFontCharset));

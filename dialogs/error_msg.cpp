@@ -85,7 +85,6 @@ void TFrmErrorMsg::Construct() {
 void TFrmErrorMsg::ResetForm() {
   TBaseForm::ResetForm();
   FitToFont();
-  SetDefaultButton(m_btnOK);
   SetCancelButton(m_btnOK);
   SetActiveControl(m_btnOK);
 }

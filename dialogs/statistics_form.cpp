@@ -90,7 +90,6 @@ void TfrmStatistics::Construct() {
 
 void TfrmStatistics::ResetForm() {
   TBaseForm::ResetForm();
-  SetDefaultButton(m_btnOk);
   SetCancelButton(m_btnOk);
   SetActiveControl(m_btnOk);
 }

@@ -59,7 +59,6 @@ void TfrmViewBsnFlow::ResetForm() {
   TBaseForm::ResetForm();
   ReadAnswer();
   BuildTree();
-  SetDefaultButton(m_btnClose);
   SetCancelButton(m_btnClose);
   SetActiveControl(m_tvBsnFlowID);
 }

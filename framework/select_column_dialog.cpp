@@ -70,7 +70,6 @@ void TfrmSelectColumn::BuildControls() {
     this->*line.button = button;
   }
   side.AddStretch();
-  SetDefaultButton(m_btnConfirm);
   SetCancelButton(m_btnClose);
 }
 

@@ -38,7 +38,6 @@ void TRecordInfoForm::BuildControls() {
   m_pnBottom = NewComponent<TPanel>(this, "m_pnBottom");
   m_btnClose = NewComponent<TbsSkinButton>(this, "m_btnClose");
   m_btnClose->OnClick = [this](TObject* sender) { m_btnCloseClick(sender); };
-  SetDefaultButton(m_btnClose);
   SetCancelButton(m_btnClose);
   TColumnLayout form(this);
   form.SetMargins(kMargin, kMargin, kMargin, kMargin);

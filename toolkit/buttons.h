@@ -48,7 +48,10 @@ class TbsSkinButton : public TbsSkinCustomButton {
   void MarkDefault();
 
  protected:
-  void ReturnPressed() override { Click(); }
+  bool ReturnPressed() override {
+    Click();
+    return true;
+  }
 
  private:
   int modal_result_ = 0;

@@ -184,8 +184,9 @@ class TWinControl : public TControl {
   explicit TWinControl(TComponent* owner) : TControl(owner) {}
   /// Whether Return belongs to the control itself, so that it presses no default button.
   virtual bool WantsReturn() const { return false; }
-  /// What Return does when no handler took it; a button clicks.
-  virtual void ReturnPressed() {}
+  /// What Return does when no handler took it; a button clicks. True: the widget doesn't see the key, which
+  /// on some desktops presses a button, too.
+  virtual bool ReturnPressed() { return false; }
   /// The widget that takes the focus, null when the control takes none.
   virtual QWidget* FocusWidget() const { return Widget(); }
   /// Whether the focus on this widget is the control's; a control of several such widgets says so.

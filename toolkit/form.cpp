@@ -306,7 +306,8 @@ void TForm::SetDefaultButton(TbsSkinButton* button) {
   if (button != nullptr) button->MarkDefault();
 }
 
-bool TForm::PressDialogButton(std::uint16_t key, bool control_wants_return) {
+bool TForm::PressDialogButton(std::uint16_t key, TShiftState shift, bool control_wants_return) {
+  if (shift.Contains(ssShift) || shift.Contains(ssCtrl) || shift.Contains(ssAlt)) return false;
   TbsSkinButton* button = nullptr;
   if (key == VK_RETURN && !control_wants_return) {
     // A focused button is the one that Return means, whichever is marked as default.

@@ -78,7 +78,8 @@ class TForm : public TWinControl {
   /// The control that has, or will have, the focus; null when there is none.
   TWinControl* ActiveControl() const;
   void SetActiveControl(TWinControl* control);
-  /// Buttons that Return and Escape press, before any other use of these keys; null: none.
+  /// Buttons that Return and Escape press, before any other use of these keys; null: none. With Shift, Ctrl
+  /// or Alt the keys press neither.
   TbsSkinButton* DefaultButton() const;
   void SetDefaultButton(TbsSkinButton* button);
   TbsSkinButton* CancelButton() const;
@@ -121,7 +122,7 @@ class TForm : public TWinControl {
 
  private:
   friend class TWinControl;
-  bool PressDialogButton(std::uint16_t key, bool control_wants_return);
+  bool PressDialogButton(std::uint16_t key, TShiftState shift, bool control_wants_return);
   void ApplyWindowFlags();
   void OpenWindow();
   QPoint OpeningPlace() const;

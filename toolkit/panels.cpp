@@ -153,8 +153,9 @@ QWidget* TbsSkinExPanel::FocusWidget() const {
   return client_ ? header_ : nullptr;
 }
 
-void TbsSkinExPanel::ReturnPressed() {
+bool TbsSkinExPanel::ReturnPressed() {
   header_->click();
+  return true;
 }
 
 void TbsSkinExPanel::SetRollState(bool rolled_up) {

@@ -87,7 +87,7 @@ class TbsSkinExPanel : public TbsSkinControl {
   void FontChanged() override;
   QWidget* FocusWidget() const override;
   bool WantsReturn() const override { return true; }
-  void ReturnPressed() override;
+  bool ReturnPressed() override;
   bool ClicksByMouse() const override { return false; }
 
  private:

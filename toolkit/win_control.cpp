@@ -111,7 +111,7 @@ bool TWinControl::KeyEvent(QKeyEvent* event) {
     OpenPopupMenu();
     return true;
   }
-  if (form != nullptr && form->PressDialogButton(key, WantsReturn())) return true;
+  if (form != nullptr && form->PressDialogButton(key, shift, WantsReturn())) return true;
   if (key != 0 && form != nullptr && form->KeyPreview()) {
     FireEvent(form->OnKeyDown, form, key, shift);
     if (!self || key == 0) return true;
@@ -126,8 +126,7 @@ bool TWinControl::KeyEvent(QKeyEvent* event) {
     FireEvent(OnKeyPress, this, character);
     if (!self || character == 0) return true;
   }
-  if (key == VK_RETURN) ReturnPressed();
-  return !self;
+  return (key == VK_RETURN && ReturnPressed()) || !self;
 }
 
 void TWinControl::OpenPopupMenu() {

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTest>
 #include <algorithm>
 
+#include "dialogs/audit_form.h"
+#include "dialogs/booking_form.h"
+#include "dialogs/calendar_form.h"
 #include "dialogs/com_msg.h"
 #include "dialogs/error_msg.h"
 #include "tests/support/form_host.h"
@@ -121,6 +126,36 @@ TEST_F(Messages, OnlyTheLeftButtonSaysYes) {
     EXPECT_TRUE(step.Came()) << row.way;
   }
   EXPECT_EQ(Screen->FormCount(), 0);
+}
+
+TEST_F(Messages, ShiftWithReturnMovesTheFocusWhereReturnPresses) {
+  host.Configure("APPLICATION.OPERATOR", "SimulateTab", "1");
+  host.Configure("CONTROL.RETURN", "TbsSkinButton", "1");
+  WhenShown<TFrmComMsg> step([](TFrmComMsg& form) {
+    QTest::keyClick(form.m_btnOk->Widget(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(form.ActiveControl(), form.m_btnNo);
+    QTest::keyClick(form.m_btnNo->Widget(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(form.ActiveControl(), form.m_btnOk);
+    QTest::keyClick(form.m_btnOk->Widget(), Qt::Key_Return);
+  });
+  EXPECT_TRUE(ShowConfirmMsg("really?", nullptr));
+}
+
+TEST_F(Messages, OnlyAMessageIsAnsweredByReturnInAField) {
+  host.Configure("APPLICATION.OPERATOR", "SimulateTab", "1");
+  const std::function<TBaseForm*()> dialogs[] = {
+      [] { return CreateForm<TfrmAudit>(Application); },
+      [] { return CreateForm<TfrmBookingProc>(Application, true); },
+      [] { return CreateForm<TDateCalendar>(Application, std::string("20150131"), dtDateTime); }};
+  for (const auto& make : dialogs) {
+    const TFormPointer<TBaseForm> form(make());
+    form->Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form->Widget()));
+    const TWinControl* field = form->ActiveControl();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(form->Showing()) << form->ClassName();
+    EXPECT_NE(form->ActiveControl(), field) << form->ClassName();
+  }
 }
 
 TEST_F(Messages, AnAnsweredMessageIsAnnouncedAsClosed) {

@@ -312,9 +312,16 @@ TEST_F(FormTest, ReturnAndEscapePressTheDialogButtons) {
   QTest::keyClick(form->m_crbTick->Widget(), Qt::Key_Return);
   QTest::keyClick(form->m_crbTick->Widget(), Qt::Key_Escape);
   EXPECT_EQ(pressed, "m_btnFirst;m_btnSecond;m_btnThird;");
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape})
+    QTest::keyClick(form->m_crbTick->Widget(), key, Qt::ShiftModifier);
   form->m_btnSecond->SetEnabled(false);
   QTest::keyClick(form->m_crbTick->Widget(), Qt::Key_Return);
   EXPECT_EQ(pressed, "m_btnFirst;m_btnSecond;m_btnThird;");
+  pressed.clear();
+  form->m_btnSecond->SetEnabled(true);
+  form->m_btnSecond->SetFocus();
+  QTest::keyClick(form->m_btnSecond->Widget(), Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(pressed, "m_btnSecond;") << "a key that nobody took presses the button that has the focus once";
 }
 
 TEST_F(FormTest, TheFirstFocusIsTheChosenControlOrTheFirstTabStop) {
