@@ -1,6 +1,7 @@
 #include "toolkit/list_box.h"
 
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QListView>
 #include <QScopedValueRollback>
 
@@ -8,8 +9,20 @@
 #include "toolkit/application.h"
 #include "toolkit/strings_model.h"
 
+/// Qt's own rule turns round each entry that a typed text finds and each one that a drag passes. Here the
+/// space key alone does, and the click, which Qt reports only where no drag has left the entry.
+class TKVXCustomListBox::View : public QListView {
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&,
+                                                       const QEvent* event) const override {
+    const bool space = event != nullptr && event->type() == QEvent::KeyPress &&
+                       static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Space;
+    return space ? QItemSelectionModel::Toggle : QItemSelectionModel::NoUpdate;
+  }
+};
+
 TKVXCustomListBox::TKVXCustomListBox(TComponent* owner) : TbsSkinControl(owner) {
-  auto* list = new QListView;
+  auto* list = new View;
   SetWidget(list);
   SetTabStop(true);
   model_ = new TStringsModel(items_, this);
@@ -18,6 +31,9 @@ TKVXCustomListBox::TKVXCustomListBox(TComponent* owner) : TbsSkinControl(owner) 
   list->setUniformItemSizes(true);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   items_.OnChange = [this] { ItemsChanged(); };
+  connect(list, &QListView::clicked, list->selectionModel(), [list](const QModelIndex& entry) {
+    list->selectionModel()->select(entry, QItemSelectionModel::Toggle);
+  });
   connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (!setting_) Click();
   });

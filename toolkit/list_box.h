@@ -13,8 +13,9 @@ class StringVector;
 }
 
 /// A list of entries of which any number is selected; each has a key and a name in the two lists beside
-/// Items. A click, or the space key, turns the selection of one entry round. OnClick runs when the user
-/// changes the selection, not for SetSelected.
+/// Items. A click, or the space key, turns the selection of one entry round. Typing a text moves the current
+/// entry only, and a drag of the mouse, whose release is no click, selects nothing. OnClick runs when the
+/// user changes the selection, not for SetSelected.
 class TKVXCustomListBox : public TbsSkinControl {
   Q_OBJECT
 
@@ -41,6 +42,7 @@ class TKVXCustomListBox : public TbsSkinControl {
   bool ClicksByMouse() const override { return false; }
 
  private:
+  class View;
   QListView* List() const;
   void ItemsChanged();
 

@@ -1,5 +1,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QMouseEvent>
 #include <QRadioButton>
 
 #include "data/row.h"
@@ -124,7 +125,21 @@ TEST_F(KvxChoicesTest, ListBoxGivesTheSelectedKeysInOrder) {
   click(1);
   click(0);
   EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(list->GetSelectedKeys(), (corvane::StringVector{"03", "07", "D0"}));
+  const corvane::StringVector selected{"03", "07", "D0"};
+  EXPECT_EQ(list->GetSelectedKeys(), selected);
+  QTest::keyClicks(view, "st");
+  EXPECT_EQ(view->currentIndex().row(), 1) << "typing finds the next entry";
+  EXPECT_EQ(list->GetSelectedKeys(), selected) << "and selects nothing";
+  const auto at = [&](int row) { return view->visualRect(view->model()->index(row, 0)).center(); };
+  QTest::mousePress(view->viewport(), Qt::LeftButton, {}, at(0));
+  QMouseEvent move(QEvent::MouseMove, at(3), view->viewport()->mapToGlobal(at(3)), Qt::NoButton,
+                   Qt::LeftButton, {});
+  QCoreApplication::sendEvent(view->viewport(), &move);
+  QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at(3));
+  EXPECT_EQ(list->GetSelectedKeys(), selected) << "a drag selects nothing";
+  EXPECT_EQ(clicks, 2);
+  for (int times = 0; times < 2; ++times) QTest::keyClick(view, Qt::Key_Space);
+  EXPECT_EQ(clicks, 4);
   EXPECT_EQ(list->SelCount(), 3);
   list->Items().SetStrings(1, "changed");
   EXPECT_TRUE(list->Selected(1));
