@@ -2,6 +2,7 @@
 
 #include <QCalendarWidget>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <QToolButton>
@@ -22,10 +23,10 @@ TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
     header->setMinimumSectionSize(1);
   calendar->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
   WatchWidget(Days());
+  WatchWidget(Days()->viewport());
   connect(calendar, &QCalendarWidget::selectionChanged, this, [this] {
     if (!setting_) Click();
   });
-  connect(calendar, &QCalendarWidget::activated, this, [this] { FireEvent(OnDblClick, this); });
 }
 
 QCalendarWidget* TMonthCalendar::Calendar() const {
@@ -52,9 +53,27 @@ void TMonthCalendar::SetDate(TDateTime date) {
   int month = 0;
   int day = 0;
   DecodeDate(date, year, month, day);
+  const QDate chosen(year, month, day);
+  if (chosen == Calendar()->selectedDate()) return;
   const QScopedValueRollback setting(setting_, true);
-  Calendar()->setSelectedDate(QDate(year, month, day));
+  Calendar()->setSelectedDate(chosen);
   Calendar()->setCurrentPage(year, month);
+}
+
+// The first click of two may turn the month; the second then stands on a day that was not chosen.
+bool TMonthCalendar::WidgetEvent(QWidget* widget, QEvent* event) {
+  if (widget != Days()->viewport()) return TbsSkinControl::WidgetEvent(widget, event);
+  if (event->type() != QEvent::MouseButtonDblClick) return false;
+  const auto* click = static_cast<QMouseEvent*>(event);
+  const QModelIndex day = Days()->indexAt(click->position().toPoint());
+  if (click->button() != Qt::LeftButton || !Days()->selectionModel()->isSelected(day)) return false;
+  FireEvent(OnDblClick, this);
+  return true;
+}
+
+bool TMonthCalendar::ReturnPressed() {
+  FireEvent(OnDblClick, this);
+  return true;
 }
 
 TUpDown::TUpDown(TComponent* owner) : TbsSkinControl(owner) {

@@ -8,7 +8,7 @@ class QTableView;
 class TCustomEdit;
 
 /// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when he picks it
-/// by a double click or by Return.
+/// by a double click or by Return, whether the desktop activates entries on a single click or not.
 class TMonthCalendar : public TbsSkinControl {
   Q_OBJECT
 
@@ -17,12 +17,15 @@ class TMonthCalendar : public TbsSkinControl {
 
   /// The chosen day; the time of day is 0.
   TDateTime Date() const;
-  /// Chooses the day of a date-time without running OnClick.
+  /// Chooses the day of a date-time and shows its month, without running OnClick. A day that is chosen
+  /// already leaves the month that the user looks at.
   void SetDate(TDateTime date);
 
  protected:
   bool ClicksByMouse() const override { return false; }
   QWidget* FocusWidget() const override;
+  bool WidgetEvent(QWidget* widget, QEvent* event) override;
+  bool ReturnPressed() override;
 
  private:
   QCalendarWidget* Calendar() const;

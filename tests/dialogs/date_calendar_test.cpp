@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCalendarWidget>
+
 #include "dialogs/calendar_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
@@ -101,6 +103,20 @@ TEST_F(DateCalendar, TheClockRunsOnIntoTheNextDay) {
     EXPECT_FALSE(form->m_time->Enabled());
     EXPECT_EQ(FormatDateTime(kBoth, form->m_dateTime), row.next);
   }
+}
+
+TEST_F(DateCalendar, TheClockLeavesTheMonthThatTheUserLooksAt) {
+  const TFormPointer<TDateCalendar> form(
+      CreateForm<TDateCalendar>(Application, std::string("20150131235859"), dtDateTime));
+  form->Show();
+  auto* calendar = static_cast<QCalendarWidget*>(form->m_MonthCalendar->Widget());
+  EXPECT_EQ(calendar->monthShown(), 1);
+  calendar->setCurrentPage(2016, 7);
+  form->m_time->OnTimer(form->m_time);
+  EXPECT_EQ(calendar->monthShown(), 7);
+  EXPECT_EQ(form->m_edtm->Text(), "59");
+  for (int second = 0; second < 60; ++second) form->m_time->OnTimer(form->m_time);
+  EXPECT_EQ(calendar->monthShown(), 2) << "the next day shows";
 }
 
 TEST_F(DateCalendar, UpAndDownStayWithinTheClock) {

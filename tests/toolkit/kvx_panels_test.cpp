@@ -1,5 +1,6 @@
 #include <QCalendarWidget>
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QTableView>
 #include <QToolButton>
 
@@ -133,6 +134,47 @@ TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
   EXPECT_EQ(clicks, 1);
   QTest::keyClick(view->findChild<QAbstractItemView*>(), Qt::Key_Return);
   EXPECT_EQ(doubles, 1);
+}
+
+namespace {
+
+/// A desktop that activates entries by one click, or by two.
+class DesktopStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    return hint == SH_ItemView_ActivateItemOnSingleClick ? single
+                                                         : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+  int single = 0;
+};
+
+}  // namespace
+
+TEST_F(KvxTest, ADayIsPickedByTwoClicksOnEveryDesktop) {
+  DesktopStyle style;
+  for (style.single = 0; style.single < 2; ++style.single) {
+    auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
+    int doubles = 0;
+    calendar->OnDblClick = Count(doubles);
+    calendar->SetDate(EncodeDate(2016, 2, 29));
+    auto* days = calendar->Widget()->findChild<QTableView*>();
+    days->setStyle(&style);
+    QCoreApplication::processEvents();
+    const auto at = [&](int row, int column) {
+      return days->visualRect(days->model()->index(row, column)).center();
+    };
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, at(3, 3));
+    EXPECT_NE(calendar->Date(), EncodeDate(2016, 2, 29));
+    EXPECT_EQ(doubles, 0) << style.single;
+    QTest::mouseDClick(days->viewport(), Qt::LeftButton, {}, at(3, 3));
+    EXPECT_EQ(doubles, 1) << style.single;
+    // The last row's days are those of the next month, to which the first click turns.
+    QTest::mouseDClick(days->viewport(), Qt::LeftButton, {}, at(6, 6));
+    QTest::mouseDClick(days->viewport(), Qt::LeftButton, {}, at(0, 3));
+    EXPECT_EQ(doubles, 1) << style.single;
+    delete calendar;
+  }
 }
 
 TEST_F(KvxTest, TheFormSeesTheCalendarsKeysFirst) {
