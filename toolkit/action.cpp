@@ -1,6 +1,7 @@
 #include "toolkit/action.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/application.h"
 #include "toolkit/control.h"
@@ -14,34 +15,51 @@ TAction::~TAction() {
   while (!items_.empty()) items_.back()->SetAction(nullptr);
 }
 
+template <class T, class Read, class Write>
+void TAction::Change(T& value, const T& now, Read read, Write write) {
+  if (value == now) return;
+  const T former = std::exchange(value, now);
+  const auto pass = [&](auto* bound) {
+    if (read(*bound) == former) write(*bound);
+  };
+  std::ranges::for_each(controls_, pass);
+  std::ranges::for_each(items_, pass);
+}
+
 void TAction::SetCaption(const std::string& caption) {
-  caption_ = caption;
-  Changed();
+  Change(
+      caption_, caption, [](const auto& bound) { return bound.Caption(); },
+      [this](auto& bound) { bound.SetCaption(caption_); });
 }
 
 void TAction::SetHint(const std::string& hint) {
-  hint_ = hint;
-  Changed();
+  Change(
+      hint_, hint, [](const auto& bound) { return bound.Hint(); },
+      [this](auto& bound) { bound.SetHint(hint_); });
 }
 
 void TAction::SetEnabled(bool enabled) {
-  enabled_ = enabled;
-  Changed();
+  Change(
+      enabled_, enabled, [](const auto& bound) { return bound.Enabled(); },
+      [this](auto& bound) { bound.SetEnabled(enabled_); });
 }
 
 void TAction::SetVisible(bool visible) {
-  visible_ = visible;
-  Changed();
+  Change(
+      visible_, visible, [](const auto& bound) { return bound.Visible(); },
+      [this](auto& bound) { bound.SetVisible(visible_); });
 }
 
 void TAction::SetChecked(bool checked) {
-  checked_ = checked;
-  Changed();
+  Change(
+      checked_, checked, [checked](const auto&) { return !checked; },
+      [this](auto& bound) { bound.TakeChecked(checked_); });
 }
 
 void TAction::SetImageIndex(int index) {
-  image_index_ = index;
-  Changed();
+  Change(
+      image_index_, index, [](const auto& bound) { return bound.ImageIndex(); },
+      [this](auto& bound) { bound.TakeImage(*this); });
 }
 
 void TAction::SetActionList(TCustomActionList* list) {
@@ -67,11 +85,6 @@ QString TAction::PublishedHint() const {
 }
 void TAction::SetPublishedHint(const QString& hint) {
   SetHint(FromQt(hint));
-}
-
-void TAction::Changed() {
-  for (TControl* control : controls_) control->ActionChange(*this);
-  for (TMenuItem* item : items_) item->ActionChange(*this);
 }
 
 void TAction::Bind(TControl* control) {

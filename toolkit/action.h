@@ -10,8 +10,9 @@ class TControl;
 class TCustomActionList;
 class TMenuItem;
 
-/// A command. Its caption, hint, enabled, visible and checked state show on all controls and menu items bound
-/// to it.
+/// A command. Its caption, hint, picture, enabled, visible and checked state show on all controls and menu
+/// items bound to it. A value that changes is passed on alone, and only to those that still bear the former
+/// one: a control that was given its own caption, hint or picture keeps it.
 class TAction : public TComponent {
   Q_OBJECT
   Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
@@ -53,7 +54,9 @@ class TAction : public TComponent {
   friend class TControl;
   friend class TCustomActionList;
   friend class TMenuItem;
-  void Changed();
+  /// Sets a value and passes it on, by write, to what is bound and bears the former one by read.
+  template <class T, class Read, class Write>
+  void Change(T& value, const T& now, Read read, Write write);
   void Bind(TControl* control);
   void Unbind(TControl* control);
   void Bind(TMenuItem* item);

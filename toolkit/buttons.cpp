@@ -53,12 +53,9 @@ void TbsSkinCustomButton::SetImage(TImageList* images, int index) {
   if (Button() != nullptr) Button()->setIcon(images == nullptr ? QIcon() : images->Icon(index));
 }
 
-void TbsSkinCustomButton::ActionChange(const TAction& action) {
-  TControl::ActionChange(action);
-  const bool pictured = action.ActionList() != nullptr && action.ActionList()->Images() != nullptr;
-  if (pictured && action.ImageIndex() >= 0 && image_index_ != action.ImageIndex()) {
-    SetImage(action.ActionList()->Images(), action.ImageIndex());
-  }
+void TbsSkinCustomButton::TakeImage(const TAction& action) {
+  TImageList* images = action.ActionList() == nullptr ? nullptr : action.ActionList()->Images();
+  if (images != nullptr) SetImage(images, action.ImageIndex());
 }
 
 TbsSkinButton::TbsSkinButton(TComponent* owner) : TbsSkinCustomButton(owner) {
@@ -130,9 +127,4 @@ void TbsSkinCheckRadioBox::SetChecked(bool checked) {
   Button()->setAutoExclusive(radio_ && checked);
   Button()->setChecked(checked);
   Button()->setAutoExclusive(radio_);
-}
-
-void TbsSkinCheckRadioBox::ActionChange(const TAction& action) {
-  TbsSkinCustomButton::ActionChange(action);
-  SetChecked(action.Checked());
 }

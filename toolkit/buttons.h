@@ -15,7 +15,7 @@ class TbsSkinCustomButton : public TbsSkinControl {
 
  public:
   /// Picture of the button: from the action's list, or given here; -1: none.
-  int ImageIndex() const { return image_index_; }
+  int ImageIndex() const override { return image_index_; }
   void SetImage(TImageList* images, int index);
 
  protected:
@@ -25,7 +25,7 @@ class TbsSkinCustomButton : public TbsSkinControl {
   QAbstractButton* Button() const;
   void CaptionChanged() override;
   void FontChanged() override;
-  void ActionChange(const TAction& action) override;
+  void TakeImage(const TAction& action) override;
   bool ClicksByMouse() const override { return false; }
   /// The user pressed the button.
   virtual void Pressed() { Click(); }
@@ -98,7 +98,7 @@ class TbsSkinCheckRadioBox : public TbsSkinCustomButton {
   bool Radio() const { return radio_; }
 
  protected:
-  void ActionChange(const TAction& action) override;
+  void TakeChecked(bool checked) override { SetChecked(checked); }
 
  private:
   bool radio_;

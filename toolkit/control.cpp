@@ -153,7 +153,13 @@ void TControl::SetAction(TAction* action) {
   action_ = action;
   if (action == nullptr) return;
   action->Bind(this);
-  ActionChange(*action);
+  if (widget_) widget_->setProperty("action", action->objectName());
+  if (Caption() != action->Caption()) SetCaption(action->Caption());
+  if (hint_ != action->Hint()) SetHint(action->Hint());
+  SetEnabled(action->Enabled());
+  SetVisible(action->Visible());
+  TakeChecked(action->Checked());
+  if (action->ImageIndex() >= 0) TakeImage(*action);
 }
 
 TPopupMenu* TControl::PopupMenu() const {
@@ -192,14 +198,6 @@ void TControl::SetPublishedFont(QObject* font) {
 
 void TControl::FontChanged() {
   if (widget_) widget_->setFont(font_->ToQFont());
-}
-
-void TControl::ActionChange(const TAction& action) {
-  if (widget_) widget_->setProperty("action", action.objectName());
-  if (Caption() != action.Caption()) SetCaption(action.Caption());
-  if (hint_ != action.Hint()) SetHint(action.Hint());
-  SetEnabled(action.Enabled());
-  SetVisible(action.Visible());
 }
 
 bool TControl::eventFilter(QObject* watched, QEvent* event) {

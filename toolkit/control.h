@@ -68,13 +68,16 @@ class TControl : public TComponent {
 
   TFont* Font() const { return font_; }
 
-  /// The action that names, enables, shows and executes the control; null takes it off. The widget bears its
-  /// name in the property "action", so that a script or a test finds it.
+  /// The action that names, enables, shows and executes the control; null takes it off. The control takes all
+  /// values of the action when it is bound and those that change afterwards (see TAction). The widget bears
+  /// its name in the property "action", so that a script or a test finds it.
   TAction* Action() const;
   void SetAction(TAction* action);
   /// Menu opened by the right mouse button.
   TPopupMenu* PopupMenu() const;
   void SetPopupMenu(TPopupMenu* menu);
+  /// Index of the picture that the control shows, -1: none.
+  virtual int ImageIndex() const { return -1; }
   /// What a click does: OnClick, or the action when there is no OnClick. Nothing while disabled.
   virtual void Click();
 
@@ -100,8 +103,10 @@ class TControl : public TComponent {
   virtual void CaptionChanged() {}
   /// Puts the font on the widget.
   virtual void FontChanged();
-  /// Takes changed values of the action: caption, hint, enabled, visible and, where there is one, the check.
-  virtual void ActionChange(const TAction& action);
+  /// Takes the action's check; nothing in a control without one.
+  virtual void TakeChecked(bool) {}
+  /// Takes the action's picture; nothing in a control without one.
+  virtual void TakeImage(const TAction&) {}
   /// An event of a watched widget; true ends its way.
   virtual bool WidgetEvent(QWidget* widget, QEvent* event);
   /// Whether a click of the left button is the control's Click (buttons report theirs by themselves).

@@ -24,15 +24,15 @@ void TMenuItem::SetAction(TAction* action) {
   action_ = action;
   if (action_ == nullptr) return;
   action_->Bind(this);
-  ActionChange(*action_);
+  caption_ = action_->Caption();
+  hint_ = action_->Hint();
+  enabled_ = action_->Enabled();
+  visible_ = action_->Visible();
+  checked_ = action_->Checked();
+  image_index_ = action_->ImageIndex();
 }
 
-void TMenuItem::ActionChange(const TAction& action) {
-  caption_ = action.Caption();
-  hint_ = action.Hint();
-  enabled_ = action.Enabled();
-  visible_ = action.Visible();
-  checked_ = action.Checked();
+void TMenuItem::TakeImage(const TAction& action) {
   image_index_ = action.ImageIndex();
 }
 

@@ -69,7 +69,8 @@ class TMenuItem : public TComponent {
  private:
   friend class TAction;
   friend class TMenu;
-  void ActionChange(const TAction& action);
+  void TakeChecked(bool checked) { checked_ = checked; }
+  void TakeImage(const TAction& action);
 
   std::string caption_;
   std::string hint_;

@@ -127,6 +127,16 @@ TEST_F(QueryForm, EnablesByTicksAndStates) {
   EXPECT_EQ(Enabled(), "00000001") << "without rows the box ticks nothing";
 }
 
+TEST_F(QueryForm, ButtonsOfOneActionKeepCaptionsAndPlacesOfTheirOwn) {
+  host.SetText("UI42953", "Operator");
+  host.SetText("UI42993", "Entered by");
+  Open();
+  EXPECT_EQ(form->m_btnOperInfo->Caption(), "Entered by");
+  EXPECT_EQ(form->m_btnRecvInfo->Caption(), "Operator");
+  form->m_actOperInfo->SetEnabled(false);
+  EXPECT_FALSE(form->m_btnOperInfo->Visible());
+}
+
 TEST_F(QueryForm, TurnsTheDetailsOffOnlyWithoutATick) {
   Open();
   form->Fill({{"A"}, {"0"}, {"1"}});

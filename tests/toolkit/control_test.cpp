@@ -166,6 +166,31 @@ TEST_F(ControlTest, AnActionDrivesAllThatIsBoundToIt) {
   EXPECT_EQ(item->Action(), nullptr);
 }
 
+TEST_F(ControlTest, WhatABoundControlWasGivenForItselfStays) {
+  auto* action = NewComponent<TAction>(form, "m_act");
+  TMenuItem* item = NewComponent<TPopupMenu>(form, "m_pmu")->Items()->AddAction(action);
+  TbsSkinButton* own = form->m_btnFirst;
+  TbsSkinButton* plain = form->m_btnSecond;
+  for (TControl* bound : {static_cast<TControl*>(own), static_cast<TControl*>(plain),
+                          static_cast<TControl*>(form->m_crbTick)}) {
+    bound->SetAction(action);
+  }
+  own->SetCaption("own");
+  own->SetHint("own hint");
+  own->SetVisible(false);
+  item->SetCaption("own");
+  item->SetVisible(false);
+  form->m_crbTick->SetChecked(true);
+  action->SetEnabled(false);
+  action->SetCaption("changed");
+  action->SetHint("hint");
+  action->SetVisible(true);
+  EXPECT_EQ(own->Caption() + "," + own->Hint() + "," + item->Caption(), "own,own hint,own");
+  EXPECT_EQ(plain->Caption() + "," + plain->Hint(), "changed,hint");
+  EXPECT_FALSE(own->Visible() || item->Visible() || own->Enabled() || item->Enabled());
+  EXPECT_TRUE(form->m_crbTick->Checked());
+}
+
 TEST_F(ControlTest, OnClickGoesBeforeTheAction) {
   auto* action = NewComponent<TAction>(form, "m_act");
   std::string seen;
