@@ -89,7 +89,10 @@ void TranslateControls(TWinControl* parent) {
       TranslateGraphicControl(child);
     }
   }
-  for (const char* name : {"Caption", "Text", "Hint"}) TranslateProperty(parent, name);
+  TranslateProperty(parent, "Caption");
+  // The text of a box is that of its chosen entry, which stays the chosen one when another bears its text.
+  if (qobject_cast<TCustomComboBox*>(parent) == nullptr) TranslateProperty(parent, "Text");
+  TranslateProperty(parent, "Hint");
   TranslateItems(parent);
   SetSkinFlags(parent);
 }

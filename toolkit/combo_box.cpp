@@ -110,6 +110,7 @@ std::string TCustomComboBox::Text() const {
 }
 
 void TCustomComboBox::SetText(const std::string& text) {
+  if (ItemIndex() >= 0 && Text() == text) return;
   const int index = items_.IndexOf(text);
   if (index >= 0) SetItemIndex(index);
 }

@@ -31,7 +31,7 @@ class TCustomComboBox : public TbsSkinControl {
   void SetItemIndex(int index);
   /// Text of the chosen entry, empty when there is none.
   std::string Text() const;
-  /// Chooses the first entry of that text; any other text changes nothing.
+  /// Chooses the first entry of that text, unless the chosen one bears it; any other text changes nothing.
   void SetText(const std::string& text);
   virtual void Clear();
 

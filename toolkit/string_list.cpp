@@ -5,36 +5,36 @@
 
 void TStrings::SetStrings(std::size_t index, const std::string& text) {
   strings_.at(index) = text;
-  Changed();
+  Changed(index);
 }
 
 std::size_t TStrings::Add(const std::string& text) {
   strings_.push_back(text);
-  Changed();
+  Changed(strings_.size() - 1);
   return strings_.size() - 1;
 }
 
 void TStrings::Insert(std::size_t index, const std::string& text) {
   if (index > strings_.size()) throw std::out_of_range("TStrings::Insert");
   strings_.insert(strings_.begin() + static_cast<std::ptrdiff_t>(index), text);
-  Changed();
+  Changed(index);
 }
 
 void TStrings::Delete(std::size_t index) {
   if (index >= strings_.size()) throw std::out_of_range("TStrings::Delete");
   strings_.erase(strings_.begin() + static_cast<std::ptrdiff_t>(index));
-  Changed();
+  Changed(index);
 }
 
 void TStrings::Clear() {
   if (strings_.empty()) return;
   strings_.clear();
-  Changed();
+  Changed(kManyChanges);
 }
 
 void TStrings::Assign(std::vector<std::string> strings) {
   strings_ = std::move(strings);
-  Changed();
+  Changed(kManyChanges);
 }
 
 int TStrings::IndexOf(const std::string& text) const {
@@ -62,10 +62,16 @@ void TStrings::SetText(const std::string& text) {
 }
 
 void TStrings::EndUpdate() {
-  if (--updating_ == 0 && changed_) Changed();
+  if (--updating_ == 0 && changed_) Report();
 }
 
-void TStrings::Changed() {
-  changed_ = updating_ > 0;
-  if (!changed_ && OnChange) OnChange();
+void TStrings::Changed(std::size_t index) {
+  changed_at_ = changed_ ? kManyChanges : index;
+  changed_ = true;
+  if (updating_ == 0) Report();
+}
+
+void TStrings::Report() {
+  changed_ = false;
+  if (OnChange) OnChange();
 }

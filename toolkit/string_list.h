@@ -40,13 +40,18 @@ class TStrings {
 
   /// Runs after each change; set by the list's owner.
   std::function<void()> OnChange;
+  /// In OnChange: where the one string was put in, taken out or replaced; kManyChanges when it was not one.
+  std::size_t ChangedAt() const { return changed_at_; }
+  static constexpr std::size_t kManyChanges = static_cast<std::size_t>(-1);
 
  private:
-  void Changed();
+  void Changed(std::size_t index);
+  void Report();
 
   std::vector<std::string> strings_;
   int updating_ = 0;
-  bool changed_ = false;  // since the first BeginUpdate
+  bool changed_ = false;  // since the last OnChange
+  std::size_t changed_at_ = kManyChanges;
 };
 
 /// Gathers the changes of a list to the end of its block.

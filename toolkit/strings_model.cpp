@@ -8,7 +8,9 @@
 void TStringsModel::Update() {
   const std::vector<std::string> now(strings_.begin(), strings_.end());
   const auto differ = std::mismatch(shown_.begin(), shown_.end(), now.begin(), now.end());
-  const auto head = differ.first - shown_.begin();
+  // Of equal texts the one at the place of the change came or went.
+  const std::size_t same = static_cast<std::size_t>(differ.first - shown_.begin());
+  const auto head = static_cast<std::ptrdiff_t>(std::min(same, strings_.ChangedAt()));
   std::ptrdiff_t tail = 0;
   const std::ptrdiff_t most = static_cast<std::ptrdiff_t>(std::min(shown_.size(), now.size())) - head;
   while (tail < most && shown_.rbegin()[tail] == now.rbegin()[tail]) ++tail;

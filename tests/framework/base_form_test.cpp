@@ -151,6 +151,17 @@ TEST_F(BaseForm, TranslatesWhateverPublishesATextOnce) {
   EXPECT_TRUE(host.failures.empty());
 }
 
+TEST_F(BaseForm, ABoxKeepsItsChoiceAmongEntriesOfOneText) {
+  const std::vector<std::string> before[] = {{"same", "same"}, {query, "UI00001"}};
+  for (const auto& items : before) {
+    form->combo->Items().Assign(items);
+    form->combo->SetItemIndex(1);
+    form->Show();
+    EXPECT_EQ(form->combo->ItemIndex(), 1) << items[1];
+    form->Close();
+  }
+}
+
 TEST_F(BaseForm, LabelMarkWithoutATextShowsTheKeyWithAColon) {
   form->marked->SetCaption("UI09999");
   form->Show();

@@ -88,6 +88,25 @@ TEST_F(KvxChoicesTest, TheChoiceStaysWithItsEntry) {
   EXPECT_EQ(changes, 0);
 }
 
+TEST_F(KvxChoicesTest, OfEqualTextsTheChosenOneStaysChosen) {
+  const struct {
+    const char* change;
+    std::function<void(TStrings&)> run;
+    int index;
+  } cases[] = {{"one inserted before", [](TStrings& items) { items.Insert(0, "same"); }, 2},
+               {"the other removed", [](TStrings& items) { items.Delete(0); }, 0},
+               {"itself removed", [](TStrings& items) { items.Delete(1); }, -1},
+               {"one added", [](TStrings& items) { items.Add("same"); }, 1}};
+  for (const auto& row : cases) {
+    combo->Items().Assign({"same", "same"});
+    combo->SetItemIndex(1);
+    combo->SetText("same");
+    EXPECT_EQ(combo->ItemIndex(), 1);
+    row.run(combo->Items());
+    EXPECT_EQ(combo->ItemIndex(), row.index) << row.change;
+  }
+}
+
 TEST_F(KvxChoicesTest, ALongEntryIsShownWholeInItsHint) {
   combo->Items().Add(std::string(200, 'a') + "<b>");
   combo->SetItemIndex(0);
