@@ -174,10 +174,10 @@ void TfrmEBillAuditFoot::ShowRecord() {
   for (const Line& line : kLines) {
     std::string value = m_record.getValue(line.field) + line.join;
     if (line.secondField[0] != '\0') value += m_record.getValue(line.secondField);
+    if (this->*line.value == m_lbAmtValue) value += " " + TranslateKey(kAmountUnit);
     (this->*line.value)->SetCaption(std::string(corvane::cutText(value, kLongestShown)));
-    (this->*line.value)->SetHint((this->*line.value)->Caption());
+    (this->*line.value)->SetHint(value);
   }
-  m_lbAmtValue->SetCaption(m_lbAmtValue->Caption() + " " + TranslateKey(kAmountUnit));
   const std::string purpose = norvik::BreakableMemo(m_lbPurValue->Caption());
   m_lbPurValue->SetCaption(purpose);
   m_lbPurValue->SetWidth(TextWidth(*m_lbPurValue, kPurposeCharacters, kPurposeWidth));

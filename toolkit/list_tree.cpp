@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include "toolkit/list_view.h"
+#include "toolkit/text.h"
 
 static constexpr int kRowRoom = 6;
 static constexpr int kTextRoom = 4;
@@ -238,8 +239,7 @@ bool TListTree::viewportEvent(QEvent* event) {
   const QString text = index.data().toString();
   const bool cut = index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
   if (!cut) return QTreeView::viewportEvent(event);
-  QToolTip::showText(help->globalPos(),
-                     QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>"), this);
+  QToolTip::showText(help->globalPos(), ToolTipOf(text), this);
   return true;
 }
 

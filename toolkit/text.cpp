@@ -2,6 +2,14 @@
 
 #include "platform/code_page.h"
 
+namespace {
+
+constexpr qsizetype kLongestTip = 20000;  // characters; longer ones keep the user waiting
+constexpr qsizetype kLongestRun = 120;    // characters without a place to break
+constexpr QChar kBreak(0x200b);           // a blank of no width
+
+}  // namespace
+
 QString ToQt(std::string_view ansi) {
   const std::u16string wide = norvik::Widen(ansi);
   return QString(reinterpret_cast<const QChar*>(wide.data()), static_cast<qsizetype>(wide.size()));
@@ -24,8 +32,20 @@ std::string Trim(std::string_view text) {
 }
 
 QString ToToolTip(std::string_view ansi) {
-  if (ansi.empty()) return {};
-  QString html = ToQt(ansi).toHtmlEscaped();
+  return ToolTipOf(ToQt(ansi));
+}
+
+QString ToolTipOf(QString text) {
+  if (text.isEmpty()) return {};
+  if (text.size() > kLongestTip) text = text.first(kLongestTip) + QChar(0x2026);
+  // A tip wraps at blanks alone, and what is then too wide for the screen would be cut there.
+  for (qsizetype i = 0, run = 0; i < text.size(); ++i) {
+    run = text[i].isSpace() ? 0 : run + 1;
+    if (run <= kLongestRun || text[i].isLowSurrogate()) continue;
+    text.insert(i, kBreak);
+    run = 0;
+  }
+  QString html = text.toHtmlEscaped();
   html.replace(QLatin1Char('\n'), QLatin1String("<br>"));
   return QLatin1String("<span>") + html + QLatin1String("</span>");
 }

@@ -104,6 +104,8 @@ TEST_F(AuditFoot, ShowsTheRecordAndItsSteps) {
     }
     EXPECT_EQ(values, "Pledge|Li|2026-11-22 10:20|A1-Payer|A2-Payee|10.00 yuan|CNY|");
     EXPECT_EQ(form.m_lbPurValue->Caption(), Bytes(78) + " a");
+    EXPECT_EQ(form.m_lbPurValue->Hint(), Bytes(79));
+    EXPECT_EQ(form.m_lbAmtValue->Hint(), "10.00 yuan");
     ASSERT_EQ(form.m_lvMain->Items().Count(), 2);
     EXPECT_EQ(form.m_lvMain->Items()[1]->Caption(), "Wang");
     // A width of 0 hides a column, and here leaves it without a format.
@@ -126,6 +128,7 @@ TEST_F(AuditFoot, AFailingColumnTableIsReportedAndAPurposeWithoutEndStaysOnTheSc
   record["INMEMO"] = Bytes(2000000);
   WhenShown<TfrmEBillAuditFoot> look([](TfrmEBillAuditFoot& form) {
     EXPECT_LT(form.Height(), Screen->Height());
+    EXPECT_TRUE(form.m_lbPurValue->Hint() == Bytes(2000000));
     EXPECT_EQ(form.m_lvMain->Columns().Count(), 0);
     form.Close();
   });

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
+
 #include "toolkit/string_list.h"
 
 TEST(Text, IsTrimmedOfBlanksAndControlCharactersOnly) {
@@ -21,6 +23,15 @@ TEST(Text, CrossesTheEdgeAndComesBack) {
 TEST(Text, AToolTipIsNoMarkupAndKeepsItsLines) {
   EXPECT_TRUE(ToToolTip("").isEmpty());
   EXPECT_EQ(ToToolTip("a<b>&\nc"), "<span>a&lt;b&gt;&amp;<br>c</span>");
+}
+
+TEST(Text, AToolTipOfAnyLengthStaysOnTheScreen) {
+  const std::string value = Ansi("银") + std::string(1000, 'a');
+  QLabel tip(ToToolTip(value));
+  tip.setWordWrap(true);
+  EXPECT_LT(tip.sizeHint().width(), 1000);
+  EXPECT_EQ(FromQt(ToToolTip(value).remove(QChar(0x200b))), "<span>" + value + "</span>");
+  EXPECT_LT(ToToolTip(std::string(2000000, 'a')).size(), 25000);
 }
 
 TEST(Strings, TellTheirOwnerOfEachChange) {
