@@ -11,7 +11,10 @@ bool IsAscii(std::string_view text) {
 
 // The first start of a character at or behind `goal`, going from `at`, which is one.
 std::size_t StepTo(std::string_view text, std::size_t at, std::size_t goal) {
-  while (at < goal) at += norvik::CharacterLength(text, at);
+  if (const norvik::CharacterBounds* bounds = norvik::AnsiBounds())
+    while (at < goal) at += bounds->Length(text, at);
+  else
+    while (at < goal) at += norvik::CharacterLength(text, at);
   return at;
 }
 

@@ -48,7 +48,7 @@ constexpr std::string_view kDeclaration = "xmlns:";
 
 // U+FFFE and U+FFFF, which only UTF-8 can hold of all code pages.
 bool HoldsNoncharacter(std::string_view run) {
-  if (norvik::IsDoubleByteCodePage()) return false;
+  if (norvik::AnsiBounds()) return false;
   const std::u16string wide = norvik::Widen(run);
   return wide.find(u'\xFFFE') != std::u16string::npos || wide.find(u'\xFFFF') != std::u16string::npos;
 }
@@ -208,8 +208,8 @@ void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key)
     out_.append(value, at, end - at);
     at = end;
     if (at == value.size() || kindAt(at) != Kind::kForeign) continue;
-    out_ += '?';  // a byte that starts no character of the code page
-    ++at;
+    out_ += '?';  // what the code page has no character for
+    at += norvik::CharacterLength(value, at);
   }
 }
 

@@ -1,6 +1,7 @@
-// What holds for each class of documents and every text, in a double-byte code page and in UTF-8: the text is
-// read or refused with the class's own keys; what was read is written, or refused with the class's own key;
-// what was written is read again, is the same document, and is written as the same text.
+// What holds for each class of documents and every text, in a double-byte code page, in one with pairs that
+// are no characters, and in UTF-8: the text is read or refused with the class's own keys; what was read is
+// written, or refused with the class's own key; what was written is read again, is the same document, and is
+// written as the same text.
 #pragma once
 
 #include <algorithm>
@@ -128,7 +129,7 @@ inline bool TagsTell(const corvane::CorvaneStream& stream) {
 
 template <class Document>
 void RoundTrip(std::string_view text, Keys readKeys, Keys writeKeys) {
-  for (const unsigned codePage : {936U, 65001U}) {
+  for (const unsigned codePage : {936U, 949U, 65001U}) {
     norvik::SetAnsiCodePage(codePage);
     std::optional<Document> first;
     if (!Passes(readKeys, [&] { first.emplace(text); })) {

@@ -57,7 +57,7 @@ FUZZ_TEXT(text) {
   const std::size_t end = std::min(text.find('\n'), text.size());
   const std::string_view separator = text.substr(0, end);
   const std::string_view rest = text.substr(std::min(end + 1, text.size()));
-  for (const unsigned codePage : {936U, 65001U}) {
+  for (const unsigned codePage : {936U, 949U, 65001U}) {
     norvik::SetAnsiCodePage(codePage);
     JoinWhatWasSplit(rest, separator);
     SplitWhatWasJoined(rest);

@@ -1,7 +1,5 @@
 #include "platform/code_page.h"
 
-#include <iconv.h>
-
 #include <array>
 #include <atomic>
 #include <bit>
@@ -12,119 +10,22 @@
 #include <mutex>
 #include <stdexcept>
 
+#include "platform/code_page_tables.h"
+
 namespace norvik {
 namespace {
 
 constexpr unsigned kUtf8CodePage = 65001;
-constexpr char16_t kReplacement = 0xFFFD;
-constexpr char16_t kNone = 0;  // in a table: no such character; U+0000 itself is byte 0 and never looked up
-
-// One code page in tables. A code is a byte, or lead byte * 256 + second byte.
-struct CodePage {
-  unsigned number = 0;
-  bool doubleByte = false;
-  std::array<char16_t, 65536> unit{};       // code to UTF-16 unit
-  std::array<std::uint16_t, 65536> code{};  // UTF-16 unit to code
-  std::array<std::uint32_t, 65536> utf8{};  // code to the bytes of UTF-8, first byte lowest
-  std::array<std::uint8_t, 65536> utf8Size{};
-  std::array<bool, 256> lead{};
-
-  char16_t Single(unsigned char byte) const { return unit[byte]; }
-  char16_t Double(unsigned char first, unsigned char second) const { return unit[first * 256U + second]; }
-};
-
-std::uint8_t PutUtf8(std::uint32_t character, char* out) {
-  const auto put = [&](int at, std::uint32_t byte) { out[at] = static_cast<char>(byte); };
-  if (character < 0x80) {
-    put(0, character);
-    return 1;
-  }
-  if (character < 0x800) {
-    put(0, 0xC0 | character >> 6);
-    put(1, 0x80 | (character & 0x3F));
-    return 2;
-  }
-  if (character < 0x10000) {
-    put(0, 0xE0 | character >> 12);
-    put(1, 0x80 | (character >> 6 & 0x3F));
-    put(2, 0x80 | (character & 0x3F));
-    return 3;
-  }
-  put(0, 0xF0 | character >> 18);
-  put(1, 0x80 | (character >> 12 & 0x3F));
-  put(2, 0x80 | (character >> 6 & 0x3F));
-  put(3, 0x80 | (character & 0x3F));
-  return 4;
-}
-
-class Converter {
- public:
-  explicit Converter(unsigned codePage)
-      : handle_(iconv_open("UTF-16LE", ("CP" + std::to_string(codePage)).c_str())) {
-    if (handle_ == reinterpret_cast<iconv_t>(-1))
-      throw std::invalid_argument("code page " + std::to_string(codePage) + " is not known here");
-  }
-  ~Converter() { iconv_close(handle_); }
-  Converter(const Converter&) = delete;
-  Converter& operator=(const Converter&) = delete;
-
-  // The one UTF-16 unit that the bytes stand for; kNone where they are not one whole character.
-  char16_t Unit(std::string_view bytes) {
-    std::array<char, 2> in{};
-    std::memcpy(in.data(), bytes.data(), bytes.size());
-    std::array<unsigned char, 8> out{};
-    char* from = in.data();
-    char* to = reinterpret_cast<char*>(out.data());
-    std::size_t left = bytes.size();
-    std::size_t room = out.size();
-    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-    if (iconv(handle_, &from, &left, &to, &room) != 0 || left != 0 || room != out.size() - 2) return kNone;
-    return static_cast<char16_t>(out[0] | out[1] << 8);
-  }
-
- private:
-  iconv_t handle_;
-};
-
-void Enter(CodePage& page, unsigned code, char16_t unit) {
-  page.unit[code] = unit;
-  if (page.code[unit] == 0) page.code[unit] = static_cast<std::uint16_t>(code);
-  std::array<char, 4> bytes{};
-  page.utf8Size[code] = PutUtf8(unit, bytes.data());
-  std::memcpy(&page.utf8[code], bytes.data(), bytes.size());
-}
-
-std::unique_ptr<CodePage> MakeCodePage(unsigned number) {
-  Converter converter(number);
-  auto page = std::make_unique<CodePage>();
-  page->number = number;
-  for (unsigned byte = 0; byte < 256; ++byte) {
-    const char single = static_cast<char>(byte);
-    if (const char16_t unit = converter.Unit({&single, 1})) Enter(*page, byte, unit);
-  }
-  if (number == 936) Enter(*page, 0x80, 0x20AC);
-  for (unsigned first = 0x80; first < 256; ++first) {
-    if (page->unit[first] != kNone) continue;
-    for (unsigned second = 0x40; second < 256; ++second) {
-      const std::array<char, 2> pair{static_cast<char>(first), static_cast<char>(second)};
-      const char16_t unit = converter.Unit({pair.data(), pair.size()});
-      if (unit == kNone) continue;
-      Enter(*page, first * 256 + second, unit);
-      page->lead[first] = page->doubleByte = true;
-    }
-  }
-  return page;
-}
 
 // The tables of a code page, made at first use and kept until the process ends.
-const CodePage& Tables(unsigned number) {
+const CodePageTables& Tables(unsigned number) {
   static std::mutex guard;
-  static std::map<unsigned, std::unique_ptr<CodePage>> pages;
+  static std::map<unsigned, std::unique_ptr<CodePageTables>> pages;
   const std::lock_guard<std::mutex> lock(guard);
   auto& page = pages[number];
   if (!page) {
     try {
-      page = MakeCodePage(number);
+      page = MakeCodePageTables(number);
     } catch (...) {
       pages.erase(number);
       throw;
@@ -134,12 +35,12 @@ const CodePage& Tables(unsigned number) {
 }
 
 // The ANSI code page; null stands for 65001, which has no tables.
-std::atomic<const CodePage*>& AnsiTables() {
-  static std::atomic<const CodePage*> tables(&Tables(936));
+std::atomic<const CodePageTables*>& AnsiTables() {
+  static std::atomic<const CodePageTables*> tables(&Tables(936));
   return tables;
 }
 
-const CodePage* TablesFor(unsigned codePage) {
+const CodePageTables* TablesFor(unsigned codePage) {
   if (codePage == 0) return AnsiTables().load(std::memory_order_relaxed);
   return codePage == kUtf8CodePage ? nullptr : &Tables(codePage);
 }
@@ -168,20 +69,16 @@ Utf8Character Utf8At(std::string_view text, std::size_t at) {
   return {value, size, true};
 }
 
-// The code of the character at `at` and its bytes; code 0 where a byte of 0x80 or above starts none.
+// The code of the character at `at` and its bytes.
 struct AnsiCode {
   unsigned code;
   std::size_t size;
 };
 
-AnsiCode CodeAt(const CodePage& page, std::string_view text, std::size_t at) {
-  const auto first = static_cast<unsigned char>(text[at]);
-  if (page.unit[first] != kNone) return {first, 1};
-  if (page.lead[first] && at + 1 < text.size()) {
-    const unsigned code = first * 256U + static_cast<unsigned char>(text[at + 1]);
-    if (page.unit[code] != kNone) return {code, 2};
-  }
-  return {0, 1};
+AnsiCode CodeAt(const CodePageTables& page, std::string_view text, std::size_t at) {
+  const unsigned first = static_cast<unsigned char>(text[at]);
+  if (page.bounds.Length(text, at) == 1) return {first, 1};
+  return {first * 256 + static_cast<unsigned char>(text[at + 1]), 2};
 }
 
 void AppendCode(unsigned code, std::string& out) {
@@ -207,19 +104,14 @@ Utf8Character Utf16At(std::u16string_view text, std::size_t at) {
   return {kReplacement, 1, false};
 }
 
-void NarrowCharacter(const CodePage& page, Utf8Character character, std::string& out) {
-  const unsigned code = character.valid && character.value < 0x10000 ? page.code[character.value] : 0U;
-  if (character.valid && character.value == 0)
-    out += '\0';
-  else if (code == 0)
-    out += '?';
-  else
-    AppendCode(code, out);
+// The code of a character; '?' where the page lacks it.
+unsigned NarrowCode(const CodePageTables& page, Utf8Character character) {
+  return character.valid && character.value < 0x10000 ? page.code[character.value] : '?';
 }
 
-// The code of a character of UTF-8; 0 where the page lacks it. A character never takes more bytes in a page
-// than in UTF-8.
-unsigned NarrowCode(const CodePage& page, std::string_view utf8, std::size_t& at) {
+// The same of the character of UTF-8 at `at`, which moves past it. A character never takes more bytes in a
+// page than in UTF-8.
+unsigned NextNarrowCode(const CodePageTables& page, std::string_view utf8, std::size_t& at) {
   const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(utf8[at + offset]); };
   // Most are of three bytes; E0 and ED, which don't go with every second byte, take the long way.
   if (at + 3 <= utf8.size() && byte(0) > 0xE0 && byte(0) < 0xF0 && byte(0) != 0xED &&
@@ -230,10 +122,10 @@ unsigned NarrowCode(const CodePage& page, std::string_view utf8, std::size_t& at
   }
   const Utf8Character character = Utf8At(utf8, at);
   at += character.size;
-  return character.valid && character.value < 0x10000 ? page.code[character.value] : 0U;
+  return NarrowCode(page, character);
 }
 
-void AppendNarrow(const CodePage& page, std::string_view utf8, std::string& out) {
+void AppendNarrow(const CodePageTables& page, std::string_view utf8, std::string& out) {
   const std::size_t before = out.size();
   out.resize(before + utf8.size());
   char* to = out.data() + before;
@@ -243,9 +135,9 @@ void AppendNarrow(const CodePage& page, std::string_view utf8, std::string& out)
     to += plain;
     at += plain;
     while (at < utf8.size() && static_cast<signed char>(utf8[at]) < 0) {
-      const unsigned code = NarrowCode(page, utf8, at);
+      const unsigned code = NextNarrowCode(page, utf8, at);
       if (code > 0xFF) *to++ = static_cast<char>(code >> 8);
-      *to++ = code == 0 ? '?' : static_cast<char>(code & 0xFF);
+      *to++ = static_cast<char>(code & 0xFF);
     }
   }
   out.resize(static_cast<std::size_t>(to - out.data()));
@@ -269,12 +161,12 @@ void SetAnsiCodePage(unsigned codePage) {
 }
 
 unsigned AnsiCodePage() {
-  const CodePage* page = TablesFor(0);
+  const CodePageTables* page = TablesFor(0);
   return page ? page->number : kUtf8CodePage;
 }
 
 std::u16string Widen(std::string_view text, unsigned codePage) {
-  const CodePage* page = TablesFor(codePage);
+  const CodePageTables* page = TablesFor(codePage);
   std::u16string out;
   out.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
@@ -285,20 +177,20 @@ std::u16string Widen(std::string_view text, unsigned codePage) {
       continue;
     }
     const AnsiCode found = CodeAt(*page, text, at);
-    out += text[at] == 0 ? u'\0' : found.code == 0 ? kReplacement : page->unit[found.code];
+    out += page->unit[found.code];
     at += found.size;
   }
   return out;
 }
 
 std::string Narrow(std::u16string_view text, unsigned codePage) {
-  const CodePage* page = TablesFor(codePage);
+  const CodePageTables* page = TablesFor(codePage);
   std::string out;
   out.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     const Utf8Character character = Utf16At(text, at);
     if (page) {
-      NarrowCharacter(*page, character, out);
+      AppendCode(NarrowCode(*page, character), out);
     } else if (!character.valid) {
       out += '?';
     } else {
@@ -324,7 +216,7 @@ std::string AnsiFromUtf8(std::string_view utf8) {
 }
 
 void AppendAnsiFromUtf8(std::string_view utf8, std::string& out) {
-  const CodePage* page = TablesFor(0);
+  const CodePageTables* page = TablesFor(0);
   if (page) {
     AppendNarrow(*page, utf8, out);
     return;
@@ -340,7 +232,7 @@ void AppendAnsiFromUtf8(std::string_view utf8, std::string& out) {
 }
 
 std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t limit, char* out) {
-  const CodePage* page = TablesFor(0);
+  const CodePageTables* page = TablesFor(0);
   const std::size_t end = text.size() - at < limit ? text.size() : at + limit;
   if (!page) return DecodeValidUtf8(text, at, end, out);
   char* to = out;
@@ -351,13 +243,10 @@ std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t lim
     at += plain;
     while (at < end && static_cast<signed char>(text[at]) < 0) {
       const AnsiCode found = CodeAt(*page, text, at);
+      const Utf8Unit& utf8 = page->utf8[found.code];
+      std::memcpy(to, utf8.bytes.data(), utf8.bytes.size());
+      to += utf8.size;
       at += found.size;
-      if (found.code == 0) {
-        to += PutUtf8(kReplacement, to);
-        continue;
-      }
-      std::memcpy(to, &page->utf8[found.code], 3);
-      to += page->utf8Size[found.code];
     }
   }
   return static_cast<std::size_t>(to - out);
@@ -382,29 +271,29 @@ std::size_t AsciiRun(std::string_view text) {
   return at;
 }
 
-bool IsLeadByte(unsigned char byte) {
-  const CodePage* page = TablesFor(0);
-  return page && page->lead[byte];
+const CharacterBounds* AnsiBounds() {
+  const CodePageTables* page = TablesFor(0);
+  return page ? &page->bounds : nullptr;
 }
 
-bool IsDoubleByteCodePage() {
-  const CodePage* page = TablesFor(0);
-  return page && page->doubleByte;
+bool IsLeadByte(unsigned char byte) {
+  const CodePageTables* page = TablesFor(0);
+  return page && page->bounds.IsLead(byte);
 }
 
 std::size_t CharacterLength(std::string_view text, std::size_t at) {
   if (at >= text.size()) return 0;
-  const CodePage* page = TablesFor(0);
-  return page ? CodeAt(*page, text, at).size : Utf8At(text, at).size;
+  const CodePageTables* page = TablesFor(0);
+  return page ? page->bounds.Length(text, at) : Utf8At(text, at).size;
 }
 
 std::size_t EndOfValidRun(std::string_view text, std::size_t from) {
-  const CodePage* page = TablesFor(0);
+  const CodePageTables* page = TablesFor(0);
   std::size_t at = from;
   while (at < text.size() && static_cast<signed char>(text[at]) < 0) {
     if (page) {
       const AnsiCode found = CodeAt(*page, text, at);
-      if (found.code == 0) return at;
+      if (page->unit[found.code] == kReplacement) return at;
       at += found.size;
     } else {
       const Utf8Character character = Utf8At(text, at);

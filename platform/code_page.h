@@ -1,17 +1,22 @@
 // Narrow text and its code page.
 //
 // A narrow string is bytes in the process's ANSI code page: 936 unless SetAnsiCodePage names another.
-// Single-byte and double-byte code pages known to iconv as "CP<number>" are served, and 65001 (UTF-8). One
-// rule holds for what a code page lacks: a byte that starts no character of it widens to one U+FFFD and the
-// next byte is looked at afresh; a character that it cannot express (a surrogate pair is one, a lone
-// surrogate too) narrows to one '?'. Byte 0x80 of code page 936 is the euro sign, both ways. In a double-byte
-// code page a second byte may look like an ASCII character: 118 characters of code page 936 end in 0x5C.
-// Whoever searches or cuts narrow text steps by CharacterLength, or uses data/character_steps.h, which does.
+// Served are 65001 (UTF-8) and the Windows code pages whose characters are bytes and pairs and begin with
+// ASCII: 874, 932, 936, 949, 950, 1250 to 1257 and the like, with the tables that ICU has of them. Refused
+// are 1258, which writes accents apart from their letters, and those of EBCDIC, UTF-16, shifted or longer
+// codes. In code page 936 each of the 23,940 pairs, 0x80 (the euro sign) and 0xFF come back unchanged, the
+// user-defined characters among them. One rule holds for what a code page lacks: a character without a code
+// point widens to one U+FFFD, one that it cannot express (a surrogate pair is one, a lone surrogate too)
+// narrows to one '?', and its neighbours stay whole. Where a character ends says platform/character_bounds.h.
+// A second byte may look like an ASCII character: 126 pairs of code page 936 end in 0x5C. Whoever searches or
+// cuts narrow text steps by CharacterLength, or uses data/character_steps.h, which does.
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "platform/character_bounds.h"
 
 namespace norvik {
 
@@ -43,14 +48,14 @@ std::size_t DecodeToUtf8(std::string_view text, std::size_t& at, std::size_t lim
 // Bytes of the run of ASCII at the beginning of `text`.
 std::size_t AsciiRun(std::string_view text);
 
+// Where the characters of the ANSI code page end; null in UTF-8. Valid until the process ends.
+const CharacterBounds* AnsiBounds();
+
 // True for a byte that opens a two-byte character of the ANSI code page.
 bool IsLeadByte(unsigned char byte);
 
-// True in a code page with two-byte characters.
-bool IsDoubleByteCodePage();
-
-// Bytes of the character that starts at `at`: 2 for a lead byte with a second byte that makes a character of
-// the code page, the whole sequence in UTF-8, otherwise 1; 0 at or behind the end.
+// Bytes of the character that starts at `at`: as CharacterBounds says, in UTF-8 the whole sequence or 1 where
+// there is none; 0 at or past the end.
 std::size_t CharacterLength(std::string_view text, std::size_t at);
 
 // The end of the run of bytes of 0x80 and above, together with their second bytes, that starts at `from` and

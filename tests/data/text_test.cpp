@@ -45,6 +45,7 @@ TEST(StringVector, Splits) {
       {kBackslash + ",b", ",", true, {kBackslash, "b"}},
       {"a" + kBar + "b|c", "|", true, {"a" + kBar + "b", "c"}},
       {kBar + kBar + "|", "|", true, {kBar + kBar}},
+      {"\xA1|\xAA\xA1||b", "|", true, {"\xA1|\xAA\xA1", "", "b"}},
       {kBackslash + "\\," + kBackslash, ",", true, {kBackslash + "," + kBackslash}},
       {"1" + kLetter + "A2", "A", true, {"1" + kLetter, "2"}},
   };
@@ -91,6 +92,9 @@ TEST(Text, StepsByCharacter) {
   EXPECT_EQ(findText("\xFF|", "|"), 1U);
   EXPECT_EQ(findText(kLetter + "\x81\x81", "\x81"), std::string::npos);
   EXPECT_EQ(findText(kLetter + "\x81", "\x81"), 2U);
+  norvik::SetAnsiCodePage(949);
+  EXPECT_EQ(findText("\xC9||", "|"), 2U);  // no character, and yet one pair
+  EXPECT_EQ(cutText("a\xC9|", 2), "a");
   norvik::SetAnsiCodePage(65001);
   EXPECT_EQ(findText("你\xBD", "\xBD"), 3U);
   EXPECT_EQ(findText("a你", "\xE4"), std::string::npos);

@@ -1,0 +1,41 @@
+// The tables of one code page, made from those that ICU has of the Windows code pages.
+//
+// Used by code_page.cpp alone, which holds what is done with them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "platform/character_bounds.h"
+
+namespace norvik {
+
+inline constexpr char16_t kReplacement = 0xFFFD;
+
+// A UTF-16 unit as UTF-8.
+struct Utf8Unit {
+  std::array<char, 3> bytes;
+  std::uint8_t size;
+};
+
+// A code is a byte, or lead byte * 256 + second byte.
+struct CodePageTables {
+  CodePageTables();
+
+  unsigned number = 0;
+  CharacterBounds bounds;
+  std::array<char16_t, 65536> unit;       // of each code; U+FFFD where it has no character
+  std::array<Utf8Unit, 65536> utf8;       // of each code likewise
+  std::array<std::uint16_t, 65536> code;  // of each UTF-16 unit; '?' where the code page lacks it
+};
+
+// Writes a character as UTF-8 to `out`, which has room for 4 bytes, and returns how many it takes.
+std::size_t PutUtf8(std::uint32_t character, char* out);
+
+// Makes the tables. Throws std::invalid_argument for a code page that can't be served by tables of bytes and
+// pairs whose first 128 are ASCII, or that ICU does not have.
+std::unique_ptr<CodePageTables> MakeCodePageTables(unsigned number);
+
+}  // namespace norvik
