@@ -1,6 +1,7 @@
 #include "data/string_vector.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "data/character_steps.h"
 #include "data/string_buffer.h"
@@ -13,10 +14,10 @@ std::string Unescaped(std::string_view token, std::string_view separator) {
   return replaceAll(replaceAll(token, "\\\\", "\\"), "\\" + std::string(separator), separator);
 }
 
-// Behind one backslash, but not behind two: only the two characters before the hit count, whatever stands
-// before them. `last` is the end of the hit before this one.
-bool IsEscaped(std::string_view text, std::size_t hit, std::size_t last) {
-  return isBehindBackslash(text, hit, last) && !isBehindBackslash(text, hit - 1, last);
+// After one backslash, but not after two: only the two characters before the hit count, whatever they belong
+// to. `before` is the start of a character, two characters or more before the hit if there are so many.
+bool IsEscaped(std::string_view text, std::size_t hit, std::size_t before) {
+  return isBehindBackslash(text, hit, before) && !isBehindBackslash(text, hit - 1, before);
 }
 
 }  // namespace
@@ -27,8 +28,10 @@ StringVector::StringVector(std::string_view text, std::string_view separator, bo
 
 void StringVector::fromString(std::string_view text, std::string_view separator, bool unescape) {
   if (text.empty() || separator.empty()) return;
-  const std::string source(text);  // `text` may be one of the entries
+  const std::string source(text);  // both texts may be entries of this list
+  const std::string mark(separator);
   text = source;
+  separator = mark;
   clear();
   const auto push = [&](std::string_view token) {
     push_back(unescape ? Unescaped(token, separator) : std::string(token));
@@ -38,14 +41,15 @@ void StringVector::fromString(std::string_view text, std::string_view separator,
     return;
   }
   std::size_t start = 0;
+  std::size_t before = 0;  // the hit before the last one
   std::size_t last = 0;
   for (std::size_t hit = findText(text, separator); hit != std::string_view::npos;
-       hit = findText(text, separator, last)) {
-    const bool escaped = IsEscaped(text, hit, last);
-    last = hit + separator.size();
+       hit = findText(text, separator, last + separator.size())) {
+    const bool escaped = IsEscaped(text, hit, before);
+    before = std::exchange(last, hit);
     if (escaped) continue;
     push(text.substr(start, hit - start));
-    start = last;
+    start = hit + separator.size();
   }
   if (start < text.size()) push(text.substr(start));
 }

@@ -48,6 +48,9 @@ TEST(StringVector, Splits) {
       {"\xA1|\xAA\xA1||b", "|", true, {"\xA1|\xAA\xA1", "", "b"}},
       {kBackslash + "\\," + kBackslash, ",", true, {kBackslash + "," + kBackslash}},
       {"1" + kLetter + "A2", "A", true, {"1" + kLetter, "2"}},
+      {"a\\\\b", "\\", false, {"a", "\\b"}},
+      {"ax\\x\\b", "x\\", false, {"a", "x\\b"}},
+      {"ax\\\\x\\b", "x\\", false, {"a", "\\", "b"}},
   };
   for (const Split& one : cases)
     EXPECT_EQ(StringVector(one.text, one.separator, one.unescape), one.entries) << one.text;
@@ -60,6 +63,9 @@ TEST(StringVector, LeavesTheListAloneWhereThereIsNothingToSplit) {
   EXPECT_EQ(list, StringVector{"a"});
   list.fromString(list[0], ",", true);
   EXPECT_EQ(list, StringVector{"a"});
+  StringVector own{"a separator of many bytes", "b"};
+  own.fromString("1a separator of many bytes2", own[0], true);
+  EXPECT_EQ(own, (StringVector{"1", "2"}));
 }
 
 TEST(StringVector, JoinsAndComesBack) {
