@@ -10,6 +10,8 @@ TException::TException(std::string key) {
 
 TException::TException(StringVector texts) : errors_(std::move(texts)) {}
 
+TException::TException(std::initializer_list<std::string_view> texts) : errors_(texts.begin(), texts.end()) {}
+
 TException::~TException() = default;
 
 StringVector TException::getErrors() const {

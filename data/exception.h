@@ -2,7 +2,9 @@
 #pragma once
 
 #include <exception>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 
 #include "data/string_vector.h"
 
@@ -14,6 +16,8 @@ class TException : public std::exception {
  public:
   explicit TException(std::string key);
   explicit TException(StringVector texts);
+  // The same from texts in braces.
+  explicit TException(std::initializer_list<std::string_view> texts);
   TException(const TException&) = default;
   TException& operator=(const TException&) = default;
   ~TException() override;

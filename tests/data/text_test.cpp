@@ -192,6 +192,7 @@ TEST(Exceptions, CarryTheirTexts) {
   failure.addErrors(failure.getErrors());
   EXPECT_EQ(failure.getMessage("\r\n"), "ET10016\r\na\r\nb\r\nET10016\r\na\r\nb");
   EXPECT_EQ(TException(StringVector{"x", "y"}).getMessage(",", true), "x,y,");
+  EXPECT_EQ(TException({"x", "y"}).getMessage(","), "x,y");
   try {
     throw TIOException("CF00001", "the host's words");
   } catch (const TException& caught) {
