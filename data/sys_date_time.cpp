@@ -1,6 +1,7 @@
 #include "data/sys_date_time.h"
 
 #include <chrono>
+#include <limits>
 
 #include "platform/ticks.h"
 
@@ -26,7 +27,9 @@ void TSysDateTime::setTime(std::int64_t millis) {
 }
 
 std::int64_t TSysDateTime::getMillis() const {
-  return base_ + static_cast<std::uint32_t>(norvik::TickCount() - tickBase_);
+  constexpr std::int64_t kLast = std::numeric_limits<std::int64_t>::max();
+  const std::int64_t passed = static_cast<std::uint32_t>(norvik::TickCount() - tickBase_);
+  return base_ > kLast - passed ? kLast : base_ + passed;
 }
 
 std::tm TSysDateTime::Local() const {

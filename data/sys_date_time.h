@@ -16,7 +16,7 @@ class TSysDateTime {
 
   // Starts afresh from `millis`.
   void setTime(std::int64_t millis);
-  // The time set last and what has passed since.
+  // The time set last and what has passed since; at most the greatest number of 64 bits.
   std::int64_t getMillis() const;
 
   // Four-digit year; month 1 to 12; day 1 to 31.

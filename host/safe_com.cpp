@@ -8,6 +8,7 @@
 namespace {
 
 constexpr const char* kConvertedLanguage = "Traditional Chinese";
+constexpr int kLastYear = 9999;                           // dates have eight digits
 constexpr std::int64_t kEndOfYear9999 = 253402300799999;  // milliseconds since 1970-01-01 00:00:00 UTC
 
 }  // namespace
@@ -49,7 +50,11 @@ std::string SafeComIntf::Exchange(const std::string& code, const std::string& te
 corvane::TSysDateTime& SafeComIntf::GetServerTime() {
   std::int64_t milliseconds = 0;
   m_functions.Function<void(std::int64_t*)>(8)(&milliseconds);
-  if (milliseconds < 0 || milliseconds > kEndOfYear9999) throw corvane::TException(norvik::key::kAbsurdTime);
-  m_serverTime.setTime(milliseconds);
+  corvane::TSysDateTime time;
+  time.setTime(milliseconds);
+  // Where local time is ahead, the year 10000 begins earlier.
+  if (milliseconds < 0 || milliseconds > kEndOfYear9999 || time.getYear() > kLastYear)
+    throw corvane::TException(norvik::key::kAbsurdTime);
+  m_serverTime = time;
   return m_serverTime;
 }

@@ -30,7 +30,8 @@ class SafeComIntf {
   std::string SendText(const std::string& code, const std::string& text, std::int32_t flag);
 
   /// The bank's time, which runs on until the next call: all results are one object. TException "CF30006" if
-  /// the host's time lies before 1970 or after the year 9999, and the time before stays.
+  /// the host's time lies before 1970 or after the year 9999, in UTC or in local time, and the time before
+  /// stays.
   corvane::TSysDateTime& GetServerTime();
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as

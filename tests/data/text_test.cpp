@@ -1,6 +1,7 @@
 // Strings, lists of strings, exceptions, wide text and the clock.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <ctime>
 #include <string>
@@ -232,10 +233,14 @@ TEST(Clock, TellsLocalTime) {
 TEST(Clock, RunsOn) {
   TSysDateTime clock;
   clock.setTime(1000);
+  TSysDateTime last;
+  last.setTime(INT64_MAX);
   const timespec pause{0, 30'000'000};
   nanosleep(&pause, nullptr);
   EXPECT_GE(clock.getMillis(), 1025);
   EXPECT_LT(clock.getMillis(), 60'000);
+  EXPECT_EQ(last.getMillis(), INT64_MAX);
+  EXPECT_EQ(last.getYear(), 292278994);
 }
 
 }  // namespace

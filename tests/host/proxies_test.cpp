@@ -217,6 +217,12 @@ TEST(SafeCom, KeepsOneServerTime) {
         << absurd;
     EXPECT_EQ(first.getDateTime().size(), 14u);
   }
+  setenv("TZ", "CST-8", 1);  // where the year 10000 begins eight hours earlier
+  tzset();
+  host.serverTime = INT64_C(253402300799999);
+  EXPECT_EQ(FailureOf([&] { services.safeCom->GetServerTime(); }), (Failure{"TException", {"CF30006"}}));
+  setenv("TZ", "UTC", 1);
+  tzset();
   host.serverTime = 1600000000000;
   EXPECT_EQ(&services.safeCom->GetServerTime(), &first);
   EXPECT_NEAR(static_cast<double>(first.getMillis()), 1600000000000., 60000.);
