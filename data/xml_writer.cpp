@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 #include "data/exception.h"
@@ -45,6 +46,13 @@ std::string_view Escaped(char byte, bool inAttribute) {
 }
 
 constexpr std::string_view kDeclaration = "xmlns:";
+// What "xml" alone is bound to, and what nothing may be bound to.
+constexpr std::string_view kXmlSpace = "http://www.w3.org/XML/1998/namespace";
+constexpr std::string_view kDeclarationSpace = "http://www.w3.org/2000/xmlns/";
+
+bool IsPrefixed(std::string_view name) {
+  return name.find(':') != std::string_view::npos;
+}
 
 // U+FFFE and U+FFFF, which only UTF-8 can hold of all code pages.
 bool HoldsNoncharacter(std::string_view run) {
@@ -56,11 +64,13 @@ bool HoldsNoncharacter(std::string_view run) {
 }  // namespace
 
 XmlWriter::XmlWriter(std::string_view encoding) {
-  const auto forbidden = [](char byte) { return byte == '"' || (byte >= 0 && byte < 0x20); };
-  if (std::any_of(encoding.begin(), encoding.end(), forbidden) ||
-      encoding.find("?>") != std::string_view::npos)
-    throw TException("ET10071");
+  if (!takesLabel(encoding)) throw TException("ET10071");
   out_.append("<?xml version=\"1.0\" encoding=\"").append(encoding).append("\"?>");
+}
+
+bool XmlWriter::takesLabel(std::string_view label) {
+  const auto forbidden = [](char byte) { return byte == '"' || (byte >= 0 && byte < 0x20); };
+  return std::none_of(label.begin(), label.end(), forbidden) && label.find("?>") == std::string_view::npos;
 }
 
 void XmlWriter::field(const Field& field) {
@@ -70,9 +80,9 @@ void XmlWriter::field(const Field& field) {
   Leaf({0, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"}, field.getValue());
 }
 
-void XmlWriter::row(const Row& row) {
+void XmlWriter::RowUnder(std::string_view tag, const Row& row) {
   if (row.shape_ && row.shape_.get() != shape_.get()) Prepare(row.shape_);
-  Write(row, row.name(), row.size() != 0, [&] {
+  Write(row, tag, row.size() != 0, [&] {
     for (const ColumnTags& column : columns_) {
       if (prefixed_) CheckPrefix(column.name, "ET10062");
       Leaf(column, row.cells_.value(column.slot));
@@ -80,8 +90,8 @@ void XmlWriter::row(const Row& row) {
   });
 }
 
-void XmlWriter::list(const List& list) {
-  Write(list, list.name(), list.size() != 0, [&] { Rows(list); });
+void XmlWriter::ListUnder(std::string_view tag, const List& list) {
+  Write(list, tag, list.size() != 0, [&] { Rows(list); });
 }
 
 void XmlWriter::stream(const CorvaneStream& stream) {
@@ -95,25 +105,24 @@ void XmlWriter::stream(const CorvaneStream& stream) {
 
 void XmlWriter::ini(const Ini& ini) {
   Write(ini, "ini", ini.begin() != ini.end(), [&] {
-    for (const auto& [key, section] : ini) row(section);
+    for (const auto& [key, section] : ini) RowUnder("section", section);
   });
 }
 
 void XmlWriter::iniplus(const Iniplus& iniplus) {
   Write(iniplus, "iniplus", iniplus.begin() != iniplus.end(), [&] {
-    for (const auto& [key, section] : iniplus) list(section);
+    for (const auto& [key, section] : iniplus) ListUnder("section", section);
   });
 }
 
 template <class Content>
 void XmlWriter::Write(const Element& element, std::string_view tag, bool hasContent, Content content) {
-  const std::size_t outer = prefixes_.size();
+  const std::size_t outer = bindings_.size();
   const AttributeMap& attributes = element.attributes();
-  if (!attributes.empty()) Declare(attributes);
   CheckName(tag, "ET10062");
-  CheckPrefix(tag, "ET10062");
   out_.append(1, '<').append(tag);
   if (!attributes.empty()) Attributes(attributes);
+  CheckPrefix(tag, "ET10062");
   if (hasContent) {
     out_ += '>';
     content();
@@ -121,24 +130,41 @@ void XmlWriter::Write(const Element& element, std::string_view tag, bool hasCont
   } else {
     out_ += "/>";
   }
-  prefixes_.resize(outer);
+  bindings_.resize(outer);
 }
 
 void XmlWriter::Attributes(const AttributeMap& attributes) {
+  bool prefixed = false;
   for (const auto& [name, value] : attributes) {
     if (value.empty()) continue;
     CheckName(name, "ET10072");
-    if (!name.starts_with(kDeclaration)) CheckPrefix(name, "ET10072");
     out_.append(1, ' ').append(name).append("=\"");
+    const std::size_t begin = out_.size();
     Value(value, true, "ET10073");
+    if (name == "xmlns")
+      Bind({}, std::string_view(out_).substr(begin));
+    else if (name.starts_with(kDeclaration))
+      Bind(std::string_view(name).substr(kDeclaration.size()), std::string_view(out_).substr(begin));
+    else
+      prefixed = prefixed || IsPrefixed(name);
     out_ += '"';
   }
+  if (prefixed) CheckPrefixes(attributes);
 }
 
-void XmlWriter::Declare(const AttributeMap& attributes) {
-  for (const auto& [name, value] : attributes)
-    if (!value.empty() && name.starts_with(kDeclaration))
-      prefixes_.push_back(name.substr(kDeclaration.size()));
+void XmlWriter::Bind(std::string_view prefix, std::string_view space) {
+  if (prefix == "xmlns") throw TException("ET10072");
+  if ((prefix == "xml") != (space == kXmlSpace) || space == kDeclarationSpace) throw TException("ET10073");
+  bindings_.push_back({std::string(prefix), std::string(space)});
+}
+
+void XmlWriter::CheckPrefixes(const AttributeMap& attributes) const {
+  std::set<std::pair<std::string_view, std::string_view>> seen;
+  for (const auto& [name, value] : attributes) {
+    if (value.empty() || !IsPrefixed(name) || name.starts_with(kDeclaration)) continue;
+    const std::string_view local = std::string_view(name).substr(name.find(':') + 1);
+    if (!seen.emplace(SpaceOf(name, "ET10072"), local).second) throw TException("ET10074");
+  }
 }
 
 void XmlWriter::CheckName(std::string_view name, const char* key) {
@@ -146,12 +172,15 @@ void XmlWriter::CheckName(std::string_view name, const char* key) {
   if (!norvik::IsXmlName(ascii ? name : norvik::Utf8FromAnsi(name))) throw TException(key);
 }
 
-void XmlWriter::CheckPrefix(std::string_view name, const char* key) const {
-  const std::size_t colon = name.find(':');
-  if (colon == std::string_view::npos) return;
-  const std::string_view prefix = name.substr(0, colon);
-  if (prefix != "xml" && std::find(prefixes_.begin(), prefixes_.end(), prefix) == prefixes_.end())
-    throw TException(key);
+// The namespace of a name's prefix; fails with `key` for a prefix that is not bound.
+std::string_view XmlWriter::SpaceOf(std::string_view name, const char* key) const {
+  if (!IsPrefixed(name)) return {};
+  const std::string_view prefix = name.substr(0, name.find(':'));
+  if (prefix == "xml") return kXmlSpace;
+  const auto bound = std::find_if(bindings_.rbegin(), bindings_.rend(),
+                                  [&](const Binding& binding) { return binding.prefix == prefix; });
+  if (bound == bindings_.rend()) throw TException(key);
+  return bound->space;
 }
 
 void XmlWriter::Leaf(const ColumnTags& tags, std::string_view value) {
@@ -184,7 +213,7 @@ void XmlWriter::Prepare(const Shared<RowShape>& shape) {
     const std::string& name = shape->name(slot);
     CheckName(name, "ET10062");
     columns_.push_back({slot, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"});
-    prefixed_ = prefixed_ || name.find(':') != std::string::npos;
+    prefixed_ = prefixed_ || IsPrefixed(name);
     tagBytes_ += 2 * name.size() + 5;
   }
   shape_ = shape;

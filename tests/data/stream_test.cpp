@@ -186,6 +186,8 @@ TEST(Ini, KeepsSectionsByName) {
   EXPECT_EQ(copy.getAttributes(), (AttributeMap{{"b", "2"}}));
   EXPECT_TRUE(copy.find("OLD") == copy.end());
   EXPECT_EQ(copy.getSection("S")["X"], "1");
+  copy.begin()->second.setName("other");
+  EXPECT_EQ(KeyOf([&] { Ini(copy.toString()); }), "none");
 }
 
 TEST(Iniplus, ReadsAndWrites) {

@@ -129,6 +129,8 @@ TEST(XmlWriter, EscapesAndReplaces) {
             "b?</A></row>");
 }
 
+const char* const kXmlSpace = "http://www.w3.org/XML/1998/namespace";
+
 TEST(XmlWriter, RefusesWhatNoReaderTakes) {
   struct Case {
     std::string tag;
@@ -159,6 +161,13 @@ TEST(XmlWriter, RefusesWhatNoReaderTakes) {
       {"row", "xmlns", "u", "A", "1", "none"},
       {"row", "a", "1", "xmlns:A", "1", "ET10062"},
       {"xmlns:row", "a", "1", "A", "1", "ET10062"},
+      {"row", "xmlns:xml", kXmlSpace, "xml:A", "1", "none"},
+      {"row", "xmlns:xml", "u", "A", "1", "ET10073"},
+      {"row", "xmlns:xmlns", "u", "A", "1", "ET10072"},
+      {"row", "xmlns:x", kXmlSpace, "A", "1", "ET10073"},
+      {"row", "xmlns", kXmlSpace, "A", "1", "ET10073"},
+      {"row", "xmlns", "http://www.w3.org/2000/xmlns/", "A", "1", "ET10073"},
+      {"row", "xmlns:xml", "", "A", "1", "none"},
   };
   for (const Case& one : cases) {
     Row row;
@@ -183,6 +192,17 @@ TEST(XmlWriter, RefusesALabelThatWouldEndTheProlog) {
     EXPECT_EQ(KeyOf([&] { (void)row.toString(); }), "ET10058") << label;
     EXPECT_EQ(KeyOf([&] { XmlWriter writer(label); }), "ET10071") << label;
   }
+}
+
+TEST(XmlWriter, RefusesAnAttributeUnderTwoPrefixesOfOneNamespace) {
+  CorvaneStream stream;
+  stream.setAttribute("xmlns:a", "u");
+  List list;
+  for (const char* name : {"name", "xmlns:b", "a:x", "b:x"}) list.setAttribute(name, "u");
+  stream.addList(list);
+  EXPECT_EQ(KeyOf([&] { (void)stream.toString(); }), "ET10017");
+  stream.getList("u").setAttribute("xmlns:b", "v");
+  EXPECT_EQ(KeyOf([&] { CorvaneStream(stream.toString()); }), "none");
 }
 
 TEST(XmlWriter, ForgetsAPrefixBehindItsElement) {
