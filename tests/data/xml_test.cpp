@@ -194,6 +194,18 @@ TEST(XmlWriter, RefusesALabelThatWouldEndTheProlog) {
   }
 }
 
+TEST(XmlWriter, WritesThePlainLabelOfWhatWasRead) {
+  const std::vector<std::string> texts = {
+      "<?xml version=\"1.0\" encoding=\"GBK\"\tstandalone=\"yes\"?><row/>",
+      "<?xml version=\"1.0\" encoding=\"GBK\"\n?><row/>",
+      "<?xml version=\"1.0\" encoding='GBK'\r\nstandalone='yes'?><row/>",
+      "<?xml version=\"1.0\" encoding=\t\"GBK\" ?><row/>",
+      "<row>\nencoding=GBK\n</row>",
+  };
+  for (const std::string& text : texts)
+    EXPECT_EQ(Row(text).toString(), "<?xml version=\"1.0\" encoding=\"GBK\"?><row/>") << text;
+}
+
 TEST(XmlWriter, RefusesAnAttributeUnderTwoPrefixesOfOneNamespace) {
   CorvaneStream stream;
   stream.setAttribute("xmlns:a", "u");
