@@ -1,5 +1,9 @@
 #include "data/field.h"
 
+#include <tuple>
+
+#include "data/row.h"
+
 namespace corvane {
 
 Field::Field() = default;
@@ -10,6 +14,19 @@ void Field::clear() {
   Element::clear();
   setName(std::string_view());
   value_.clear();
+}
+
+FieldIterator::reference FieldIterator::Column() const {
+  const std::uint32_t slot = row_->shape_->order()[at_];
+  std::optional<value_type>& pair = pair_.value;
+  if (pair && pair->first != row_->shape_->name(slot)) pair.reset();
+  if (!pair) {
+    pair.emplace(std::piecewise_construct, std::forward_as_tuple(row_->shape_->name(slot)), std::tuple());
+    row_->Show(slot, pair->second);
+  } else if (!row_->Holds(slot, pair->second)) {
+    pair->second = row_->FieldIn(slot);
+  }
+  return *pair;
 }
 
 }  // namespace corvane

@@ -1,9 +1,13 @@
 // A named text, and fields by name.
 #pragma once
 
+#include <cstddef>
+#include <iterator>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "data/element.h"
 
@@ -34,15 +38,104 @@ class Field : public Element {
   bool operator==(const Field& other) const { return name() == other.name(); }
 
  private:
+  friend class FieldIterator;
   friend class Row;
   std::string value_;
 };
 
-// Fields by key, in byte order: unsigned bytes, a beginning before the longer key, case sensitive. `map[key]`
-// makes a missing field with an empty name.
-class MapField : public std::map<std::string, Field, std::less<>> {
+// What a MapField is as a standard map.
+using SortedFields = std::map<std::string, Field, std::less<>>;
+
+class Row;
+
+// Stands at a column of a row or at an entry of a MapField, as a pair of key and Field for reading. At a
+// column the pair is the iterator's own, made when it is first asked for and brought up to date whenever it
+// is asked for again; a reference got through the iterator is valid until the iterator is moved on, assigned
+// to or destroyed. An iterator over a row is valid until a column is added or removed; one over a MapField
+// until its entry is erased.
+class FieldIterator {
  public:
-  using std::map<std::string, Field, std::less<>>::map;
+  using iterator_category = std::input_iterator_tag;
+  using value_type = SortedFields::value_type;
+  using reference = const value_type&;
+  using pointer = const value_type*;
+  using difference_type = std::ptrdiff_t;
+
+  FieldIterator() = default;
+  FieldIterator(SortedFields::const_iterator entry) : entry_(entry) {}
+  FieldIterator(SortedFields::iterator entry) : entry_(entry) {}
+
+  // The pair; neither may be asked for at the end.
+  reference operator*() const { return row_ ? Column() : *entry_; }
+  pointer operator->() const { return &**this; }
+  FieldIterator& operator++() {
+    pair_.value.reset();
+    if (row_)
+      ++at_;
+    else
+      ++entry_;
+    return *this;
+  }
+  FieldIterator operator++(int) {
+    FieldIterator before = *this;
+    ++*this;
+    return before;
+  }
+  FieldIterator& operator--() {
+    pair_.value.reset();
+    if (row_)
+      --at_;
+    else
+      --entry_;
+    return *this;
+  }
+  FieldIterator operator--(int) {
+    FieldIterator before = *this;
+    --*this;
+    return before;
+  }
+  // Compares places; both iterators are over the same row or map.
+  friend bool operator==(const FieldIterator& left, const FieldIterator& right) {
+    return left.at_ == right.at_ && left.entry_ == right.entry_;
+  }
+
+ private:
+  friend class MapField;
+  friend class Row;
+
+  // The pair of one iterator, which its copies don't share.
+  struct Pair {
+    Pair() = default;
+    Pair(const Pair&) {}
+    Pair& operator=(const Pair&) {
+      value.reset();
+      return *this;
+    }
+    ~Pair() = default;
+    std::optional<value_type> value;
+  };
+
+  FieldIterator(const Row* row, std::size_t at) : row_(row), at_(at) {}
+  reference Column() const;
+
+  const Row* row_ = nullptr;              // null over a MapField
+  std::size_t at_ = 0;                    // in a row
+  SortedFields::const_iterator entry_{};  // in a MapField
+  mutable Pair pair_;
+};
+
+// Fields by key, in byte order: unsigned bytes, a beginning before the longer key, case sensitive. `map[key]`
+// makes a missing field with an empty name. A variable of the type MapField::iterator visits a map or a row,
+// for reading; what begin and find themselves return are the iterators of a standard map, for changing too.
+class MapField : public SortedFields {
+ public:
+  using iterator = FieldIterator;
+  using const_iterator = FieldIterator;
+  using SortedFields::SortedFields;
+
+  using SortedFields::erase;
+  // Removes the entry at `entry`, which is one of this map, and returns the next one.
+  iterator erase(const FieldIterator& entry) { return SortedFields::erase(entry.entry_); }
 };
 
 }  // namespace corvane

@@ -84,11 +84,11 @@ void Row::removeField(std::string_view key) {
   if (extras_) extras_.edit().bySlot.erase(slot);
 }
 
-RowIterator Row::begin() const {
+FieldIterator Row::begin() const {
   return {this, 0};
 }
 
-RowIterator Row::end() const {
+FieldIterator Row::end() const {
   return {this, size()};
 }
 
@@ -125,14 +125,30 @@ std::uint32_t Row::Add(std::string_view key) {
 
 Field Row::FieldIn(std::uint32_t slot) const {
   Field field;
+  Show(slot, field);
+  return field;
+}
+
+void Row::Show(std::uint32_t slot, Field& field) const {
   field.name_ = shape_->label(slot);
   field.value_ = cells_.value(slot);
-  if (!extras_) return field;
+  if (const FieldExtra* extra = ExtraOf(slot)) {
+    field.attributes_ = extra->attributes;
+    field.encoding_ = extra->encoding;
+  }
+}
+
+bool Row::Holds(std::uint32_t slot, const Field& field) const {
+  if (!field.name_.sharedWith(shape_->label(slot)) || field.value_ != cells_.value(slot)) return false;
+  const FieldExtra* extra = ExtraOf(slot);
+  if (!extra) return !field.hasExtra();
+  return field.attributes_.get() == extra->attributes.get() && field.encoding_.sharedWith(extra->encoding);
+}
+
+const Row::FieldExtra* Row::ExtraOf(std::uint32_t slot) const {
+  if (!extras_) return nullptr;
   const auto extra = extras_->bySlot.find(slot);
-  if (extra == extras_->bySlot.end()) return field;
-  field.attributes_ = extra->second.attributes;
-  field.encoding_ = extra->second.encoding;
-  return field;
+  return extra == extras_->bySlot.end() ? nullptr : &extra->second;
 }
 
 void Row::Swap(Row& other) noexcept {
@@ -140,11 +156,6 @@ void Row::Swap(Row& other) noexcept {
   std::swap(shape_, other.shape_);
   std::swap(cells_, other.cells_);
   std::swap(extras_, other.extras_);
-}
-
-RowIterator::value_type RowIterator::operator*() const {
-  const std::uint32_t slot = row_->shape_->order()[at_];
-  return {row_->shape_->name(slot), row_->FieldIn(slot)};
 }
 
 Property::Property() : Row(PropertyTag()) {}

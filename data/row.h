@@ -3,11 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "data/element.h"
 #include "data/field.h"
@@ -15,8 +13,6 @@
 #include "data/row_shape.h"
 
 namespace corvane {
-
-class RowIterator;
 
 // A set of named text columns in byte order of their names; the order of insertion is lost. The default tag
 // is "row".
@@ -27,8 +23,8 @@ class RowIterator;
 // row (a list that grows moves its rows) don't touch it.
 class Row : public Element {
  public:
-  using iterator = RowIterator;
-  using const_iterator = RowIterator;
+  using iterator = FieldIterator;
+  using const_iterator = FieldIterator;
 
   Row();
   Row(const Row&) = default;
@@ -60,10 +56,9 @@ class Row : public Element {
   // A missing column is no error.
   void removeField(std::string_view key);
 
-  // The columns in byte order as pairs of key and Field. The pairs are made for the visit: bind them by value
-  // or by `const auto&`. Stays valid until a column is added or removed.
-  RowIterator begin() const;
-  RowIterator end() const;
+  // The columns in byte order as pairs of key and Field, for reading.
+  FieldIterator begin() const;
+  FieldIterator end() const;
 
   // Number of columns.
   std::size_t size() const { return shape_ ? shape_->columns() : 0; }
@@ -81,9 +76,9 @@ class Row : public Element {
   void copyContent(const Row& other);
 
  private:
+  friend class FieldIterator;
   friend class List;
   friend class RowBuilder;
-  friend class RowIterator;
   friend class XmlWriter;
 
   // What a field has beside name and value, kept only for fields that have it.
@@ -98,50 +93,16 @@ class Row : public Element {
   std::uint32_t Find(std::string_view key) const;
   std::uint32_t Add(std::string_view key);
   Field FieldIn(std::uint32_t slot) const;
+  // Makes a default field the one of a column.
+  void Show(std::uint32_t slot, Field& field) const;
+  // True if `field` is as FieldIn gives it.
+  bool Holds(std::uint32_t slot, const Field& field) const;
+  const FieldExtra* ExtraOf(std::uint32_t slot) const;
   void Swap(Row& other) noexcept;
 
   Shared<RowShape> shape_;  // null for a row without columns
   RowCells cells_;
   Shared<FieldExtras> extras_;
-};
-
-// Visits the columns of a row; gives pairs of key and Field by value.
-class RowIterator {
- public:
-  using iterator_category = std::input_iterator_tag;
-  using value_type = std::pair<const std::string&, Field>;
-  using reference = value_type;
-  using difference_type = std::ptrdiff_t;
-  // Keeps a pair alive for `it->second`.
-  class pointer {
-   public:
-    explicit pointer(value_type pair) : pair_(std::move(pair)) {}
-    value_type* operator->() { return &pair_; }
-
-   private:
-    value_type pair_;
-  };
-
-  RowIterator() = default;
-  value_type operator*() const;
-  pointer operator->() const { return pointer(**this); }
-  RowIterator& operator++() {
-    ++at_;
-    return *this;
-  }
-  RowIterator operator++(int) {
-    RowIterator before = *this;
-    ++at_;
-    return before;
-  }
-  bool operator==(const RowIterator& other) const { return at_ == other.at_; }
-
- private:
-  friend class Row;
-  RowIterator(const Row* row, std::size_t at) : row_(row), at_(at) {}
-
-  const Row* row_ = nullptr;
-  std::size_t at_ = 0;
 };
 
 // The data of one item of a list view: a Row under the tag "property".

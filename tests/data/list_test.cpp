@@ -152,7 +152,7 @@ TEST(List, AssignmentKeepsTagAndEncoding) {
 TEST(List, SharesNamesOfRowsBuiltOneByOne) {
   List list;
   for (int at = 0; at < 3; ++at) list.addRow(Of({{"A", std::to_string(at)}, {"B", ""}}));
-  EXPECT_EQ(&(*list[0].begin()).first, &(*list[2].begin()).first);
+  EXPECT_EQ(&list[0].begin()->second.name(), &list[2].begin()->second.name());
   list[0]["C"];
   EXPECT_FALSE(list[2].hasField("C"));
 }
