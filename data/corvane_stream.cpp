@@ -8,7 +8,7 @@ namespace corvane {
 namespace {
 
 const Label& StreamTag() {
-  static const Label label("stream");
+  static const PermanentLabel label("stream");
   return label;
 }
 
@@ -29,20 +29,28 @@ CorvaneStream::CorvaneStream() : Element(StreamTag()) {}
 CorvaneStream::~CorvaneStream() = default;
 
 CorvaneStream& CorvaneStream::operator=(const CorvaneStream& other) {
-  if (this != &other) *this = CorvaneStream(other);
+  if (this == &other) return *this;
+  MapField fields = other.fields_;
+  std::vector<Row> rows = other.rows_;
+  MapList lists = other.lists_;
+  fields_.swap(fields);
+  rows_.swap(rows);
+  lists_.swap(lists);
+  copyAttributes(other);
   return *this;
 }
 
 CorvaneStream& CorvaneStream::operator=(CorvaneStream&& other) noexcept {
   if (this == &other) return *this;
-  attributes_ = std::move(other.attributes_);
-  fields_ = std::move(other.fields_);
-  rows_ = std::move(other.rows_);
-  lists_ = std::move(other.lists_);
+  moveAttributes(other, fields_.empty() && rows_.empty() && lists_.empty());
+  fields_ = std::exchange(other.fields_, {});
+  rows_ = std::exchange(other.rows_, {});
+  lists_ = std::exchange(other.lists_, {});
   return *this;
 }
 
 void CorvaneStream::clear() {
+  settle();
   fields_.clear();
   rows_.clear();
   lists_.clear();

@@ -6,8 +6,14 @@ namespace corvane {
 namespace {
 
 const Label& DefaultEncoding() {
-  static const Label label("UTF-8");
+  static const PermanentLabel label("UTF-8");
   return label;
+}
+
+// The attributes, none, of an element that was moved from.
+AttributePart* MovedFrom() {
+  static PermanentPart<AttributePart> part;
+  return part.get();
 }
 
 }  // namespace
@@ -15,6 +21,29 @@ const Label& DefaultEncoding() {
 Element::Element() : encoding_(DefaultEncoding()) {}
 
 Element::Element(const Label& name) : name_(name), encoding_(DefaultEncoding()) {}
+
+Element::Element(const Element& other) : name_(other.name_), encoding_(other.encoding_) {
+  copyAttributes(other);
+}
+
+Element::Element(Element&& other) noexcept
+    : name_(other.name_),
+      encoding_(other.encoding_),
+      attributes_(std::exchange(other.attributes_, Shared(MovedFrom()))) {}
+
+Element& Element::operator=(const Element& other) {
+  name_ = other.name_;
+  encoding_ = other.encoding_;
+  copyAttributes(other);
+  return *this;
+}
+
+Element& Element::operator=(Element&& other) noexcept {
+  name_ = other.name_;
+  encoding_ = other.encoding_;
+  attributes_ = std::exchange(other.attributes_, Shared(MovedFrom()));
+  return *this;
+}
 
 Element::~Element() = default;
 
@@ -27,6 +56,7 @@ std::string Element::getName() const {
 }
 
 void Element::setName(std::string_view name) {
+  settle();
   name_.assign(name);
 }
 
@@ -35,6 +65,7 @@ std::string Element::getEncoding() const {
 }
 
 void Element::setEncoding(std::string_view encoding) {
+  settle();
   encoding_.assign(encoding);
 }
 
@@ -69,15 +100,34 @@ const AttributeMap& Element::attributes() const {
 }
 
 bool Element::hasExtra() const {
-  if (attributes_) return true;
+  if (!attributes().empty()) return true;
   const Label& plain = DefaultEncoding();
   return !encoding_.sharedWith(plain) && encoding() != plain.text();
 }
 
-void Element::swapElement(Element& other) noexcept {
-  std::swap(name_, other.name_);
-  std::swap(encoding_, other.encoding_);
-  std::swap(attributes_, other.attributes_);
+void Element::copyAttributes(const Element& other) {
+  if (other.isMovedFrom())
+    attributes_ = {};
+  else
+    attributes_ = other.attributes_;
+}
+
+void Element::moveAttributes(Element& other, bool empty) noexcept {
+  const bool whole = empty && isMovedFrom();
+  if (whole) {
+    name_ = other.name_;
+    encoding_ = other.encoding_;
+  }
+  attributes_ = std::exchange(other.attributes_, Shared(MovedFrom()));
+  if (!whole) settle();
+}
+
+bool Element::isMovedFrom() const {
+  return attributes_ && attributes_.get() == MovedFrom();
+}
+
+void Element::settle() {
+  if (isMovedFrom()) attributes_ = {};
 }
 
 }  // namespace corvane

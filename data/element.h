@@ -9,9 +9,16 @@
 namespace corvane {
 
 // An XML element in memory: a tag, attributes in byte order of their names, and the label of the encoding
-// that its text form declares, "UTF-8" by default. The label never drives a conversion. Documents are values;
-// copying one copies all, while assignment between rows, lists, streams and sections leaves the target's tag
-// and label alone. A text that is read into a document must not be one of the document's own values.
+// that its text form declares, "UTF-8" by default. The label never drives a conversion. A text that is read
+// into a document must not be one of the document's own values.
+//
+// Documents are values; copying or moving one into a new object takes all of it. Assigning one to a row,
+// list, stream, section or document of sections leaves the target's tag and label alone, by copy or by move.
+// A document that was moved from is empty, keeps its own tag and label, and serves like any other. The one
+// difference: as long as nothing has been done to it since, a document that is moved into it comes whole,
+// with tag and label. So std::swap, sorting, rotating and inserting, which move documents into the places of
+// those that they have moved away, keep each document together; erasing from a vector moves into places that
+// still hold theirs, and so leaves the tags where they are.
 class Element {
  public:
   virtual ~Element();
@@ -38,20 +45,25 @@ class Element {
   const std::string& encoding() const { return encoding_.text(); }
   const AttributeMap& attributes() const;
 
-  // True where there is something beside tag and the default encoding.
+  // True where there are attributes or an encoding other than the default one.
   bool hasExtra() const;
 
  protected:
   Element();
   explicit Element(const Label& name);
-  Element(const Element&) = default;
-  Element(Element&&) noexcept = default;
-  Element& operator=(const Element&) = default;
-  Element& operator=(Element&&) noexcept = default;
+  Element(const Element& other);
+  Element(Element&& other) noexcept;
+  Element& operator=(const Element& other);
+  Element& operator=(Element&& other) noexcept;
 
   // Takes the attributes of `other`, in place of its own.
-  void copyAttributes(const Element& other) { attributes_ = other.attributes_; }
-  void swapElement(Element& other) noexcept;
+  void copyAttributes(const Element& other);
+  // The element's part of assigning a class whose tag and encoding stay: takes the attributes of `other`, and
+  // tag and encoding where this element is `empty` and nothing was done to it since it was moved from.
+  void moveAttributes(Element& other, bool empty) noexcept;
+  bool isMovedFrom() const;
+  // From here on a document that is moved into this one leaves its tag and encoding alone.
+  void settle();
 
  private:
   friend class Row;

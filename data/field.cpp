@@ -10,6 +10,14 @@ Field::Field() = default;
 
 Field::Field(std::string_view name, std::string_view value) : Element(Label(name)), value_(value) {}
 
+Field::~Field() = default;
+
+Field& Field::operator=(Field&& other) noexcept {
+  Element::operator=(std::move(other));
+  value_ = std::exchange(other.value_, {});
+  return *this;
+}
+
 void Field::clear() {
   Element::clear();
   setName(std::string_view());

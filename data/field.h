@@ -23,6 +23,13 @@ class Field : public Element {
   // Reads a text; ET10044 where it cannot be parsed or is empty. The encoding is the prolog's, "" without
   // one.
   explicit Field(std::string_view xml);
+  Field(const Field&) = default;
+  Field(Field&&) noexcept = default;
+  ~Field() override;
+
+  // Take all, the name included.
+  Field& operator=(const Field&) = default;
+  Field& operator=(Field&& other) noexcept;
 
   // For reading and for assigning through it.
   std::string& getValue() { return value_; }

@@ -6,12 +6,12 @@ namespace corvane {
 namespace {
 
 const Label& SectionTag() {
-  static const Label label("section");
+  static const PermanentLabel label("section");
   return label;
 }
 
 const Label& IniTag() {
-  static const Label label("ini");
+  static const PermanentLabel label("ini");
   return label;
 }
 
@@ -33,6 +33,13 @@ Ini& Ini::operator=(const Ini& other) {
   const MapIniSection sections = other.sections_;
   sections_.clear();
   for (const auto& [name, section] : sections) addSection(IniSection(section));
+  return *this;
+}
+
+Ini& Ini::operator=(Ini&& other) {
+  if (!isMovedFrom() || !sections_.empty()) return *this = other;
+  moveAttributes(other, true);
+  sections_ = std::exchange(other.sections_, {});
   return *this;
 }
 

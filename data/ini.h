@@ -30,8 +30,10 @@ class Ini : public Element {
   explicit Ini(std::string_view xml);
   ~Ini() override;
 
-  // Takes the sections; attributes, tag and encoding of this document stay.
+  // Takes the sections; attributes, tag and encoding of this document stay. Moving from a document into one
+  // that was not moved from itself copies it.
   Ini& operator=(const Ini& other);
+  Ini& operator=(Ini&& other);
 
   // Reads a text of the elements "ini", "section" and fields; the encoding becomes the prolog's, "" without
   // one. ET10046 where it cannot be parsed or an element has another name; what was read up to there stays.

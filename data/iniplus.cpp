@@ -6,12 +6,12 @@ namespace corvane {
 namespace {
 
 const Label& SectionTag() {
-  static const Label label("section");
+  static const PermanentLabel label("section");
   return label;
 }
 
 const Label& IniplusTag() {
-  static const Label label("iniplus");
+  static const PermanentLabel label("iniplus");
   return label;
 }
 
@@ -34,6 +34,13 @@ Iniplus& Iniplus::operator=(const Iniplus& other) {
   MapIpSection sections = other.sections_;
   sections_.swap(sections);
   copyAttributes(other);
+  return *this;
+}
+
+Iniplus& Iniplus::operator=(Iniplus&& other) noexcept {
+  if (this == &other) return *this;
+  moveAttributes(other, sections_.empty());
+  sections_ = std::exchange(other.sections_, {});
   return *this;
 }
 

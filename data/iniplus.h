@@ -33,6 +33,7 @@ class Iniplus : public Element {
 
   // Takes sections and attributes; tag and encoding of this document stay.
   Iniplus& operator=(const Iniplus& other);
+  Iniplus& operator=(Iniplus&& other) noexcept;
 
   // Reads a text of the elements "iniplus", "section", "row" and fields; the encoding becomes the prolog's,
   // "" without one. ET10049 where it cannot be parsed, an element has another name or rows of a section

@@ -9,7 +9,7 @@ namespace corvane {
 namespace {
 
 const Label& ListTag() {
-  static const Label label("list");
+  static const PermanentLabel label("list");
   return label;
 }
 
@@ -31,9 +31,8 @@ List& List::operator=(const List& other) {
 
 List& List::operator=(List&& other) noexcept {
   if (this == &other) return *this;
-  rows_ = std::move(other.rows_);
-  copyAttributes(other);
-  other.clear();
+  moveAttributes(other, rows_.empty());
+  rows_ = std::exchange(other.rows_, {});
   return *this;
 }
 
@@ -88,8 +87,9 @@ void List::Append(Row&& row, const char* key) {
 
 void List::removeRow(unsigned index) {
   if (index >= rows_.size()) return;
-  for (std::size_t at = index; at + 1 < rows_.size(); ++at) rows_[at].Swap(rows_[at + 1]);
-  rows_.pop_back();
+  const auto place = rows_.begin() + index;
+  const Row removed = std::move(*place);  // so that the rows that move up bring their tags along
+  rows_.erase(place);
 }
 
 std::string_view List::ValueIn(Row& row, std::string_view column) {

@@ -6,12 +6,12 @@ namespace corvane {
 namespace {
 
 const Label& RowTag() {
-  static const Label label("row");
+  static const PermanentLabel label("row");
   return label;
 }
 
 const Label& PropertyTag() {
-  static const Label label("property");
+  static const PermanentLabel label("property");
   return label;
 }
 
@@ -30,7 +30,7 @@ Row& Row::operator=(const Row& other) {
 
 Row& Row::operator=(Row&& other) noexcept {
   if (this == &other) return *this;
-  attributes_ = std::move(other.attributes_);
+  moveAttributes(other, !shape_);
   shape_ = std::move(other.shape_);
   cells_ = std::move(other.cells_);
   extras_ = std::move(other.extras_);
@@ -149,13 +149,6 @@ const Row::FieldExtra* Row::ExtraOf(std::uint32_t slot) const {
   if (!extras_) return nullptr;
   const auto extra = extras_->bySlot.find(slot);
   return extra == extras_->bySlot.end() ? nullptr : &extra->second;
-}
-
-void Row::Swap(Row& other) noexcept {
-  swapElement(other);
-  std::swap(shape_, other.shape_);
-  std::swap(cells_, other.cells_);
-  std::swap(extras_, other.extras_);
 }
 
 Property::Property() : Row(PropertyTag()) {}

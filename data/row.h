@@ -98,7 +98,6 @@ class Row : public Element {
   // True if `field` is as FieldIn gives it.
   bool Holds(std::uint32_t slot, const Field& field) const;
   const FieldExtra* ExtraOf(std::uint32_t slot) const;
-  void Swap(Row& other) noexcept;
 
   Shared<RowShape> shape_;  // null for a row without columns
   RowCells cells_;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,18 +23,45 @@ class Counted {
   Counted(const Counted&) {}
   Counted& operator=(const Counted&) { return *this; }
 
-  void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
+  void retain() const {
+    if (!Permanent()) references_.fetch_add(1, std::memory_order_relaxed);
+  }
   void release() const {
+    if (Permanent()) return;
     if (references_.fetch_sub(1, std::memory_order_acq_rel) == 1) T::destroy(static_cast<const T*>(this));
   }
   bool unique() const { return references_.load(std::memory_order_acquire) == 1; }
+  // Ends the counting: the part is shared from here on, and never destroyed.
+  void makePermanent() const { references_.store(kPermanent, std::memory_order_relaxed); }
   static void destroy(const T* part) { delete part; }
 
  protected:
   ~Counted() = default;
 
  private:
+  static constexpr std::uint32_t kPermanent = 0x80000000;
+
+  bool Permanent() const { return references_.load(std::memory_order_relaxed) >= kPermanent; }
+
   mutable std::atomic<std::uint32_t> references_{0};
+};
+
+// The place of a part that documents may point to at any time, also while static objects are destroyed, and
+// at no cost of counting. For static storage.
+template <class T>
+class PermanentPart {
+ public:
+  PermanentPart() { (new (&part_) T)->makePermanent(); }
+  PermanentPart(const PermanentPart&) = delete;
+  PermanentPart& operator=(const PermanentPart&) = delete;
+  ~PermanentPart() {}
+
+  T* get() { return &part_; }
+
+ private:
+  union {
+    T part_;
+  };
 };
 
 // A pointer that keeps its part alive; null by default and after a move.
@@ -86,11 +114,26 @@ class Label {
   bool sharedWith(const Label& other) const { return text_.get() == other.text_.get(); }
 
  private:
+  friend class PermanentLabel;
   static const std::string kEmpty;
   struct Text : Counted<Text> {
     std::string value;
   };
+  explicit Label(Text* text) : text_(text) {}
+
   Shared<Text> text_;
+};
+
+// The label that a class of documents bears by default. For static storage; at most 15 characters, which need
+// no memory of their own.
+class PermanentLabel {
+ public:
+  explicit PermanentLabel(const char* text) : label_(text_.get()) { text_.get()->value = text; }
+  operator const Label&() const { return label_; }
+
+ private:
+  PermanentPart<Label::Text> text_;
+  Label label_;
 };
 
 // Attributes by name, in byte order.

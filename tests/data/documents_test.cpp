@@ -49,33 +49,4 @@ TEST(Documents, WriteAndReadAStream) {
   EXPECT_EQ(read.getList("other").size(), 0U);
 }
 
-TEST(Documents, WriteAndReadSections) {
-  const std::string ini =
-      kProlog +
-      "<ini><section name=\"APPLICATION.LANG\"><Language>Traditional Chinese</Language></section></ini>";
-  EXPECT_EQ(Ini(ini).toString(), ini);
-  EXPECT_EQ(Ini(ini).getSection("APPLICATION.LANG")["Language"], "Traditional Chinese");
-  const std::string iniplus =
-      kProlog +
-      "<iniplus><section name=\"MENU\"><row><ItemName>ITEM6066</ItemName></row><row><ItemName>"
-      "ITEM6067</ItemName></row></section></iniplus>";
-  EXPECT_EQ(Iniplus(iniplus).toString(), iniplus);
-  EXPECT_EQ(Iniplus(iniplus).getSection("MENU").size(), 2U);
-  EXPECT_EQ(KeyOf([] { Ini("<ini><sec name=\"x\"/></ini>"); }), "ET10046");
-}
-
-TEST(Documents, ReferenceToAValueStaysValid) {
-  List list;
-  Row first;
-  first["A"] = "1";
-  list.addRow(first);
-  std::string& value = list[0]["A"];
-  for (int column = 0; column < 40; ++column) list[0]["C" + std::to_string(column)] = "x";
-  for (int more = 0; more < 100; ++more) list.addRow(Row(list[0]));
-  const List copy = list;
-  value = "changed";
-  EXPECT_EQ(list[0]["A"], "changed");
-  EXPECT_EQ(copy[0].getValue("A"), "1");
-}
-
 }  // namespace
