@@ -112,7 +112,6 @@ bool TfrmStatistics::Prepare(TForm* owner, TKVXListView* listView, const corvane
 }
 
 void TfrmStatistics::Compute() {
-  m_usualCurrency = g_pTranslate->Translate("UI42325");
   AddRecords(false);
   BuildColumns(m_ltvInfo);
   Fill(m_ltvInfo);
@@ -130,9 +129,15 @@ void TfrmStatistics::AddRecords(bool checkedOnly) {
   }
 }
 
+std::string TfrmStatistics::CurrencyOf(const corvane::Property& record) {
+  if (record.hasField("CRYTYPE")) return record.getValue("CRYTYPE");
+  if (!m_usualCurrency) m_usualCurrency = g_pTranslate->Translate("UI42325");
+  return *m_usualCurrency;
+}
+
 void TfrmStatistics::AddRecord(const TListItem* item) {
   const corvane::Property& record = *item->Data();
-  const std::string currency = record.hasField("CRYTYPE") ? record.getValue("CRYTYPE") : m_usualCurrency;
+  const std::string currency = CurrencyOf(record);
   if (record.getValue("Color") == kRefusedColor) throw std::runtime_error("");
   auto& [records, sums] = m_sums[currency];
   for (const std::string& id : m_sumColumns) {

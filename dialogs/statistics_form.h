@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "data/corvane.h"
@@ -55,13 +56,14 @@ class TfrmStatistics : public TBaseForm {
   void Compute();
   void AddRecords(bool checkedOnly);
   void AddRecord(const TListItem* item);
+  std::string CurrencyOf(const corvane::Property& record);
   void BuildColumns(TListView* table);
   void Fill(TListView* table) const;
 
   TKVXListView* m_listView = nullptr;  // not owned
   corvane::StringVector m_sumColumns;
-  std::map<std::string, TTotals> m_sums;  // by currency text
-  std::string m_usualCurrency;            // of a record that names none
+  std::map<std::string, TTotals> m_sums;       // by currency text
+  std::optional<std::string> m_usualCurrency;  // of a record that names none, once asked for
   std::string m_ownerClass;
   corvane::List m_fieldDefs;
 };

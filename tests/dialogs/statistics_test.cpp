@@ -105,6 +105,14 @@ TEST_F(Statistics, AskOnceForTheCurrencyOfAllRecordsThatNameNone) {
   EXPECT_EQ(asked, 1);
 }
 
+TEST_F(Statistics, AskForNoCurrencyThatNoRecordNeeds) {
+  host.libraries.SetAnswer(Library::kTranslate, 4, {"UI42", "UI42325"}, fakehost::Refusal("gone"));
+  Add({{"CRYTYPE", "USD"}, {"AMT", "1"}});
+  const auto form = Make();
+  ASSERT_TRUE(form->Prepare(owner, list, {"AMT"}, "sums"));
+  EXPECT_EQ(CellsOf(form->m_ltvInfo), (Cells{{"USD", "1", "1.00"}}));
+}
+
 TEST_F(Statistics, ColumnsTakeCaptionAndWidthFromTheColumnTable) {
   const auto form = Make();
   ASSERT_TRUE(form->Prepare(owner, list, {"NEW", "AMT", "OTHER"}, ""));
