@@ -66,9 +66,11 @@ void TQueryForm::TakeStates(corvane::CorvaneStream& answer) {
 }
 
 void TQueryForm::m_actReasonExecute(TObject*) {
-  corvane::CorvaneStream request, answer;
-  AddRowsInState(request, kStateWithReason);
-  if (Exchange(m_actReason, kReason, request, answer)) TakeReasons(answer);
+  RunGuarded(this, [this] {
+    corvane::CorvaneStream request, answer;
+    AddRowsInState(request, kStateWithReason);
+    if (Exchange(m_actReason, kReason, request, answer)) TakeReasons(answer);
+  });
   if (TListItem* selected = m_lvMain->Selected()) m_lvMainSelectItem(m_lvMain, selected, true);
 }
 

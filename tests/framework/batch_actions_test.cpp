@@ -171,10 +171,17 @@ TEST_F(BatchActions, ShowsTheReasonThatTheBankGives) {
   EXPECT_EQ(Request("COMREASON"),
             "<list name=\"userDataList\"><row><ORDERNO>O2</ORDERNO><RECORDID>1</RECORDID></row>"
             "</list></stream>");
+  // Refused within the rows: what came before stays, and shows.
+  host.libraries.SetAnswer(Library::kError, 4, {"E2", "1"}, fakehost::Refusal("gone"));
+  host.SetAnswerRows(
+      ScreenHost::ListOf({{"RECORDID", "ERRCODE", "ERRINF"}, {"1", "", "late"}, {"0", "E2", ""}}));
+  form->m_lvMain->SetItemIndex(1);
+  form->m_actReason->Execute();
+  EXPECT_EQ(Status(), "late");
+  EXPECT_EQ(host.failures.size(), 1u);
   form->m_lvMain->SetItemIndex(-1);
   form->m_actReason->Execute();
   EXPECT_EQ(Status(), "");
-  EXPECT_TRUE(host.failures.empty());
 }
 
 TEST_F(BatchActions, OnlyWhatEveryTickedRecordAllowsCanBeCancelled) {
