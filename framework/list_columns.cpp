@@ -20,23 +20,40 @@ TAlignment AlignmentOf(const std::string& align) {
   return taLeftJustify;
 }
 
+// Whether a column without a caption had one when the layout was saved: without it the next layout would
+// leave the column out.
+bool LostItsText(const corvane::Row& fieldDef, corvane::List& savedLayout) {
+  return fieldDef.getValue("DISPLAY") != norvik::kDataColumnKey &&
+         savedLayout.find("ColumnID", fieldDef.getValue("COLID"), 0) >= 0;
+}
+
 }  // namespace
 
 void CMInterface::InitListColumns(TKVXListView* listView, const std::string& className) {
   try {
     listView->Clear();
+    listView->SetColumnsWhole(false);
     listView->Columns().Clear();
     listView->ColumnIds().clear();
     corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", className);
-    if (fieldDefs.size() == 0) return;
+    bool whole = true;
+    if (fieldDefs.size() == 0) {
+      listView->SetColumnsWhole(true);
+      return;
+    }
     corvane::List savedLayout = g_pPubInfo->GetIniplusList("COLUMN_INFO", className);
     corvane::Ini workingTable;
     for (const unsigned index : norvik::ColumnOrder(fieldDefs, savedLayout)) {
       corvane::Row columnRow;
       std::string caption;
       AddListColumn(listView, fieldDefs[index], columnRow, caption);
-      if (!caption.empty()) workingTable.addSection(caption, columnRow);
+      if (!caption.empty()) {
+        workingTable.addSection(caption, columnRow);
+      } else if (LostItsText(fieldDefs[index], savedLayout)) {
+        whole = false;
+      }
     }
+    listView->SetColumnsWhole(whole);
     g_pPubInfo->SetIni(className, workingTable);
   } catch (const corvane::TException& failure) {
     ReportException(failure);

@@ -70,7 +70,9 @@ void TListForm::ResetForm() {
 }
 
 void TListForm::FormShow(TObject* sender) {
+  ++m_nShows;
   TBaseForm::FormShow(sender);
+  if (ShownBefore() && m_lvMain->Items().Count() == 0) BuildMissingColumns(Business());
   SelectColumn();
 }
 
@@ -80,10 +82,10 @@ TfrmSelectColumn* TListForm::SelectColumn() {
 }
 
 void TListForm::BuildMissingColumns(CMInterface& business) {
-  if (m_lvMain->Columns().Count() > 0) return;
+  if (m_lvMain->Columns().Count() > 0 && m_lvMain->ColumnsWhole()) return;
   business.InitListColumns(m_lvMain, ClassName());
   if (m_lvMain->Columns().Count() == 0) return;
-  // The owner of the columns that there were not knows none of these.
+  // The owner of the columns that there were knows none of these.
   DestroyForm(std::exchange(m_pSelectColumn, nullptr));
   SelectColumn();
 }
@@ -100,6 +102,11 @@ void TListForm::m_lvMainClick(TObject*) {
   OutputAction()->SetEnabled(ticked);
   m_actPrint->SetEnabled(ticked);
   m_crbAllCheck->SetEnabled(m_lvMain->Items().Count() > 0);
+}
+
+void TListForm::EmptyList() {
+  m_lvMain->Clear();
+  m_lvMainClick(this);
 }
 
 bool TListForm::TickAll() {

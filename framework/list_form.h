@@ -45,8 +45,8 @@ class TListForm : public TBaseForm {
   // Marks the records that the answer to a batch action refused, and takes away those that were carried out.
   virtual void ProcessResult(corvane::CorvaneStream& answer);
 
-  // The first show makes the owner of the columns, which gives them the user's widths. A layout document that
-  // can't be read goes up; the next use of the columns tries again.
+  // The first show makes the owner of the columns, which gives them the user's widths; each later one builds
+  // missing columns. A layout document that can't be read goes up; the next use of the columns tries again.
   void FormShow(TObject* sender) override;
 
   // The check-all box was clicked.
@@ -119,6 +119,12 @@ class TListForm : public TBaseForm {
   // The ticked records.
   corvane::List CheckedRecords();
   void SetStatus(const std::string& text);
+  // Empties the list, and at once sets what follows rows and ticks: whatever fails afterwards, no action
+  // stays on for a row that is gone.
+  void EmptyList();
+  // True from the second show on, also where the earlier ones failed: then the form asks again for what the
+  // host could not tell when the form was made.
+  bool ShownBefore() const { return m_nShows > 1; }
   // Asks for the file of an output; empty when the user gives up or keeps the file that exists.
   std::string AskOutputFile();
   // Writes the ticked records to a file: all columns of the column table but the data columns, in table
@@ -128,8 +134,9 @@ class TListForm : public TBaseForm {
   void PrintChecked(CMInterface& business);
   // Saves the list's layout and ends the owner of the columns; nothing before the first show.
   void SaveLayout();
-  // Builds the columns of a list that has none, because the host could not tell them when the form was made;
-  // for a screen before it fills its list. Standard reporting; a layout that can't be read goes up.
+  // Builds anew the columns of a list that has none, or not all, because the host could not tell them earlier;
+  // for a screen before it fills its list, which is emptied. Standard reporting; a layout that can't be read
+  // goes up.
   void BuildMissingColumns(CMInterface& business);
 
   // The owner of the columns, made where it isn't there yet. Goes up as FormShow.
@@ -141,6 +148,8 @@ class TListForm : public TBaseForm {
 
  private:
   void BindList();
+
+  int m_nShows = 0;  // shows begun
 };
 
 // A control of a kind that needs no more than its name and, where it has one, its action.

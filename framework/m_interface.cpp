@@ -110,7 +110,7 @@ bool CMInterface::NormalizeAmount(const char* text, std::string& out) {
   return norvik::NormalizeAmountText(text == nullptr ? "" : text, out);
 }
 
-void CMInterface::LoadBusinessFlows(const char* bsnCode) {
+bool CMInterface::LoadBusinessFlows(const char* bsnCode) {
   m_flows.clear();
   m_flowsPrimary.clear();
   m_flowsOther.clear();
@@ -129,8 +129,10 @@ void CMInterface::LoadBusinessFlows(const char* bsnCode) {
         (Value(operations[j], "PSTCLASS") == "01" ? m_flowsPrimary : m_flowsOther).addRow(flow);
       }
     }
+    return true;
   } catch (const corvane::TException& failure) {
     ReportException(failure);
+    return false;
   }
 }
 

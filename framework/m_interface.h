@@ -45,12 +45,13 @@ class CMInterface {
   bool NormalizeAmount(const char* text, std::string& out);
 
   // Takes the flows of a business from the host's tables into Flows and its two parts. A failure takes the
-  // standard reporting; what was added stays.
-  void LoadBusinessFlows(const char* bsnCode);
+  // standard reporting and gives false; what was added stays.
+  bool LoadBusinessFlows(const char* bsnCode);
 
   // Builds the columns of a list view from the column table and the user's saved layout of `className`, and
   // stores the working table. A class without a column table leaves the list without columns. A failure takes
-  // the standard reporting; the columns built so far stay.
+  // the standard reporting; the columns built so far stay, and the list's ColumnsWhole becomes false, as it
+  // does where a column that the layout names has no caption.
   void InitListColumns(TKVXListView* listView, const std::string& className);
 
   // Adds one column for a row of the column table, which becomes internal (COLFMT "X") where its width is 0.

@@ -86,7 +86,7 @@ void CQueryCommon::DecodeDictColumn(corvane::List& rows, const std::string& colu
   }
 }
 
-void CQueryCommon::LoadAccountCombo(TKVXComboBox* combo, bool withPrompt) {
+bool CQueryCommon::LoadAccountCombo(TKVXComboBox* combo, bool withPrompt) {
   try {
     corvane::List accounts = g_pPubInfo->GetList("CMLGBSNACC");
     corvane::StringVector flows;
@@ -95,8 +95,10 @@ void CQueryCommon::LoadAccountCombo(TKVXComboBox* combo, bool withPrompt) {
     const std::string firstEntry = g_pTranslate->Translate(withPrompt ? "UI54176" : "UI53241");
     ShowAccounts(combo, reached, firstEntry);
     combo->SetItemIndex(0);
+    return true;
   } catch (const corvane::TException& failure) {
     ReportException(failure);
+    return false;
   }
 }
 

@@ -29,8 +29,8 @@ class CQueryCommon : public CMQueryIntf {
 
   // Fills the box with the accounts that the flows of the business reach (LoadBusinessFlows comes first),
   // each once, behind an entry of the key kNoChoiceKey, which asks to choose (`withPrompt`) or says all.
-  // Without accounts the box is empty. Standard reporting; the box then stays as it was.
-  void LoadAccountCombo(TKVXComboBox* combo, bool withPrompt);
+  // Without accounts the box is empty. Standard reporting and false; the box then stays as it was.
+  bool LoadAccountCombo(TKVXComboBox* combo, bool withPrompt);
 
   // Sets a column of a row and packs the row again: values opened for writing take several times the room,
   // which tells in an answer of many rows. References into the row end.

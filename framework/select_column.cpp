@@ -97,8 +97,8 @@ void TfrmSelectColumn::RestoreWidths() {
 
 void TfrmSelectColumn::SaveColumnInfo() {
   const TListColumns& columns = m_pListView->Columns();
-  // A list whose column table could not be read has no layout that were worth more than the saved one.
-  if (columns.Count() == 0) return;
+  // The columns of a list that could not be built whole are no layout of the user's: the saved one stays.
+  if (columns.Count() == 0 || !m_pListView->ColumnsWhole()) return;
   RememberWidths();
   corvane::List layout;
   for (int i = 0; i < columns.Count(); ++i) {

@@ -40,7 +40,8 @@ class TfrmSelectColumn : public TBaseForm {
   void m_lvMainClick(TObject* sender) override;
 
   // Writes the layout of this list into the host's document, which is read anew first, so that another list's
-  // newer layout stays. The host reports no failure of storing.
+  // newer layout stays; nothing for a list whose columns could not be built whole. The host reports no
+  // failure of storing.
   void SaveColumnInfo();
 
   // Builds the column menu: an entry for each column that may be shown, and with m_bDialogOffered one for the

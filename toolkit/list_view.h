@@ -257,6 +257,10 @@ class TKVXCustomListView : public TCustomListView {
   /// Name of the record's field that each column shows, in the order of Columns.
   corvane::StringVector& ColumnIds() { return *column_ids_; }
   const corvane::StringVector& ColumnIds() const { return *column_ids_; }
+  /// Whether every column that belongs to the list stands in it; true at the start. Whoever builds the
+  /// columns says so, the list itself doesn't use it.
+  bool ColumnsWhole() const { return columns_whole_; }
+  void SetColumnsWhole(bool whole) { columns_whole_ = whole; }
 
   /// Appends a row for each record, with all its fields. column_ids are the fields that the columns show,
   /// joined with "; "; they become ColumnIds unless the text is empty.
@@ -309,6 +313,7 @@ class TKVXCustomListView : public TCustomListView {
 
   std::unique_ptr<corvane::StringVector> column_ids_;
   bool show_sum_row_ = false;
+  bool columns_whole_ = true;
 };
 
 class TKVXListView : public TKVXCustomListView {

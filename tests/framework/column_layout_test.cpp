@@ -242,6 +242,34 @@ TEST_F(ColumnLayout, TheNextFillBuildsTheColumnsThatCouldNotBeToldAtFirst) {
   EXPECT_EQ(Save(), "not saved") << "a form without columns keeps the layout that there is";
 }
 
+TEST_F(ColumnLayout, OfColumnsThatWereNotBuiltWholeIsNotStoredAndTheyAreBuiltAnew) {
+  host.SetErrorText("gone", "no text");
+  for (const char* key : {"UI44008", "UI44344", "UI44005"}) {
+    for (const bool refused : {true, false}) {
+      SCOPED_TRACE(std::string(key) + (refused ? " refused" : " empty"));
+      host.SetLayout(kForm,
+                     {{"STATE", "33", "UI44005"}, {"NO", "44", "UI44008"}, {"AMOUNT", "0", "UI44344"}});
+      const auto openShort = [&] {
+        host.libraries.SetAnswer(Library::kTranslate, 4, {"UI44", key},
+                                 refused ? fakehost::Refusal("gone") : fakehost::Text(""));
+        const std::string failure = refused ? FailureOf([&] { Open(); }) : (Open(), "no text");
+        EXPECT_EQ(failure, "no text");
+        EXPECT_NE(Columns(), "STATE:33 NO:44 AMOUNT:- KEY:- ");
+      };
+      openShort();
+      EXPECT_EQ(Save(), "not saved");
+      for (const bool shown : {true, false}) {
+        openShort();
+        host.SetText(key, key);
+        if (shown) form->Close();
+        shown ? form->Show() : form->Fill(ScreenHost::ListOf({{"NO", "AMOUNT"}, {"B1", "5"}}));
+        EXPECT_EQ(Columns(), "STATE:33 NO:44 AMOUNT:- KEY:- ");
+        EXPECT_EQ(Save(), "STATE:33 NO:44 AMOUNT:0 ");
+      }
+    }
+  }
+}
+
 }  // namespace
 
 #include "column_layout_test.moc"

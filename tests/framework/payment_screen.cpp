@@ -51,8 +51,7 @@ void TfrmPaymentQry::ResetForm() {
   TQueryForm::ResetForm();
   for (TAction* action : {m_actDetail, m_actPrintSet, m_actPrint}) action->SetVisible(false);
   m_edOrder->Clear();
-  m_lvMain->Clear();
-  m_lvMainClick(this);
+  EmptyList();
   UpdateDeleteState();
 }
 
