@@ -24,6 +24,7 @@ void TQueryForm::Construct() {
 
 void TQueryForm::ResetForm() {
   TListForm::ResetForm();
+  if (ShownBefore() && m_strOprNo.empty()) m_strOprNo = m_pIntf->GetOperatorNo();
   for (TAction* action : {m_actViewAuditFoot, m_actSynState, m_actReason}) action->SetEnabled(false);
   m_mubtnDetail->SetVisible(false);
   m_btnOperInfo->SetVisible(false);
@@ -46,11 +47,17 @@ void TQueryForm::m_lvMainClick(TObject* sender) {
   TListForm::m_lvMainClick(sender);
   const int checked = m_lvMain->CheckedCount();
   m_actViewAuditFoot->SetEnabled(checked == 1);
-  m_actSynState->SetEnabled(checked > 0 && CanSynState());
-  m_actReason->SetEnabled(checked > 0 && CanReason());
   if (checked == 0) m_actDetail->SetEnabled(false);
   if (m_lvMain->Items().Count() == 0) m_crbAllCheck->SetChecked(false);
   if (TListItem* selected = m_lvMain->Selected()) selected->SetState(kFocusedState, true);
+  try {
+    m_actSynState->SetEnabled(checked > 0 && CanSynState());
+    m_actReason->SetEnabled(checked > 0 && CanReason());
+  } catch (...) {
+    // What the host can't tell about the ticked rows is off.
+    for (TAction* action : {m_actSynState, m_actReason, m_actDelete}) action->SetEnabled(false);
+    throw;
+  }
 }
 
 void TQueryForm::SelectAll(TObject* sender) {
@@ -59,13 +66,13 @@ void TQueryForm::SelectAll(TObject* sender) {
     for (TAction* action : {m_actViewAuditFoot, m_actSynState, m_actReason}) action->SetEnabled(false);
     return;
   }
-  UpdateDeleteState();
   m_lvMainClick(sender);
+  UpdateDeleteState();
 }
 
 void TQueryForm::m_lvMainItemCheck(TObject* sender, TListItem* item) {
-  UpdateDeleteState();
   TListForm::m_lvMainItemCheck(sender, item);
+  UpdateDeleteState();
 }
 
 void TQueryForm::m_actHideColumnExecute(TObject* sender) {
@@ -97,16 +104,22 @@ bool TQueryForm::CanReason() {
   return CheckedCount(norvik::kExplained, &norvik::TickRules::explainedState, TranslateKey("UI52148")) > 0;
 }
 
-void TQueryForm::UpdateDeleteState() {
+bool TQueryForm::CanDelete() {
   const int count = m_lvMain->CheckedCount();
-  bool allowed = count > 0;
-  if (allowed) {
-    const norvik::CancelRule rule{m_strOprNo,
-                                  {TranslateKey("UI52140"), TranslateKey("UI52142")},
-                                  TranslateKey("UI52144"),
-                                  TranslateKey("UI53030"),
-                                  m_pIntf->GetServerDate()};
-    allowed = CheckedCount(norvik::kCancellable, &norvik::TickRules::cancel, rule) == count;
+  if (count == 0) return false;
+  const norvik::CancelRule rule{m_strOprNo,
+                                {TranslateKey("UI52140"), TranslateKey("UI52142")},
+                                TranslateKey("UI52144"),
+                                TranslateKey("UI53030"),
+                                m_pIntf->GetServerDate()};
+  return CheckedCount(norvik::kCancellable, &norvik::TickRules::cancel, rule) == count;
+}
+
+void TQueryForm::UpdateDeleteState() {
+  try {
+    m_actDelete->SetEnabled(CanDelete());
+  } catch (...) {
+    m_actDelete->SetEnabled(false);
+    throw;
   }
-  m_actDelete->SetEnabled(allowed);
 }

@@ -38,7 +38,8 @@ class TQueryForm : public TListForm {
   void Construct() override;
   void ResetForm() override;
 
-  // The enabling rule; runs after every click, double click, change of a check box and batch action.
+  // The enabling rule; runs after every click, double click, change of a check box and batch action. What
+  // needs a text of the host comes last; where that fails, it is off.
   void m_lvMainClick(TObject* sender) override;
 
   // Writes the ticked records to a file, as WriteRecords.
@@ -47,7 +48,8 @@ class TQueryForm : public TListForm {
   // Whether a ticked record is in the state that the synchronisation, or the question for the reason, is for.
   virtual bool CanSynState();
   virtual bool CanReason();
-  // Enables m_actDelete when every ticked record may be cancelled, and there is one.
+  // Enables m_actDelete when every ticked record may be cancelled, and there is one. A failure goes up, and
+  // the action is off.
   virtual void UpdateDeleteState();
   // Writes a record back to the selected item; does nothing without one.
   virtual void ModifySelected(corvane::Property& row);
@@ -136,6 +138,7 @@ class TQueryForm : public TListForm {
   bool m_bColumnDialog = false;  // offer the column dialog in the column menu
 
  private:
+  bool CanDelete();
   void BuildToolButtons();
   void BuildButtons();
   void BuildMenus();

@@ -103,7 +103,11 @@ void TCustodyQueryForm::SetCaptions() {
   m_pnlNormal->SetCaption("UI40305");
   m_pnlAdvance->SetCaption("UI40306");
   m_rgSelDate->SetCaption("UI40109");
-  // The pass over a form's texts knows nothing of a radio group's items.
+}
+
+// The pass over a form's texts knows nothing of a radio group's items.
+void TCustodyQueryForm::AfterTranslate() {
+  TQueryForm::AfterTranslate();
   for (std::size_t i = 0; i < std::size(kDateChoiceKeys); ++i) {
     m_rgSelDate->Items().SetStrings(i, TranslateKey(kDateChoiceKeys[i]));
   }
@@ -119,17 +123,17 @@ void TCustodyQueryForm::Construct() {
   m_sumColumns.push_back(kSumColumn);
 }
 
-void TCustodyQueryForm::LoadAccounts() {
-  m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str());
-  m_pCommon->LoadAccountCombo(m_cbxAcc, true);
+bool TCustodyQueryForm::LoadAccounts() {
+  m_bAccountsKnown =
+      m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str()) && m_pCommon->LoadAccountCombo(m_cbxAcc, true);
+  return m_bAccountsKnown;
 }
 
 void TCustodyQueryForm::ResetForm() {
   TQueryForm::ResetForm();
-  // What the host could not tell when the form was made is asked for again at the next show.
-  if (m_bShown && m_cbxAcc->Keys().Count() == 0) LoadAccounts();
-  m_bShown = true;
-  m_lvMain->Clear();
+  EmptyList();
+  const TStrings& accounts = m_cbxAcc->Items();
+  if (ShownBefore() && (accounts.Count() == 0 || accounts[0].empty())) LoadAccounts();
   m_cbxBankNo->Clear();
   ShowOfferedActions();
   if (Profile().advanceOpen) m_pnlAdvance->SetRollState(false);
@@ -208,7 +212,7 @@ void TCustodyQueryForm::m_rgSelDateClick(TObject*) {
 }
 
 void TCustodyQueryForm::m_actQueryExecute(TObject* sender) {
-  if (!CheckConditions()) return;
+  if (!CheckConditions() || !FindAccounts()) return;
   corvane::CorvaneStream request;
   corvane::CorvaneStream answer;
   BuildQueryRequest(request);
@@ -221,6 +225,15 @@ void TCustodyQueryForm::m_actQueryExecute(TObject* sender) {
   m_lvMainClick(sender);
   if (m_lvMain->CheckedCount() == 0) m_crbAllCheck->SetChecked(false);
   m_crbAllCheck->SetEnabled(m_lvMain->Items().Count() > 0);
+}
+
+// A query for no account at all would be answered, too: the accounts that the host could not tell are asked
+// for once more.
+bool TCustodyQueryForm::FindAccounts() {
+  if (m_bAccountsKnown) return true;
+  if (!LoadAccounts()) return false;
+  StartAccount();
+  return true;
 }
 
 void TCustodyQueryForm::BuildQueryRequest(corvane::CorvaneStream& stream) {
@@ -250,7 +263,7 @@ void TCustodyQueryForm::AddAccounts(corvane::CorvaneStream& stream) {
 }
 
 void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
-  m_lvMain->Clear();
+  EmptyList();
   corvane::List& rows = answer.getList(kAnswerList);
   if (rows.size() == 0) {
     ShowWarnMsg(TranslateKey("UI42512"), nullptr);
@@ -269,14 +282,10 @@ void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
 }
 
 void TCustodyQueryForm::m_lvMainClick(TObject* sender) {
+  // First, since nothing is asked of the host for it.
+  FollowTicks();
   TQueryForm::m_lvMainClick(sender);
-  FollowTicks();
   if (Profile().outputAlwaysOn) m_actOutput->SetEnabled(true);
-}
-
-void TCustodyQueryForm::SelectAll(TObject* sender) {
-  TQueryForm::SelectAll(sender);
-  FollowTicks();
 }
 
 void TCustodyQueryForm::FollowTicks() {

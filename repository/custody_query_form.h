@@ -57,10 +57,10 @@ class TCustodyQueryForm : public TQueryForm {
 
   void BuildControls() override;
   void SetCaptions() override;
+  void AfterTranslate() override;
   void Construct() override;
   void ResetForm() override;
   void m_lvMainClick(TObject* sender) override;
-  void SelectAll(TObject* sender) override;
   void FormClose(TObject* sender) override;
   void FormDestroy() override;
   void m_lvMainMouseDown(TObject* sender, TMouseButton button, TShiftState shift, int x, int y) override;
@@ -123,12 +123,14 @@ class TCustodyQueryForm : public TQueryForm {
   corvane::Property m_selectedRow;  // the ticked row when it is exactly one; kept when the tick goes away
 
  private:
-  void LoadAccounts();
+  // Fills m_cbxAcc; false when that failed, which has been reported.
+  bool LoadAccounts();
+  bool FindAccounts();
   void FollowTicks();
   void ShowOfferedActions();
   void AddAccounts(corvane::CorvaneStream& stream);
   void ShowInstitutions(corvane::List& institutions);
 
   norvik::ConditionTable m_conditions;
-  bool m_bShown = false;
+  bool m_bAccountsKnown = false;  // the last LoadAccounts did not fail
 };

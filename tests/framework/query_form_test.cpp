@@ -137,6 +137,19 @@ TEST_F(QueryForm, ButtonsOfOneActionKeepCaptionsAndPlacesOfTheirOwn) {
   EXPECT_FALSE(form->m_btnOperInfo->Visible());
 }
 
+TEST_F(QueryForm, TurnsOffWhatTheHostCannotTellAboutTheTickedRows) {
+  Open();
+  form->Fill({{"A", "STT", "LASTOPRNO"}, {"0", "UI52150", "007"}, {"1", "UI52140", "007"}});
+  for (const char* key : {"UI52150", "UI52148", "UI52140"}) {
+    Tick({1});
+    EXPECT_EQ(Enabled(), "11100110") << key;
+    host.libraries.SetAnswer(Library::kTranslate, 4, {"UI52", key}, fakehost::Refusal("gone"));
+    EXPECT_THROW(Tick({0, 1}), corvane::TIOException) << key;
+    EXPECT_EQ(Enabled(), key == std::string("UI52140") ? "11010010" : "11000010") << key;
+    host.SetText(key, key);
+  }
+}
+
 TEST_F(QueryForm, TurnsTheDetailsOffOnlyWithoutATick) {
   Open();
   form->Fill({{"A"}, {"0"}, {"1"}});

@@ -25,6 +25,8 @@
 
 namespace {
 
+using fakehost::Library;
+
 const corvane::List kBills = ScreenHost::ListOf({{"BILLNUM", "BILLTYP", "AGTSTAT", "PAYAMT", "TENDFLG"},
                                                  {"B1", "AC01", "02", "10.50", "1"},
                                                  {"B2", "AC02", "99", "20.00", "0"},
@@ -422,7 +424,7 @@ TEST_F(NorvikQry, OffersNoneOfTheActionsOfOtherScreens) {
 }
 
 TEST_F(NorvikQry, LosesADictionaryAtAShowAndHasItAtTheNext) {
-  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 90, {"BUSINESSDICT", "AGENTSTT"},
+  host.libraries.SetAnswer(Library::kPublicInformation, 90, {"BUSINESSDICT", "AGENTSTT"},
                            fakehost::Refusal("gone"));
   Open();
   EXPECT_EQ(host.failures.size(), 1u);
@@ -436,16 +438,66 @@ TEST_F(NorvikQry, LosesADictionaryAtAShowAndHasItAtTheNext) {
 }
 
 TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
-  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 40, {"CMLGBSNACC"},
-                           fakehost::Refusal("gone"));
+  host.libraries.SetAnswer(Library::kPublicInformation, 40, {"CMLGBSNACC"}, fakehost::Refusal("gone"));
   host.SetErrorText("gone", "no accounts");
-  EXPECT_EQ(FailureOf([&] { Open(); }), "no accounts");
-  EXPECT_EQ(form->m_cbxAcc->Items().Count(), 0u);
-  host.SetAccounts(2);
-  form->Close();
-  form->Show();
-  EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999");
-  EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos);
+  enum Moment { kNextShow, kShowAfterAFailedOne, kQuery };
+  for (const Moment moment : {kNextShow, kShowAfterAFailedOne, kQuery}) {
+    host.libraries.SetAnswer(Library::kPublicInformation, 40, {"CMLGBSNACC"}, fakehost::Refusal("gone"));
+    if (moment == kShowAfterAFailedOne) host.Configure("APPLICATION.FONT", "Size", "large");
+    EXPECT_EQ(FailureOf([&] { Open(); }), "no accounts");
+    EXPECT_EQ(form->m_cbxAcc->Items().Count(), 0u);
+    host.Configure("APPLICATION.FONT", "Size", "9");
+    host.libraries.calls.clear();
+    if (moment == kQuery) {
+      EXPECT_EQ(FailureOf([&] { Query(); }), "no accounts");
+      EXPECT_EQ(host.Requests("EBBADQDB").size(), 0u) << "a query for no account";
+    }
+    host.SetAccounts(2);
+    if (moment != kQuery) form->Close();
+    moment == kQuery ? Query() : form->Show();
+    EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999") << moment;
+    EXPECT_EQ(form->m_cbxBankNo->GetKey(), "-9999") << moment;
+    EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos) << moment;
+    EXPECT_EQ(host.Requests("EBBADQDB").size(), moment == kQuery ? 1u : 0u);
+    DestroyForm(form);
+  }
+}
+
+TEST_F(NorvikQry, LeavesNoRowActionOnOverAListThatAFailureEmptied) {
+  host.libraries.SetAnswer(Library::kTranslate, 4, {"UI42", "UI42512"}, fakehost::Refusal("gone"));
+  Open();
+  const struct {
+    const char* what;
+    std::function<void()> fail;
+  } cases[] = {{"a show",
+                [&] {
+                  host.libraries.SetAnswer(Library::kPublicInformation, 90, {"BUSINESSDICT", "BANKRMK"},
+                                           fakehost::Refusal("gone"));
+                  form->Close();
+                  form->Show();
+                }},
+               {"a result", [&] { Query({}); }}};
+  for (const auto& c : cases) {
+    form->m_lbxAgentStt->SetSelected(0, true);
+    Query();
+    form->m_lvMain->Items()[0]->SetChecked(true);
+    form->m_lvMainClick(form);
+    EXPECT_EQ(Enabled(), "11111110") << c.what;
+    c.fail();
+    EXPECT_EQ(form->m_lvMain->Items().Count(), 0) << c.what;
+    EXPECT_EQ(Enabled(), "00000000") << c.what;
+    host.SetTable("BUSINESSDICT", "BANKRMK", ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"01", "UI46201"}}));
+    form->Close();
+    form->Show();
+  }
+  // Nor for another row than the one that is ticked, when a text for the ticks is refused.
+  Query();
+  form->m_lvMain->Items()[0]->SetChecked(true);
+  form->m_lvMainItemCheck(form->m_lvMain, form->m_lvMain->Items()[0]);
+  host.libraries.SetAnswer(Library::kTranslate, 4, fakehost::Refusal("gone"));
+  form->m_lvMain->Items()[1]->SetChecked(true);
+  EXPECT_THROW(form->m_lvMainItemCheck(form->m_lvMain, form->m_lvMain->Items()[1]), corvane::TIOException);
+  EXPECT_EQ(Enabled(), "00001110");
 }
 
 TEST_F(NorvikQry, LeavesTheFocusOnTheButtonThatAsked) {
@@ -479,18 +531,18 @@ TEST_F(NorvikQry, PrintsTheTickedRowsByItsColumnTable) {
   Query();
   form->m_lvMain->Items()[2]->SetChecked(true);
   form->m_actPrintExecute(form);
-  const auto printed = host.libraries.CallsOf(fakehost::Library::kPrint, 3);
+  const auto printed = host.libraries.CallsOf(Library::kPrint, 3);
   ASSERT_EQ(printed.size(), 1u);
   EXPECT_EQ(printed[0].arguments.at(0), "TfrmNorvikQry");
   EXPECT_EQ(corvane::Row(printed[0].arguments.at(1)).getValue("COLID"), "BILLNUM");
   EXPECT_EQ(corvane::List(printed[0].arguments.at(2))[0].getValue("BILLNUM"), "B3");
   form->m_actPrintSetExecute(form);
-  EXPECT_EQ(host.libraries.CallsOf(fakehost::Library::kPrint, 5).size(), 1u);
-  host.libraries.SetAnswer(fakehost::Library::kPublicInformation, 87, {"FIELDDEF", "TfrmNorvikQry", "0"},
+  EXPECT_EQ(host.libraries.CallsOf(Library::kPrint, 5).size(), 1u);
+  host.libraries.SetAnswer(Library::kPublicInformation, 87, {"FIELDDEF", "TfrmNorvikQry", "0"},
                            fakehost::Refusal("gone"));
   host.SetErrorText("gone", "no table");
   EXPECT_EQ(FailureOf([&] { form->m_actPrintExecute(form); }), "no table");
-  EXPECT_EQ(host.libraries.CallsOf(fakehost::Library::kPrint, 3).size(), 1u);
+  EXPECT_EQ(host.libraries.CallsOf(Library::kPrint, 3).size(), 1u);
 }
 
 TEST_F(NorvikQry, OpensWithoutAnyAccount) {
