@@ -177,21 +177,6 @@ TEST_F(DetailForm, GivesOutTheTickedRecords) {
   EXPECT_EQ(host.libraries.CallsOf(Library::kPrint, 3).at(0).arguments.at(0), "TfrmSmallDtl");
 }
 
-TEST_F(DetailForm, KeepsWhatTheAnswerToABatchRefused) {
-  Open();
-  form->Fill({{"A"}, {"0"}, {"1"}, {"2"}});
-  form->m_lvMain->Items()[0]->SetChecked(true);
-  form->m_lvMain->Items()[1]->SetChecked(true);
-  corvane::List refused = ScreenHost::ListOf({{"ID", "FLAG"}, {"1", "ET1"}});
-  refused.setAttribute("name", "resultList");
-  corvane::CorvaneStream answer;
-  answer.addList(refused);
-  form->ProcessResult(answer);
-  ASSERT_EQ(form->m_lvMain->Items().Count(), 2);
-  const corvane::Property& kept = *form->m_lvMain->Items()[0]->Data();
-  EXPECT_EQ(kept.getValue("A") + kept.getValue("Reason") + kept.getValue("Color"), "1ET1255");
-}
-
 }  // namespace
 
 #include "detail_form_test.moc"

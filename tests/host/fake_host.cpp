@@ -60,9 +60,7 @@ std::uint32_t GetRow(char** buffer, std::int32_t* length, const char* key, const
 }
 
 std::uint32_t GetHandle(const char* key) {
-  g_host->Note({kPub, 123, {key}});
-  const auto found = g_host->handles.find(key);
-  return found == g_host->handles.end() ? 0 : found->second;
+  return g_host->HandleOf(key);
 }
 
 std::uint32_t SetHandle(const char* key, std::uint32_t value) {
@@ -256,18 +254,28 @@ std::vector<Call> FakeHost::CallsOf(Library library, std::uint32_t ordinal) cons
   return found;
 }
 
-void FakeHost::Note(Call call) {
+std::uint32_t FakeHost::HandleOf(const char* key) {
+  const Call call = {kPub, 123, {key}};
+  Note(call);
+  const auto found = handles.find(key);
+  Answer answer{.result = found == handles.end() ? 0 : found->second, .text = {}};
+  if (onAnswer) onAnswer(call, answer);
+  return answer.result;
+}
+
+void FakeHost::Note(const Call& call) {
   calls.push_back(call);
   if (during) during(call);
 }
 
-std::uint32_t FakeHost::Reply(Call call, char** buffer, std::int32_t* length, char* error) {
+std::uint32_t FakeHost::Reply(const Call& call, char** buffer, std::int32_t* length, char* error) {
   const auto exact = m_answersByArguments.find({call.library, call.ordinal, call.arguments});
   const auto general = m_answers.find({call.library, call.ordinal});
-  const Answer answer = exact != m_answersByArguments.end() ? exact->second
-                        : general != m_answers.end()        ? general->second
-                                                            : Usual(call);
-  Note(std::move(call));
+  Answer answer = exact != m_answersByArguments.end() ? exact->second
+                  : general != m_answers.end()        ? general->second
+                                                      : Usual(call);
+  Note(call);
+  if (onAnswer) onAnswer(call, answer);
   if (answer.throws) throw std::runtime_error("a host function that throws");
   if (error) {
     const bool small = call.library <= Library::kError;

@@ -68,6 +68,9 @@ class FakeHost {
   /// The calls of one function.
   std::vector<Call> CallsOf(Library library, std::uint32_t ordinal) const;
 
+  /// Runs on each answer, handles included, before it is given; may change it.
+  std::function<void(const Call& call, Answer& answer)> onAnswer;
+
   std::map<std::string, std::uint32_t> handles;
   std::int64_t serverTime = 0;
   std::vector<Call> calls;
@@ -80,8 +83,9 @@ class FakeHost {
   int wronglyReleased = 0;
 
   // For the libraries' functions.
-  void Note(Call call);
-  std::uint32_t Reply(Call call, char** buffer, std::int32_t* length, char* error);
+  std::uint32_t HandleOf(const char* key);
+  void Note(const Call& call);
+  std::uint32_t Reply(const Call& call, char** buffer, std::int32_t* length, char* error);
   void Release(Library library, std::uint32_t ordinal, char* buffer);
 
  private:

@@ -21,17 +21,6 @@ void* Load(const char* path) {
   return library;
 }
 
-// A list whose first line names the columns.
-std::string ListText(const std::vector<std::vector<std::string>>& lines) {
-  corvane::List list;
-  for (std::size_t i = 1; i < lines.size(); ++i) {
-    corvane::Row row;
-    for (std::size_t c = 0; c < lines[0].size(); ++c) row[lines[0][c]] = lines[i][c];
-    list.addRow(row);
-  }
-  return list.toString();
-}
-
 intptr_t WriteDown(void* context, uint32_t message, uintptr_t, intptr_t) {
   auto* host = static_cast<WindowedHost*>(context);
   host->messages.push_back(message);
@@ -107,6 +96,16 @@ void WindowedHost::OfferBills() {
       "<row><BILLNUM>B2</BILLNUM><PAYAMT>20</PAYAMT></row>";
   SetAnswer(fakehost::Library::kSafeCom, 5,
             fakehost::Text("<stream><list name=\"resultList\">" + rows + "</list></stream>"));
+}
+
+std::string ListText(const std::vector<std::vector<std::string>>& lines) {
+  corvane::List list;
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    corvane::Row row;
+    for (std::size_t c = 0; c < lines[0].size(); ++c) row[lines[0][c]] = lines[i][c];
+    list.addRow(row);
+  }
+  return list.toString();
 }
 
 QWidget* WindowOf(const std::string& name) {

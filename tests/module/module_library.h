@@ -59,6 +59,9 @@ class WindowedHost : public fakehost::FakeHost {
   norvik_handle m_window = 0;
 };
 
+/// A list whose first line names the columns.
+std::string ListText(const std::vector<std::vector<std::string>>& lines);
+
 /// The process's window with that object name, null if there is none or it was destroyed.
 QWidget* WindowOf(const std::string& name);
 

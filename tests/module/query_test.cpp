@@ -62,17 +62,6 @@ TEST_F(Query, GoesToTheBankAndItsRowsIntoTheList) {
   EXPECT_EQ(host.given, host.released);
 }
 
-TEST_F(Query, ThatFailsIsToldAndLeavesTheListAndTheScreenUsable) {
-  Find<QAbstractButton>("m_spdQuery")->click();
-  host.SetAnswer(Library::kSafeCom, 5, fakehost::Refusal("BK1\r\nBK2"));
-  Find<QAbstractButton>("m_spdQuery")->click();
-  EXPECT_EQ(closer.closed, 1);
-  ASSERT_EQ(host.CallsOf(Library::kError, 5).size(), 1u);
-  EXPECT_EQ(host.CallsOf(Library::kError, 5)[0].arguments, (std::vector<std::string>{"BK1\r\nBK2", "1"}));
-  EXPECT_EQ(Rows(), "B1|1,234.50 B2|20.00 ");
-  EXPECT_TRUE(Find<QAbstractButton>("m_spdQuery")->isEnabled());
-}
-
 TEST_F(Query, WhoseFailureHasNoTextIsToldInTheWordsOfTheErrorLibrary) {
   host.SetAnswer(Library::kSafeCom, 5, fakehost::Refusal("BK1"));
   host.SetAnswer(Library::kError, 5, fakehost::Refusal("no texts"));

@@ -423,20 +423,6 @@ TEST_F(NorvikQry, OffersNoneOfTheActionsOfOtherScreens) {
             "m_actViewAuditFoot ");
 }
 
-TEST_F(NorvikQry, LosesADictionaryAtAShowAndHasItAtTheNext) {
-  host.libraries.SetAnswer(Library::kPublicInformation, 90, {"BUSINESSDICT", "AGENTSTT"},
-                           fakehost::Refusal("gone"));
-  Open();
-  EXPECT_EQ(host.failures.size(), 1u);
-  EXPECT_EQ(MessageOf([&] { Query(); }), "UI44568");
-  host.SetTable("BUSINESSDICT", "AGENTSTT", ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"02", "UI46102"}}));
-  form->Close();
-  form->Show();
-  Query();
-  EXPECT_EQ(form->m_lvMain->Items().Count(), 3);
-  EXPECT_EQ(host.failures.size(), 1u);
-}
-
 TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
   host.libraries.SetAnswer(Library::kPublicInformation, 40, {"CMLGBSNACC"}, fakehost::Refusal("gone"));
   host.SetErrorText("gone", "no accounts");
