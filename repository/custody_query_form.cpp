@@ -103,11 +103,16 @@ void TCustodyQueryForm::SetCaptions() {
   m_pnlNormal->SetCaption("UI40305");
   m_pnlAdvance->SetCaption("UI40306");
   m_rgSelDate->SetCaption("UI40109");
+  TranslateDateChoices();
+}
+
+void TCustodyQueryForm::AfterTranslate() {
+  TQueryForm::AfterTranslate();
+  TranslateDateChoices();
 }
 
 // The pass over a form's texts knows nothing of a radio group's items.
-void TCustodyQueryForm::AfterTranslate() {
-  TQueryForm::AfterTranslate();
+void TCustodyQueryForm::TranslateDateChoices() {
   for (std::size_t i = 0; i < std::size(kDateChoiceKeys); ++i) {
     m_rgSelDate->Items().SetStrings(i, TranslateKey(kDateChoiceKeys[i]));
   }

@@ -123,6 +123,7 @@ class TCustodyQueryForm : public TQueryForm {
   corvane::Property m_selectedRow;  // the ticked row when it is exactly one; kept when the tick goes away
 
  private:
+  void TranslateDateChoices();
   // Fills m_cbxAcc; false when that failed, which has been reported.
   bool LoadAccounts();
   bool FindAccounts();
