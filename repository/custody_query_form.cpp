@@ -129,8 +129,8 @@ void TCustodyQueryForm::Construct() {
 }
 
 bool TCustodyQueryForm::LoadAccounts() {
-  m_bAccountsKnown =
-      m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str()) && m_pCommon->LoadAccountCombo(m_cbxAcc, true);
+  const bool flowsKnown = m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str());
+  m_bAccountsKnown = m_pCommon->LoadAccountCombo(m_cbxAcc, true) && flowsKnown;
   return m_bAccountsKnown;
 }
 
