@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QWidget>
 #include <algorithm>
-#include <array>
-#include <cstdio>
-#include <cstring>
-#include <memory>
-#include <set>
 
 #include "tests/module/module_library.h"
 
@@ -39,42 +36,10 @@ int CountOf(const std::string& screen) {
   }));
 }
 
-TEST(Library, ExportsFiveSymbolsAndNoSixth) {
-  for (const char* path : {NORVIK_QRY, NORVIK_QRY_UNLOADABLE}) {
-    const std::string command = std::string(NM) + " -D --defined-only --format=just-symbols " + path;
-    const std::unique_ptr<FILE, int (*)(FILE*)> output(popen(command.c_str(), "r"), pclose);
-    std::set<std::string> symbols;
-    std::array<char, 4096> line;
-    while (std::fgets(line.data(), line.size(), output.get()))
-      symbols.insert(std::string(line.data(), std::strcspn(line.data(), "\n")));
-    EXPECT_EQ(symbols,
-              (std::set<std::string>{"CallFunc", "FreeBuff", "InitModule", "MenuConfig", "Release"}));
-  }
-}
-
 TEST(Menu, NeedsNoServices) {
   const ModuleLibrary module;
-  char* first = nullptr;
-  char* second = nullptr;
-  module.MenuConfig(&first);
-  module.MenuConfig(&second);
-  EXPECT_STREQ(first, kMenu);
-  EXPECT_STREQ(second, kMenu);
-  EXPECT_NE(first, second);
-  module.FreeBuff(first);
-  module.FreeBuff(second);
-  module.FreeBuff(nullptr);
+  EXPECT_EQ(module.Menu(), kMenu);
   module.MenuConfig(nullptr);
-}
-
-TEST(Menu, GoesIntoTheHostsMemoryUpToItsTerminator) {
-  const ModuleLibrary module;
-  std::string memory(std::strlen(kMenu) + 9, '#');
-  char* buffer = memory.data();
-  module.MenuConfig(&buffer);
-  EXPECT_EQ(buffer, memory.data());
-  EXPECT_STREQ(buffer, kMenu);
-  EXPECT_EQ(memory.substr(std::strlen(kMenu) + 1), "########");
 }
 
 TEST(InitModule, AsksForItsLibrariesInOrder) {
@@ -94,76 +59,18 @@ TEST(InitModule, AsksForItsLibrariesInOrder) {
   EXPECT_TRUE(host.CallsOf(Library::kExcel, 1).empty());
 }
 
-TEST(InitModule, ThatFailsIsReleasedAndCanBeTriedAgain) {
-  const ModuleLibrary module;
-  const struct {
-    Library library;
-    std::uint32_t missing;
-    const char* key;
-  } rows[] = {
-      {kPub, 184, "CF15001"},          {Library::kTranslate, 8, "CF19002"}, {Library::kError, 2, "CF23002"},
-      {Library::kPrint, 7, "CF14010"}, {Library::kSafeCom, 12, "ET16024"},  {Library::kExcel, 1, "CF20023"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.key);
-    WindowedHost host;
-    const norvik_handle broken = host.Register(row.library, {row.missing});
-    if (row.library != kPub) host.handles[fakehost::HandleKey(row.library)] = broken;
-    const norvik_handle first = row.library == kPub ? broken : host.publicInformation;
-    EXPECT_EQ(KeysOf([&] { module.InitModule(first); }), (std::vector<std::string>{row.key}));
-    EXPECT_EQ(KeysOf([&] { module.Pick("ITEM6066"); }), (std::vector<std::string>{"CF30007"}));
-    module.Release();
-    module.Release();
-    EXPECT_EQ(host.given, host.released);
-
-    WindowedHost sound;
-    EXPECT_EQ(module.InitModule(sound.publicInformation), 0u);
-    module.Release();
-  }
-}
-
-TEST(InitModule, PassesOnWhatALibraryRefusesToStartWith) {
-  const ModuleLibrary module;
+TEST(CallFunc, RefusesAPickAfterAFailedStartAndWhatIsNoItem) {
   WindowedHost host;
-  host.SetAnswer(Library::kPrint, 1, fakehost::Refusal("no paper\r\nno ink"));
-  EXPECT_EQ(KeysOf([&] { module.InitModule(host.publicInformation); }),
-            (std::vector<std::string>{"no paper", "no ink"}));
-  host.SetAnswer(Library::kError, 1, fakehost::Refusal("x"));
-  EXPECT_EQ(KeysOf([&] { module.InitModule(host.publicInformation); }),
-            (std::vector<std::string>{"CF23003"}));
-  host.handles["HANDLE_TRANSLATE"] = 0;
-  EXPECT_EQ(KeysOf([&] { module.InitModule(host.publicInformation); }),
-            (std::vector<std::string>{"CF19001"}));
+  const ModuleLibrary module;
   EXPECT_EQ(KeysOf([&] { module.InitModule(0); }), (std::vector<std::string>{"CF15001"}));
-}
-
-TEST(InitModule, AgainReleasesWhatTheFirstMade) {
-  WindowedHost host;
-  const ModuleLibrary module;
+  EXPECT_EQ(KeysOf([&] { module.Pick("ITEM6066"); }), (std::vector<std::string>{"CF30007"}));
   module.InitModule(host.publicInformation);
-  module.Pick("ITEM6066");
-  module.InitModule(host.publicInformation);
-  EXPECT_EQ(OpenScreens(), 0);
-  module.Pick("ITEM6066");
-  EXPECT_EQ(CountOf("TfrmNorvikQry"), 1);
-}
-
-TEST(CallFunc, RefusesWhatIsNoRowAndPassesOverWhatItDoesNotKnow) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
-  for (const char* text : {"", "ITEM6066", "<row><ItemName>ITEM6066</row>", "<row/><row/>"}) {
-    EXPECT_EQ(KeysOf([&] { module.CallFunc(text, 0); }), (std::vector<std::string>{"ET10057"})) << text;
-  }
   EXPECT_EQ(KeysOf([&] { module.CallFunc(nullptr, 0); }), (std::vector<std::string>{"ET10057"}));
-  for (const char* text : {"<row/>", "<row><ItemName/></row>", "<row><ItemName>item6066</ItemName></row>",
-                           "<row><ItemName>ITEM60660</ItemName></row>",
-                           "<row><ItemName> ITEM6066</ItemName></row>", "<row><Item>ITEM6066</Item></row>"}) {
-    EXPECT_TRUE(KeysOf([&] { module.CallFunc(text, 0); }).empty()) << text;
-  }
+  module.Pick("item6066");
   EXPECT_EQ(OpenScreens(), 0);
 }
 
-TEST(CallFunc, OpensOneScreenForEachItem) {
+TEST(CallFunc, OpensEachScreenOverTheMainWindowAndRestoresIt) {
   WindowedHost host;
   const ModuleLibrary module;
   module.InitModule(host.publicInformation);
@@ -172,24 +79,15 @@ TEST(CallFunc, OpensOneScreenForEachItem) {
     module.Pick(row.item);
     QWidget* const window = WindowOf(row.screen);
     ASSERT_NE(window, nullptr);
-    EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->parentWidget(), host.mainWindow.get());
-    EXPECT_NE(host.handles[row.screen], 0u);
-
     window->showMinimized();
     module.CallFunc(("<menu><Other/><ItemName>" + std::string(row.item) + "</ItemName></menu>").c_str(),
                     0xFFFFFFFF);
-    EXPECT_EQ(WindowOf(row.screen), window);
     EXPECT_FALSE(window->isMinimized());
-
     window->close();
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(host.handles[row.screen], 0u);
     module.Pick(row.item);
     EXPECT_EQ(WindowOf(row.screen), window);
-    EXPECT_TRUE(window->isVisible());
   }
-  EXPECT_EQ(OpenScreens(), 3);
 }
 
 TEST(CallFunc, OpensAScreenWithoutAMainWindow) {
@@ -249,20 +147,24 @@ TEST(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
   EXPECT_EQ(OpenScreens(), 3);
 }
 
-TEST(Release, DestroysScreensOpenOrClosedAndLetsNewOnesBeMade) {
+TEST(CallFunc, ReportsAFailureWithoutATextInTheWordsOfTheErrorLibrary) {
   WindowedHost host;
+  host.OfferBills();
   const ModuleLibrary module;
-  for (int round = 0; round < 2; ++round) {
-    module.InitModule(host.publicInformation);
-    for (const auto& row : kScreens) module.Pick(row.item);
-    EXPECT_EQ(OpenScreens(), 3);
-    WindowOf("TfrmNorvikELoanQry")->close();
-    module.Release();
-    EXPECT_EQ(OpenScreens(), 0);
-    module.Release();
-  }
-  EXPECT_EQ(host.given, host.released);
-  EXPECT_EQ(host.wronglyReleased, 0);
+  module.InitModule(host.publicInformation);
+  module.Pick("ITEM6066");
+  host.SetAnswer(Library::kSafeCom, 5, fakehost::Refusal("BK1"));
+  host.SetAnswer(Library::kError, 5, fakehost::Refusal("no texts"));
+  DialogCloser closer;
+  QString shown;
+  closer.whenShown = [&] {
+    shown = QApplication::activeModalWidget()->findChild<QLabel*>("m_lblInfo")->text();
+  };
+  auto* query = WindowOf("TfrmNorvikQry")->findChild<QAbstractButton*>("m_spdQuery");
+  query->click();
+  EXPECT_EQ(shown, "no texts");
+  EXPECT_EQ(closer.closed, 1);
+  EXPECT_TRUE(query->isEnabled());
 }
 
 TEST(Release, ComesAfterTheHostsMainWindowHasTakenTheScreensWithIt) {
@@ -292,13 +194,6 @@ TEST(Release, SavesTheLayoutsInTheOrderOfTheMenu) {
     for (const auto& section : corvane::Iniplus(call.arguments[1])) saved.push_back(section.first);
   }
   EXPECT_EQ(saved, (std::vector<std::string>{kScreens[0].screen, kScreens[1].screen, kScreens[2].screen}));
-}
-
-TEST(Release, AnswersNothingBeforeAnInitModule) {
-  const ModuleLibrary module;
-  module.Release();
-  EXPECT_EQ(KeysOf([&] { module.Pick("ITEM6066"); }), (std::vector<std::string>{"CF30007"}));
-  EXPECT_EQ(module.Menu(), kMenu);
 }
 
 }  // namespace
