@@ -8,7 +8,6 @@
 
 #include "dialogs/com_msg.h"
 #include "repository/enquiry_form.h"
-#include "repository/record_info_form.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"
@@ -124,53 +123,7 @@ TEST_F(NorvikQry, SendsEveryConditionAsTheBankMustGetIt) {
   }
 }
 
-TEST_F(NorvikQry, ChecksInOrderAndSendsNothingAfterAFault) {
-  const struct {
-    const char* storage[2];
-    const char* dead[2];
-    const char* amounts[2];
-    bool advanced;
-    const char* message;
-    const char* left;  // of the six texts after the check
-  } cases[] = {
-      {{"2026", "x"}, {"", ""}, {"", ""}, false, "UI44816", "2026/x////"},
-      {{"20260101", "x"}, {"", ""}, {"", ""}, false, "UI44817", "20260101/x////"},
-      {{"20260101", ""}, {"", ""}, {"", ""}, false, "UI44872", "20260101/////"},
-      {{"", "20260101"}, {"", ""}, {"", ""}, false, "UI44871", "/20260101////"},
-      {{"20260102", "20260101"}, {"", ""}, {"", ""}, false, "UI44558", "/////"},
-      {{"", ""}, {"x", ""}, {"", "1"}, false, "", "//x///1"},
-      {{"", ""}, {"x", ""}, {"", "1"}, true, "UI44826", "//x///1"},
-      {{"", ""}, {"", "x"}, {"", ""}, true, "UI44827", "///x//"},
-      {{"", ""}, {"20260101", ""}, {"", ""}, true, "UI44870", "//20260101///"},
-      {{"", ""}, {"", "20260101"}, {"", ""}, true, "UI44869", "///20260101//"},
-      {{"", ""}, {"20260102", "20260101"}, {"", ""}, true, "UI44559", "/////"},
-      {{"", ""}, {"", ""}, {"", "1"}, true, "UI44564", "/////1.00"},
-      {{"", ""}, {"", ""}, {"1", ""}, true, "UI44565", "////1.00/"},
-      {{"", ""}, {"", ""}, {"1", "0"}, true, "UI44566", "////1.00/"},
-      {{"", ""}, {"", ""}, {"2", "1"}, true, "UI44567", "////2.00/1.00"},
-      {{"", ""}, {"", ""}, {"2", "2"}, true, "", "////2.00/2.00"},
-  };
-  Open();
-  host.SetAnswerRows(kBills);
-  for (const auto& c : cases) {
-    TCustomEdit* edits[] = {form->m_dtStorageStartDate, form->m_dtStorageEndDate, form->m_dtDeadStartDate,
-                            form->m_dtDeadEndDate,      form->m_edMinAmount,      form->m_edMaxAmount};
-    const char* texts[] = {c.storage[0], c.storage[1], c.dead[0], c.dead[1], c.amounts[0], c.amounts[1]};
-    for (int i = 0; i < 6; ++i) edits[i]->SetText(texts[i]);
-    form->m_pnlAdvance->SetRollState(!c.advanced);
-    host.libraries.calls.clear();
-    EXPECT_EQ(MessageOf([&] { form->m_actQuery->Execute(); }), c.message) << c.left;
-    EXPECT_EQ(host.Requests("EBBADQDB").size(), *c.message == '\0' ? 1u : 0u) << c.left;
-    std::string left = edits[0]->Text();
-    for (int i = 1; i < 6; ++i) left += "/" + edits[i]->Text();
-    // The minimum stands before the maximum.
-    EXPECT_EQ(left, c.left);
-  }
-  for (int i = 0; i < 4; ++i) form->m_lbxAgentStt->SetSelected(i, false);
-  EXPECT_EQ(MessageOf([&] { form->m_actQuery->Execute(); }), "UI44568");
-}
-
-TEST_F(NorvikQry, ShowsDecodedRowsAndFollowsTheTicks) {
+TEST_F(NorvikQry, ShowsDecodedRows) {
   Open();
   Query();
   ASSERT_EQ(form->m_lvMain->Items().Count(), 3);
@@ -178,39 +131,6 @@ TEST_F(NorvikQry, ShowsDecodedRowsAndFollowsTheTicks) {
   EXPECT_EQ(first.getValue("BILLTYP") + first.getValue("AGTSTAT") + first.getValue("TENDFLG"),
             "UI40116UI46102UI12016");
   EXPECT_EQ(form->m_lvMain->Items()[1]->Data()->getValue("AGTSTAT"), "99");
-  const struct {
-    std::vector<int> ticked;
-    const char* expected;
-  } cases[] = {
-      {{}, "00000010"}, {{1}, "11111110"}, {{0, 1}, "00001110"}, {{0, 1, 2}, "00001110"}, {{2}, "11111110"}};
-  for (const auto& c : cases) {
-    for (int i = 0; i < 3; ++i) {
-      form->m_lvMain->Items()[i]->SetChecked(std::find(c.ticked.begin(), c.ticked.end(), i) !=
-                                             c.ticked.end());
-    }
-    form->m_lvMainItemCheck(form->m_lvMain, form->m_lvMain->Items()[0]);
-    EXPECT_EQ(Enabled(), c.expected);
-  }
-  form->m_crbAllCheck->SetChecked(true);
-  form->SelectAll(form->m_crbAllCheck);
-  EXPECT_EQ(form->m_lvMain->CheckedCount(), 3);
-  EXPECT_EQ(Enabled(), "00001111");
-  form->m_crbAllCheck->SetChecked(false);
-  form->SelectAll(form->m_crbAllCheck);
-  EXPECT_EQ(Enabled(), "00000010");
-}
-
-TEST_F(NorvikQry, KeepsTheListWhenAQueryFailsAndEmptiesItForAnEmptyAnswer) {
-  Open();
-  Query();
-  host.RefuseExchange("ET90001");
-  host.SetErrorText("ET90001", "refused");
-  EXPECT_EQ(FailureOf([&] { form->m_actQuery->Execute(); }), "refused");
-  EXPECT_EQ(form->m_lvMain->Items().Count(), 3);
-  EXPECT_TRUE(form->m_actQuery->Enabled());
-  EXPECT_EQ(MessageOf([&] { Query({}); }), "UI42512");
-  EXPECT_EQ(form->m_lvMain->Items().Count(), 0);
-  EXPECT_EQ(Enabled(), "00000000");
 }
 
 TEST_F(NorvikQry, AsksForTheInstitutionsOfAnAccount) {
@@ -330,46 +250,6 @@ TEST_F(NorvikQry, EmptiesTheMaximumAfterTheMessage) {
   EXPECT_EQ(form->m_edMaxAmount->Text(), "");
 }
 
-TEST_F(NorvikQry, OpensTheRecordOfTheTickedRow) {
-  Open();
-  Query();
-  form->m_lvMain->Items()[1]->SetChecked(true);
-  form->m_lvMainClick(form);
-  const std::size_t asked = host.Requests("EBBADQDB").size();
-  std::string shown;
-  WhenShown<TRecordInfoForm> look([&](TRecordInfoForm& record) {
-    shown =
-        record.ClassName() + " " + dynamic_cast<TLabel*>(record.FindComponent("m_lbTicketNoVal"))->Caption();
-    record.Close();
-  });
-  form->m_actTicketInfo->Execute();
-  EXPECT_EQ(shown, "TfrmQryInfo B2");
-  EXPECT_EQ(host.Requests("EBBADQDB").size(), asked);
-}
-
-TEST_F(NorvikQry, LeadsTheKeyboardThroughAllItHas) {
-  Open();
-  Query();
-  form->m_lvMain->Items()[0]->SetChecked(true);
-  form->m_lvMainClick(form);
-  form->m_pnlAdvance->SetRollState(false);
-  std::string order;
-  TWinControl* at = form->m_cbxAcc;
-  for (int i = 0; i < 40; ++i) {
-    if (at->Name().starts_with("m_pnl") == false) order += at->Name() + " ";
-    at->SetFocus();
-    form->SelectNext(at, true, true);
-    at = form->ActiveControl();
-    if (at == form->m_cbxAcc) break;
-  }
-  EXPECT_EQ(order,
-            "m_cbxAcc m_cbxBankNo m_edBatNo m_lbxAgentStt m_edBillId m_edNo m_cbxType m_dtStorageStartDate "
-            "m_dtStorageEndDate m_edBackName m_cbxBankRmk m_spdQuery m_dtDeadStartDate m_dtDeadEndDate "
-            "m_edMinAmount "
-            "m_edMaxAmount m_rgSelDate m_crbAllCheck m_spdSum m_lvMain m_btnTicketInfo m_btnECDSSignInfo "
-            "m_btnECDSHistoryInfo m_btnBigResult m_btnClose ");
-}
-
 TEST_F(NorvikQry, BearsTheCaptionsOfItsTable) {
   Open();
   ExpectCaptions(
@@ -389,27 +269,6 @@ TEST_F(NorvikQry, BearsTheCaptionsOfItsTable) {
   for (std::size_t i = 0; i < form->m_rgSelDate->Items().Count(); ++i) items += form->m_rgSelDate->Items()[i];
   EXPECT_EQ(items, "UI40110UI40111UI40112UI40113UI40114");
   EXPECT_EQ(form->m_rgSelDate->Columns(), 5);
-}
-
-TEST_F(NorvikQry, TakesNoMoreThanItsInputRules) {
-  Open();
-  const struct {
-    const TKVXEdit* edit;
-    TKVXInputKind kind;
-    int most;
-  } cases[] = {
-      {form->m_edBatNo, ikLettersDigitsChinese, 20}, {form->m_edBillId, ikDigits, 8},
-      {form->m_edNo, ikLettersDigitsChinese, 16},    {form->m_edBackName, ikLettersDigitsChinese, 60},
-      {form->m_edMinAmount, ikCurrency, 16},         {form->m_edMaxAmount, ikCurrency, 16}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(c.edit->InputRule().kind, c.kind) << c.edit->Name();
-    EXPECT_EQ(c.edit->MaxLength(), c.most) << c.edit->Name();
-    const bool amount = c.kind == ikCurrency;
-    EXPECT_EQ(c.edit->Alignment(), amount ? taRightJustify : taLeftJustify) << c.edit->Name();
-    if (!amount) continue;
-    EXPECT_EQ(c.edit->InputRule().integer_digits, 13);
-    EXPECT_EQ(c.edit->InputRule().decimal_digits, 2);
-  }
 }
 
 TEST_F(NorvikQry, OffersNoneOfTheActionsOfOtherScreens) {

@@ -3,7 +3,6 @@
 
 #include "repository/norvik_dtl_qry.h"
 #include "repository/norvik_e_loan_qry.h"
-#include "repository/record_info_form.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"
@@ -228,29 +227,6 @@ TEST(PeriodScreens, HoldTypedDatesToTodayAndTheQuickChoiceToThem) {
   form->m_dtStartDate->SetText("20261101");
   form->m_dtStartDateChange(form);
   EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
-}
-
-TEST(PeriodScreens, OpenTheirOwnRecords) {
-  const auto recordOf = [](auto& screen) {
-    screen.SetDates("20260101", "20260102");
-    screen.host.SetAnswerRows(ScreenHost::ListOf({{"BILLNUM"}, {"1"}}));
-    screen.form->m_actQuery->Execute();
-    screen.form->m_lvMain->Items()[0]->SetChecked(true);
-    screen.form->m_lvMainClick(screen.form);
-    std::string shown;
-    WhenShown<TRecordInfoForm> look([&](TRecordInfoForm& record) {
-      shown = record.ClassName();
-      record.Close();
-    });
-    screen.form->m_actTicketInfo->Execute();
-    return shown;
-  };
-  {
-    Opened<TfrmNorvikELoanQry> loan;
-    EXPECT_EQ(recordOf(loan), "TfrmAppQryInfo");
-  }
-  Opened<TfrmNorvikDTLQry> events;
-  EXPECT_EQ(recordOf(events), "TfrmDetailQryInfo");
 }
 
 }  // namespace
