@@ -184,22 +184,6 @@ TEST_F(BatchActions, ShowsTheReasonThatTheBankGives) {
   EXPECT_EQ(Status(), "");
 }
 
-TEST_F(BatchActions, OnlyWhatEveryTickedRecordAllowsCanBeCancelled) {
-  const struct {
-    std::initializer_list<int> ticked;
-    bool allowed;
-    const char* why;
-  } cases[] = {{{}, false, "nothing ticked"},      {{3}, true, "open"},
-               {{4}, false, "another operator's"}, {{3, 4}, false, "one of two another operator's"},
-               {{5}, true, "booked for tomorrow"}, {{3, 5}, true, "open, and booked for tomorrow"},
-               {{6}, false, "booked for today"},   {{7}, false, "booked for no day"},
-               {{8}, false, "not booked"},         {{0}, false, "no state"}};
-  for (const auto& row : cases) {
-    Tick(row.ticked);
-    EXPECT_EQ(form->m_actDelete->Enabled(), row.allowed) << row.why;
-  }
-}
-
 TEST_F(BatchActions, CancelsTheTickedRecordsAndKeepsTheRefusedOnes) {
   Tick({3, 5});
   corvane::CorvaneStream answer;

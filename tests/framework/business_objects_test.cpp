@@ -70,6 +70,10 @@ TEST_F(BusinessObjects, BuildColumnsFromTableAndLayout) {
        {{"B", "1", "x"}, {"GONE", "1", "x"}, {"D", "1", "x"}, {"B", "1", "x"}, {"C", "1", "x"}},
        "UI44344:B:80:2 :D:-:5 UI44008:A:100:0 UI44005:C:-:100 ",
        "C:UI44005 A:UI44008 B:UI44344 "},
+      {{table[0], table[1], {"A", "UI44005", "60", "L", "C"}},
+       {},
+       "UI44008:A:100:0 UI44344:B:80:2 ",
+       "A:UI44008 B:UI44344 "},
       {{}, {{"B", "1", "x"}}, "", ""},
   };
   for (const auto& c : cases) {
@@ -228,21 +232,6 @@ TEST_F(BusinessObjects, EndAnExchangeWithoutAMessageWhereTheFailureHasNoKey) {
   EXPECT_EQ(Screen->FormCount(), forms);
 }
 
-TEST_F(BusinessObjects, LeaveAFailedReportWithTheSecondFailure) {
-  corvane::CorvaneStream request;
-  corvane::CorvaneStream answer;
-  const int forms = Screen->FormCount();
-  host.RefuseExchange("ET90001");
-  host.libraries.SetAnswer(Library::kError, 5, fakehost::Refusal("no texts"));
-  try {
-    common.SendRequest("X", request, answer, form);
-    ADD_FAILURE() << "the failure of the report got lost";
-  } catch (const corvane::TIOException& failure) {
-    EXPECT_EQ(failure.getMessage("|"), "no texts");
-  }
-  EXPECT_EQ(Screen->FormCount(), forms);
-}
-
 TEST_F(BusinessObjects, ReportWhatTheHostRefusesAndGoOn) {
   corvane::Row head;
   corvane::List none;
@@ -285,35 +274,27 @@ TEST_F(BusinessObjects, ReportWhatTheHostRefusesAndGoOn) {
   }
 }
 
-TEST_F(BusinessObjects, LeaveExactlyTheRefusedRecords) {
+TEST_F(BusinessObjects, JudgeTheTicksByTheLastAnswerAlone) {
   host.SetColumns("TList", {{"A", "UI44008", "100", "L", "C"}});
   common.InitListColumns(list, "TList");
-  corvane::List rows = ScreenHost::ListOf({{"A"}, {"carried out"}, {"refused"}, {"not ticked"}});
-  common.FillListView(list, rows);
+  corvane::List rows = ScreenHost::ListOf({{"A"}, {"refused"}, {"not ticked"}});
+  for (int i = 0; i < 2; ++i) common.FillListView(list, rows);
+  ASSERT_EQ(list->Items().Count(), 2);
   list->Items()[0]->SetChecked(true);
-  list->Items()[1]->SetChecked(true);
   corvane::CorvaneStream answer;
-  corvane::List refused =
-      ScreenHost::ListOf({{"ID", "FLAG"}, {"1", "ET5"}, {"77", "ET6"}, {"x", "ET7"}, {"-1", "ET8"}});
+  corvane::List refused = ScreenHost::ListOf({{"ID", "FLAG"}, {"0", "ET5"}});
   refused.setAttribute("name", "resultList");
   answer.addList(refused);
   common.ApplyResultList(answer, "resultList", list);
   common.RemoveCompletedItems(list);
-  ASSERT_EQ(list->Items().Count(), 2);
-  EXPECT_EQ(list->Items()[0]->Data()->getValue("Reason"), "ET5");
-  EXPECT_EQ(list->Items()[0]->Data()->getValue("Color"), "255");
-  EXPECT_EQ(list->Items()[1]->Caption(), "not ticked");
+  EXPECT_EQ(list->Items().Count(), 2);
   EXPECT_EQ(list->ItemIndex(), -1);
-
-  // An answer that names nobody: all that is ticked was carried out, whatever the answer before said.
-  list->Items()[1]->SetChecked(true);
+  // An answer that names nobody: all that is ticked was carried out.
   corvane::CorvaneStream accepted;
   common.ApplyResultList(accepted, "resultList", list);
   common.RemoveCompletedItems(list);
-  EXPECT_EQ(list->Items().Count(), 0);
-  common.FillListView(list, rows);
-  common.FillListView(list, rows);
-  EXPECT_EQ(list->Items().Count(), 3);
+  ASSERT_EQ(list->Items().Count(), 1);
+  EXPECT_EQ(list->Items()[0]->Caption(), "not ticked");
 }
 
 TEST_F(BusinessObjects, ExportByTypeAndName) {
@@ -403,15 +384,6 @@ TEST_F(BusinessObjects, AnswerSmallQuestions) {
   common.SetControlHint(list);
   common.SetControlHint(nullptr);
   EXPECT_FALSE(list->ShowHint());
-}
-
-TEST_F(BusinessObjects, TellTheTotalsOfABatch) {
-  for (const char* key : {"UI51028", "UI51029", "UI51030", "UI51031"}) host.SetText(key, key);
-  corvane::CorvaneStream answer;
-  answer.addField(corvane::Field("SUCTOTALNUM", "3"));
-  answer.addField(corvane::Field("ERRTOTALMONEY", "5.00"));
-  EXPECT_EQ(MessageOf([&] { common.ShowResultTotals(answer); }),
-            "UI51028\t3\r\nUI51029\t\r\nUI51030\t\r\nUI51031\t5.00");
 }
 
 }  // namespace

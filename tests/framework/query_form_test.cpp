@@ -94,6 +94,24 @@ struct QueryForm : testing::Test {
   TfrmSmallQry* form = nullptr;
 };
 
+// Plays the user of the next file dialog: picks a type by its place from 1, and a file.
+struct Choice {
+  Choice(const QString& path, int filter) {
+    timer.callOnTimeout([=, this] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer.stop();
+      auto* types = dialog->findChild<QComboBox*>("fileTypeCombo");
+      types->setCurrentIndex(filter - 1);
+      Q_EMIT types->textActivated(types->currentText());
+      dialog->selectFile(path);
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
+    timer.start(5);
+  }
+  QTimer timer;
+};
+
 TEST_F(QueryForm, EnablesByTicksAndStates) {
   Open();
   EXPECT_EQ(Enabled().substr(0, 5), "00000");
@@ -104,13 +122,15 @@ TEST_F(QueryForm, EnablesByTicksAndStates) {
               {"3", "UI52140", "008", "", ""},
               {"4", "UI52144", "007", "UI53030", "2026-11-23"},
               {"5", "UI52144", "007", "UI53030", "2026-11-22"},
-              {"6", "UI52144", "007", "UI53030", ""}});
+              {"6", "UI52144", "007", "UI53030", ""},
+              {"7", "UI52144", "007", "UI53029", "2026-11-23"}});
   const struct {
     std::initializer_list<int> ticked;
     const char* expected;
   } cases[] = {
-      {{}, "00000010"},     {{0}, "11110010"},    {{1}, "11101010"}, {{0, 1}, "11011010"}, {{2}, "11100110"},
-      {{2, 4}, "11000110"}, {{2, 3}, "11000010"}, {{4}, "11100110"}, {{5}, "11100010"},    {{6}, "11100010"},
+      {{}, "00000010"},  {{0}, "11110010"},    {{1}, "11101010"},    {{0, 1}, "11011010"},
+      {{2}, "11100110"}, {{2, 4}, "11000110"}, {{2, 3}, "11000010"}, {{4}, "11100110"},
+      {{5}, "11100010"}, {{6}, "11100010"},    {{7}, "11100010"},
   };
   for (const auto& c : cases) {
     Tick(c.ticked);
@@ -118,7 +138,7 @@ TEST_F(QueryForm, EnablesByTicksAndStates) {
   }
   form->m_crbAllCheck->SetChecked(true);
   form->SelectAll(form->m_crbAllCheck);
-  EXPECT_EQ(form->m_lvMain->CheckedCount(), 7);
+  EXPECT_EQ(form->m_lvMain->CheckedCount(), 8);
   form->m_lvMain->Clear();
   form->m_lvMainClick(form);
   EXPECT_EQ(Enabled(), "00000000");
@@ -204,17 +224,7 @@ TEST_F(QueryForm, AsksWhichColumnsToWriteWhereTheScreenWantsThat) {
   form->m_lvMain->Columns()[0]->SetWidth(0);
   for (const auto& c : cases) {
     host.libraries.calls.clear();
-    QTimer choose;
-    choose.callOnTimeout([&] {
-      for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* dialog = qobject_cast<QFileDialog*>(widget);
-        if (dialog == nullptr || !dialog->isVisible()) continue;
-        choose.stop();
-        dialog->selectFile(folder.filePath(c.all ? "a.xls" : "b.xls"));
-        QMetaObject::invokeMethod(dialog, "accept");
-      }
-    });
-    choose.start(5);
+    const Choice choice(folder.filePath(c.all ? "a.xls" : "b.xls"), 1);
     EXPECT_EQ(MessageOf([&] { form->m_actOutput->Execute(); }, c.all), "UI60007");
     EXPECT_EQ(Exported(2), c.exported);
   }
@@ -297,20 +307,7 @@ TEST_F(QueryForm, AsksBeforeItOverwritesAFile) {
       QFile file(path);
       ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
-    QTimer choose;
-    choose.callOnTimeout([&] {
-      for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* dialog = qobject_cast<QFileDialog*>(widget);
-        if (dialog == nullptr || !dialog->isVisible()) continue;
-        choose.stop();
-        auto* types = dialog->findChild<QComboBox*>("fileTypeCombo");
-        types->setCurrentIndex(c.filter - 1);
-        Q_EMIT types->textActivated(types->currentText());
-        dialog->selectFile(path);
-        QMetaObject::invokeMethod(dialog, "accept");
-      }
-    });
-    choose.start(5);
+    const Choice choice(path, c.filter);
     const std::string question = MessageOf([&] { form->m_actOutput->Execute(); }, c.overwrite);
     EXPECT_EQ(question, c.exists ? "UI12572" : "") << c.name;
     EXPECT_TRUE(form->m_sdOutput->FileName().ends_with(c.written)) << form->m_sdOutput->FileName();

@@ -60,37 +60,6 @@ TEST(StateTextKey, FollowsTheTable) {
   for (const char* code : {"8", "", "00", "-", "x"}) EXPECT_EQ(ApprovalTextKey(code), "") << code;
 }
 
-corvane::List ListOf(const char* column, const std::vector<std::string>& values) {
-  corvane::List list;
-  for (const std::string& value : values) {
-    corvane::Row row;
-    row[column] = value;
-    list.addRow(row);
-  }
-  return list;
-}
-
-TEST(ColumnOrder, PutsTheSavedLayoutFirst) {
-  const struct {
-    std::vector<std::string> table;
-    std::vector<std::string> saved;
-    std::vector<unsigned> expected;
-  } cases[] = {
-      {{"A", "B", "C"}, {}, {0, 1, 2}},
-      {{"A", "B", "C"}, {"C", "A"}, {2, 0, 1}},
-      {{"A", "B", "C"}, {"C", "GONE", "B"}, {2, 1, 0}},
-      {{"A", "B", "C", "D"}, {"D", "C", "D", "A", "B"}, {3, 2, 0, 1}},  // ignored from the repeat on
-      {{"A", "B", "A"}, {}, {0, 1}},
-      {{"A", "B", "A"}, {"A"}, {0, 1}},
-      {{}, {"A"}, {}},
-  };
-  for (const auto& c : cases) {
-    corvane::List table = ListOf("COLID", c.table);
-    corvane::List saved = ListOf("ColumnID", c.saved);
-    EXPECT_EQ(ColumnOrder(table, saved), c.expected) << table.toString() << saved.toString();
-  }
-}
-
 TEST(ColumnTag, FollowsTheTable) {
   const struct {
     const char* format;
