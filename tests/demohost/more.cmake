@@ -24,8 +24,6 @@ function(norvik_script name folder outdated)
 endfunction()
 
 if(TARGET NorvikQry)
-  add_dependencies(demohost_tests NorvikQry)
-  target_compile_definitions(demohost_tests PRIVATE DEMOHOST_TEST_MODULE="$<TARGET_FILE:NorvikQry>")
   file(GLOB scripts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/demohost/scripts/*.op)
   foreach(script IN LISTS scripts)
     get_filename_component(name ${script} NAME_WE)

@@ -80,15 +80,6 @@ TEST(Module, TellsWhatItLacks) {
   EXPECT_EQ(FailureOf([] { Module("libm.so.6"); }), "no export InitModule");
 }
 
-#ifdef DEMOHOST_TEST_MODULE
-TEST(Module, GivesItsMenuAndItsKeys) {
-  Module module(DEMOHOST_TEST_MODULE);
-  EXPECT_EQ(module.MenuItems(), (std::vector<std::string>{"ITEM6066", "ITEM6067", "ITEM6068"}));
-  EXPECT_EQ(FailureOf([&] { module.Init(0); }), "CF15001");
-  module.Release();
-}
-#endif
-
 TEST(Skins, ArePackedAsAModuleReadsThem) {
   const Folder folder;
   folder.Write("in/forms.qss", "QWidget { color: @text; border: 1px solid @line_one; }");

@@ -11,11 +11,6 @@ namespace {
 // The mark of a column that is never shown; it has no text.
 const std::string kHidden = "UI99999";
 
-bool IsNumberedKey(const std::string& key) {
-  static const std::regex kForm("[A-Z]{2}[0-9]{5}");
-  return std::regex_match(key, kForm);
-}
-
 bool FitsCodePage(const std::string& utf8) {
   return norvik::Utf8FromAnsi(norvik::AnsiFromUtf8(utf8)) == utf8;
 }
@@ -82,17 +77,6 @@ TEST(Texts, EachLineIsAKeyOnceAndASoundText) {
     }
     EXPECT_GT(keys.size(), 400U) << language;
     EXPECT_EQ(Lines(faults), "");
-  }
-}
-
-TEST(Texts, NumberedKeysStandInOrder) {
-  for (const std::string& language : kLanguages) {
-    std::string before;
-    for (const TextLine& line : ReadTexts(language)) {
-      if (!IsNumberedKey(line.key)) continue;
-      EXPECT_LT(before, line.key) << language << ".txt:" << line.number;
-      before = line.key;
-    }
   }
 }
 
