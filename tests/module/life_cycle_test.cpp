@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "tests/data/keys.h"
 #include "tests/module/module_library.h"
 
 namespace {
@@ -36,6 +37,15 @@ int CountOf(const std::string& screen) {
   }));
 }
 
+// A module that has been started.
+struct CallFunc : testing::Test {
+  CallFunc() { module.InitModule(host.publicInformation); }
+
+  WindowedHost host;
+  const ModuleLibrary module;
+};
+using Release = CallFunc;
+
 TEST(Menu, NeedsNoServices) {
   const ModuleLibrary module;
   EXPECT_EQ(module.Menu(), kMenu);
@@ -59,21 +69,15 @@ TEST(InitModule, AsksForItsLibrariesInOrder) {
   EXPECT_TRUE(host.CallsOf(Library::kExcel, 1).empty());
 }
 
-TEST(CallFunc, RefusesAPickAfterAFailedStartAndWhatIsNoItem) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  EXPECT_EQ(KeysOf([&] { module.InitModule(0); }), (std::vector<std::string>{"CF15001"}));
-  EXPECT_EQ(KeysOf([&] { module.Pick("ITEM6066"); }), (std::vector<std::string>{"CF30007"}));
-  module.InitModule(host.publicInformation);
-  EXPECT_EQ(KeysOf([&] { module.CallFunc(nullptr, 0); }), (std::vector<std::string>{"ET10057"}));
+TEST_F(CallFunc, RefusesAPickAfterAFailedStartAndWhatIsNoItem) {
+  EXPECT_EQ(KeyOf([&] { module.CallFunc(nullptr, 0); }), "ET10057");
   module.Pick("item6066");
   EXPECT_EQ(OpenScreens(), 0);
+  EXPECT_EQ(KeyOf([&] { module.InitModule(0); }), "CF15001");
+  EXPECT_EQ(KeyOf([&] { module.Pick("ITEM6066"); }), "CF30007");
 }
 
-TEST(CallFunc, OpensEachScreenOverTheMainWindowAndRestoresIt) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
+TEST_F(CallFunc, OpensEachScreenOverTheMainWindowAndRestoresIt) {
   for (const auto& row : kScreens) {
     SCOPED_TRACE(row.item);
     module.Pick(row.item);
@@ -90,7 +94,7 @@ TEST(CallFunc, OpensEachScreenOverTheMainWindowAndRestoresIt) {
   }
 }
 
-TEST(CallFunc, OpensAScreenWithoutAMainWindow) {
+TEST(InitModule, TakesAnyHandleForTheMainWindow) {
   for (const std::uint32_t stray : {0u, 1u, 0xFFFFFFFFu}) {
     WindowedHost host;
     host.handles["APPMAINFORMHANDLE"] = stray;
@@ -103,10 +107,7 @@ TEST(CallFunc, OpensAScreenWithoutAMainWindow) {
   }
 }
 
-TEST(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
+TEST_F(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
   host.SetAnswer(kPub, 90, {"FIELDDEF", "TfrmNorvikQry"}, fakehost::Refusal("no columns"));
   DialogCloser closer;
   // The host picks the item once more while the failure is still shown.
@@ -117,10 +118,7 @@ TEST(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
   EXPECT_EQ(CountOf("TfrmNorvikQry"), 1);
 }
 
-TEST(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
+TEST_F(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
   // Every form reads its font, so the form that tells of the failure meets it, too.
   for (const auto& answer : {fakehost::Text(""), fakehost::Text("large"), fakehost::Refusal("no font")}) {
     host.SetAnswer(kPub, 68, {"SYSCONFIG_DATA", "APPLICATION.FONT", "Size"}, answer);
@@ -133,13 +131,10 @@ TEST(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
   }
 }
 
-TEST(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
-  WindowedHost host;
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
+TEST_F(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
   host.SetAnswer(Library::kTranslate, 4, {"UI40", "UI40110"}, fakehost::Refusal("no texts"));
   for (const auto& row : kScreens) {
-    EXPECT_EQ(KeysOf([&] { module.Pick(row.item); }), (std::vector<std::string>{"no texts"}));
+    EXPECT_EQ(KeyOf([&] { module.Pick(row.item); }), "no texts");
     EXPECT_EQ(CountOf(row.screen), 0);
   }
   host.SetAnswer(Library::kTranslate, 4, {"UI40", "UI40110"}, fakehost::Text("today"));
@@ -147,11 +142,8 @@ TEST(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
   EXPECT_EQ(OpenScreens(), 3);
 }
 
-TEST(CallFunc, ReportsAFailureWithoutATextInTheWordsOfTheErrorLibrary) {
-  WindowedHost host;
+TEST_F(CallFunc, ReportsAFailureWithoutATextInTheWordsOfTheErrorLibrary) {
   host.OfferBills();
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
   module.Pick("ITEM6066");
   host.SetAnswer(Library::kSafeCom, 5, fakehost::Refusal("BK1"));
   host.SetAnswer(Library::kError, 5, fakehost::Refusal("no texts"));
@@ -167,11 +159,8 @@ TEST(CallFunc, ReportsAFailureWithoutATextInTheWordsOfTheErrorLibrary) {
   EXPECT_TRUE(query->isEnabled());
 }
 
-TEST(Release, ComesAfterTheHostsMainWindowHasTakenTheScreensWithIt) {
-  WindowedHost host;
+TEST_F(Release, ComesAfterTheHostsMainWindowHasTakenTheScreensWithIt) {
   host.OfferBills();
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
   for (const auto& row : kScreens) module.Pick(row.item);
   for (const auto& row : kScreens) delete WindowOf(row.screen);
   for (const auto& row : kScreens) module.Pick(row.item);
@@ -180,11 +169,8 @@ TEST(Release, ComesAfterTheHostsMainWindowHasTakenTheScreensWithIt) {
   EXPECT_EQ(host.given, host.released);
 }
 
-TEST(Release, SavesTheLayoutsInTheOrderOfTheMenu) {
-  WindowedHost host;
+TEST_F(Release, SavesTheLayoutsInTheOrderOfTheMenu) {
   host.OfferBills();
-  const ModuleLibrary module;
-  module.InitModule(host.publicInformation);
   for (int i = 2; i >= 0; --i) module.Pick(kScreens[i].item);
   host.calls.clear();
   module.Release();

@@ -76,15 +76,3 @@ class DialogCloser {
  private:
   QTimer m_timer;
 };
-
-/// The keys of the corvane::TException that an action throws; none if it doesn't throw.
-template <class Action>
-std::vector<std::string> KeysOf(Action action) {
-  try {
-    action();
-  } catch (const corvane::TException& exception) {
-    const auto errors = exception.getErrors();
-    return {errors.begin(), errors.end()};
-  }
-  return {};
-}
