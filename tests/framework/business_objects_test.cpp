@@ -10,10 +10,8 @@
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
-#include "toolkit/date_edit.h"
 #include "toolkit/labels.h"
 #include "toolkit/list_view.h"
-#include "toolkit/radio_group.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;
@@ -335,25 +333,6 @@ TEST_F(BusinessObjects, ExportByTypeAndName) {
   common.ExportRecords("a.xml", head, none, none, 2);
   EXPECT_EQ(head.getValue("USERNAME") + head.getValue("QUERYUSER"), "OperatorUI50258");
   EXPECT_FALSE(head.hasField("ACCGRP") || head.hasField("CONDITION"));
-}
-
-TEST_F(BusinessObjects, FollowAndLimitTypedDates) {
-  auto* start = NewComponent<TKVXDateTime>(form, "start");
-  auto* end = NewComponent<TKVXDateTime>(form, "end");
-  auto* radio = NewComponent<TbsSkinRadioGroup>(form, "radio");
-  for (TControl* control : std::initializer_list<TControl*>{start, end, radio}) control->SetParent(form);
-  for (const char* item : {"today", "week", "month", "last", "other"}) radio->Items().Add(item);
-  radio->SetItemIndex(3);
-  common.ApplyDateRadio(start, end, radio);
-  EXPECT_EQ(start->Text() + end->Text(), "2026100120261031");
-  end->SetText("20991231");
-  common.LimitEndDate(start, end, radio);
-  EXPECT_EQ(end->Text(), "20261122");
-  EXPECT_EQ(radio->ItemIndex(), 4);
-  start->SetText("");
-  radio->SetItemIndex(1);
-  common.LimitStartDate(start, end, radio);
-  EXPECT_EQ(radio->ItemIndex(), 1);  // an empty date is left alone altogether
 }
 
 TEST_F(BusinessObjects, TurnCodesIntoTexts) {

@@ -248,21 +248,6 @@ TEST_F(QueryForm, OffersItsActionsInTheListsMenu) {
   EXPECT_FALSE(form->Showing());
 }
 
-TEST_F(QueryForm, ShowsTheReasonOfTheSelectedRecord) {
-  Open();
-  form->Fill({{"A", "Reason"}, {"0", "KNOWN"}, {"1", "UNKNOWN"}, {"2", ""}});
-  host.libraries.SetAnswer(Library::kError, 4, {"KNOWN", "1"}, fakehost::Text("known text"));
-  const auto select = [this](int index, bool selected) {
-    form->m_lvMainSelectItem(form->m_lvMain, form->m_lvMain->Items()[index], selected);
-    return form->m_pnStatusText->Caption();
-  };
-  EXPECT_EQ(select(0, true), "known text");
-  EXPECT_EQ(select(1, true), "UNKNOWN");
-  EXPECT_EQ(select(2, true), "");
-  EXPECT_EQ(select(1, true), "UNKNOWN");
-  EXPECT_EQ(select(1, false), "");
-}
-
 TEST_F(QueryForm, WritesTheTickedRecords) {
   Open();
   form->Fill({{"A", "B"}, {"0", "1"}, {"1", "2"}});
@@ -392,13 +377,6 @@ TEST_F(QueryForm, HidesAndShowsColumnsFromItsMenu) {
                (menu->Items(i)->Checked() ? "x " : "  ");
   }
   EXPECT_EQ(entries, "UI44008-x UI44344+x UI44005+x ");
-  TListColumn* amount = form->m_lvMain->Columns()[1];
-  menu->Items(1)->Click();
-  EXPECT_EQ(amount->Width(), 0);
-  EXPECT_EQ(amount->MaxWidth(), 1);
-  menu->Items(1)->Click();
-  EXPECT_EQ(amount->Width(), 80);
-  EXPECT_EQ(amount->MaxWidth(), 0);
   form->m_pumColumn->Close();
   form->OfferDialog();
   form->m_actHideColumn->Execute();

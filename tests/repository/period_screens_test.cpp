@@ -220,6 +220,10 @@ TEST(PeriodScreens, HoldTypedDatesToTodayAndTheQuickChoiceToThem) {
   TfrmNorvikELoanQry* form = screen.form;
   form->m_rgSelDate->SetItemIndex(1);
   EXPECT_EQ(form->m_dtStartDate->Text() + form->m_dtEndDate->Text(), "2026111620261122");
+  form->m_dtStartDate->SetText("");
+  form->m_dtStartDateChange(form);
+  EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 1);  // an empty date is left alone altogether
+  form->m_rgSelDate->SetItemIndex(1);
   form->m_dtEndDate->SetText("20301231");
   form->m_dtEndDateChange(form);
   EXPECT_EQ(form->m_dtEndDate->Text(), "20261122");
