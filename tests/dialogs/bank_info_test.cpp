@@ -67,8 +67,10 @@ class Loader {
     });
     held.get_future().wait();
   }
-  void End() { end_.set_value(); }
-  void Join() { thread_.join(); }
+  void End() {
+    end_.set_value();
+    thread_.join();
+  }
   ~Loader() { norvik_mutex_close(mutex_); }
   norvik_handle Mutex() const { return mutex_; }
 
@@ -77,6 +79,13 @@ class Loader {
   std::promise<void> end_;
   std::thread thread_;
 };
+
+std::future<void> EndSoon(Loader& loader) {
+  return std::async(std::launch::async, [&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    loader.End();
+  });
+}
 
 class BankInfo : public testing::Test {
  protected:
@@ -135,20 +144,14 @@ TEST_F(BankInfo, ADirectoryWithoutEndIsLeft) {
 TEST_F(BankInfo, TheFirstReaderWaitsForTheLoader) {
   Loader loader;
   TBankInfo info;
-  std::thread ending([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    loader.End();
-  });
+  const auto ending = EndSoon(loader);
   EXPECT_EQ(info.GetBankName("102100000000"), "First");
   EXPECT_EQ(g_readWhileLoading, 0);
   EXPECT_EQ(ShownForm(TWaitForm::staticMetaObject), nullptr);
-  ending.join();
-  loader.Join();
   // Once loaded there is no further wait, not even for a loader that holds the mutex again.
   Loader again;
   EXPECT_EQ(info.GetBankName("103200000000"), "Second");
   again.End();
-  again.Join();
 }
 
 TEST_F(BankInfo, ALoaderThatStartsLateIsWaitedFor) {
@@ -156,20 +159,14 @@ TEST_F(BankInfo, ALoaderThatStartsLateIsWaitedFor) {
   EXPECT_EQ(info.GetBankName("102100000000"), "First");  // no mutex: nothing is filling
   g_readWhileLoading = 0;
   Loader loader;
-  std::thread ending([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    loader.End();
-  });
+  const auto ending = EndSoon(loader);
   EXPECT_EQ(info.GetBankName("103200000000"), "Second");
   EXPECT_EQ(g_readWhileLoading, 0);
-  ending.join();
-  loader.Join();
 }
 
 TEST_F(BankInfo, ALoaderThatDiedLeavesTheDirectoryAsItStands) {
   Loader loader(false);
   loader.End();
-  loader.Join();
   TBankInfo info;
   EXPECT_EQ(info.GetBankName("102100000000"), "First");
   EXPECT_NE(norvik_mutex_release(loader.Mutex()), 0);  // it was not given back

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/com_msg.h"
-#include "dialogs/error_msg.h"
 #include "dialogs/statistics_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
@@ -162,23 +161,6 @@ TEST_F(Statistics, ARecordThatCannotBeSummedEndsInOneMessage) {
   WhenShown<TfrmStatistics> step([](TfrmStatistics& form) { form.m_btnOk->Click(); });
   ShowStatistics(owner, list, "sums", {"AMT"});
   EXPECT_TRUE(step.Came());
-}
-
-TEST_F(Statistics, WithoutAColumnTableTheSumsHaveNoCaptions) {
-  host.libraries.SetAnswer(Library::kPublicInformation, 90, {"FIELDDEF", "TSumForm"},
-                           fakehost::Refusal("no table"));
-  host.SetErrorText("no table", "没有列定义");
-  Add({{"CRYTYPE", "USD"}, {"AMT", "1"}});
-  WhenShown<TFrmErrorMsg> report([](TFrmErrorMsg& form) {
-    EXPECT_EQ(form.m_lblInfo->Caption(), Ansi("没有列定义"));
-    form.Close();
-  });
-  const auto form = Make();
-  EXPECT_TRUE(report.Came());
-  ASSERT_TRUE(form->Prepare(owner, list, {"AMT"}, ""));
-  EXPECT_EQ(form->m_ltvInfo->Columns().Items(2)->Caption(), "");
-  EXPECT_EQ(form->m_ltvInfo->Columns().Items(2)->Width(), 200);
-  EXPECT_EQ(CellsOf(form->m_ltvInfo), (Cells{{"USD", "1", "1.00"}}));
 }
 
 }  // namespace
