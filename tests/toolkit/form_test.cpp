@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -46,20 +44,6 @@ TEST_F(FormTest, AnOwnerDestroysItsFormsAndTheirHandlersRun) {
   DestroyForm(screen);
   EXPECT_EQ(log.back(), "FormDestroy");
   EXPECT_EQ(Screen->FormCount(), 0);
-}
-
-TEST_F(FormTest, ItsWidgetsBearTheNamesOfItsControls) {
-  auto* form = CreateForm<TTestForm>(Application);
-  const QWidget* window = form->Widget();
-  EXPECT_EQ(window->objectName(), QStringLiteral("TTestForm"));
-  EXPECT_NE(window->findChild<QLabel*>("m_lbText"), nullptr);
-  EXPECT_NE(window->findChild<QPushButton*>("m_btnFirst"), nullptr);
-  EXPECT_EQ(form->FindComponent("m_pnTop"), form->m_pnTop);
-  EXPECT_EQ(form->FindComponent("m_pnBottom"), nullptr);
-  EXPECT_EQ(form->m_btnFirst->Parent(), form->m_pnTop);
-  EXPECT_EQ(form->m_btnFirst->ParentForm(), form);
-  EXPECT_EQ(form->ControlCount(), 2);
-  EXPECT_EQ(form->ComponentCount(), 6);
 }
 
 TEST_F(FormTest, ShowAndCloseRunTheirHandlersOnceAndCloseHides) {
