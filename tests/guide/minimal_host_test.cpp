@@ -50,17 +50,6 @@ class MinimalHost : public testing::Test {
 
 }  // namespace
 
-TEST_F(MinimalHost, ReadsTheMenu) {
-  char* menu = nullptr;
-  Export<norvik_menu_config>(m_module, "MenuConfig")(&menu);
-  ASSERT_NE(menu, nullptr);
-  EXPECT_STREQ(menu,
-               "<?xml version=\"1.0\" encoding=\"UTF-8\"?><iniplus><section name=\"MENU\">"
-               "<row><ItemName>ITEM6066</ItemName></row><row><ItemName>ITEM6067</ItemName></row>"
-               "<row><ItemName>ITEM6068</ItemName></row></section></iniplus>");
-  Export<norvik_free_buff>(m_module, "FreeBuff")(menu);
-}
-
 TEST_F(MinimalHost, RunsOneQuery) {
   Pick("ITEM6066");
   QWidget* const form = FormOf("TfrmNorvikQry");
@@ -77,12 +66,6 @@ TEST_F(MinimalHost, RunsOneQuery) {
     const std::string text = list->model()->index(0, column).data().toString().toStdString();
     EXPECT_EQ(text, kRow[column]) << column;
   }
-}
-
-TEST_F(MinimalHost, AnUnknownItemOpensNothing) {
-  const qsizetype before = QApplication::topLevelWidgets().size();
-  Pick("ITEM0000");
-  EXPECT_EQ(QApplication::topLevelWidgets().size(), before);
 }
 
 int main(int argc, char** argv) {
