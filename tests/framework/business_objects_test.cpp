@@ -6,7 +6,6 @@
 #include "dialogs/busy_form.h"
 #include "dialogs/error_msg.h"
 #include "framework/query_common.h"
-#include "host/pub_info.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
