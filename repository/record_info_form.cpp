@@ -89,6 +89,8 @@ void TRecordInfoForm::ResetForm() {
   TBaseForm::ResetForm();
   const bool firstType = IsFirstType();
   for (const ShownRow& shown : m_rows) ShowRow(shown, firstType);
+  // The focus on a panel would scroll the record's beginning out of sight.
+  SetActiveControl(m_btnClose);
 }
 
 bool TRecordInfoForm::IsFirstType() const {

@@ -80,6 +80,7 @@ TEST_F(RecordInfoForm, ShowsValuesAsTheyStand) {
   EXPECT_EQ(Row("m_lbMoney"), "UI44344=1234567.5");
   EXPECT_EQ(Row("m_lbEndRmnt"), "UI44033=0");
   EXPECT_EQ(Row("m_lbTicketNo"), "UI44307=");
+  EXPECT_EQ(view->ActiveControl(), view->m_btnClose) << "a focus further down would scroll the record";
   DestroyForm(view);
   record["ENDRMNT"] = "12";
   Open<TfrmAppQryInfo>(record);
