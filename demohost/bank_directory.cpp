@@ -22,15 +22,15 @@ const typename Map::mapped_type* Find(const Map& map, const char* key) {
 
 }  // namespace
 
-BankDirectory::BankDirectory(const std::filesystem::path& bank, int delay_milliseconds)
+BankDirectory::BankDirectory(const std::filesystem::path& bank, int delayMilliseconds)
     : mutex_(norvik_mutex_create(kMutex)) {
   const norvik_bank_directory directory = {this, &TopCode, &HasArea, &BankName};
   handle_ = norvik_bank_directory_register(&directory);
   std::promise<void> held;
-  loader_ = std::thread([this, bank, delay_milliseconds, &held] {
+  loader_ = std::thread([this, bank, delayMilliseconds, &held] {
     norvik_mutex_wait(mutex_);
     held.set_value();
-    std::this_thread::sleep_for(std::chrono::milliseconds(delay_milliseconds));
+    std::this_thread::sleep_for(std::chrono::milliseconds(delayMilliseconds));
     try {
       Load(bank);
     } catch (const DatabaseError&) {

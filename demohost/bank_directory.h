@@ -15,9 +15,9 @@ namespace demohost {
 // and names are narrow text.
 class BankDirectory {
  public:
-  // Starts the loader, and returns once it holds the mutex. delay_milliseconds: how much longer it takes than
+  // Starts the loader, and returns once it holds the mutex. delayMilliseconds: how much longer it takes than
   // it must.
-  explicit BankDirectory(const std::filesystem::path& bank, int delay_milliseconds = 0);
+  explicit BankDirectory(const std::filesystem::path& bank, int delayMilliseconds = 0);
   // Waits for the loader.
   ~BankDirectory();
   BankDirectory(const BankDirectory&) = delete;

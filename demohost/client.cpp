@@ -68,7 +68,7 @@ Client::Client(const Options& options)
       tables_(ReadTables(options.share)),
       clock_(options.today),
       bank_(OpenBank(BankFile(options), Plan(options)), options.today),
-      directory_(BankFile(options), options.directory_delay),
+      directory_(BankFile(options), options.directoryDelay),
       store_(options.config),
       mark_(nullptr),
       window_(forms_, {[this](const std::string& item) { Pick(item); },
@@ -83,15 +83,13 @@ Client::Client(const Options& options)
   if (!options.language.empty()) {
     store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", options.language);
   }
-  store_.on_handle = [this](const std::string& key, std::uint32_t value) {
-    forms_.HandleEntered(key, value);
-  };
+  store_.onHandle = [this](const std::string& key, std::uint32_t value) { forms_.HandleEntered(key, value); };
   store_.SetHandle("APPMAINFORMHANDLE", window_.Handle());
   store_.SetHandle("BANK_PDATA", directory_.Handle());
-  output_.print_folder = options.data / "prints";
+  output_.printFolder = options.data / "prints";
   output_.made = [this](const std::filesystem::path& file) { Tell(HostWord::kSaved, file.string()); };
-  output_.may_replace = [this](const std::filesystem::path& file) { return MayReplace(file); };
-  output_.print_settings = [this](const std::string&) {
+  output_.mayReplace = [this](const std::filesystem::path& file) { return MayReplace(file); };
+  output_.printSettings = [this](const std::string&) {
     if (AskPrintSettings(store_, Setting("APPLICATION.LANG", "Language"), &window_)) Save();
   };
   Services services{&store_, &texts_, &bank_, &clock_, &output_, options.delay, {}};
@@ -113,7 +111,7 @@ Client::~Client() {
   } catch (const ModuleError&) {
     // The client ends all the same.
   }
-  store_.on_handle = nullptr;
+  store_.onHandle = nullptr;
 }
 
 std::filesystem::path Client::BankFile(const Options& options) const {
@@ -150,7 +148,7 @@ void Client::Pick(const std::string& item) {
   try {
     module_.Call(item);
     const std::vector<OpenForms::Form> forms = forms_.Announced();
-    if (!forms.empty()) item_of_[forms.back().class_name] = item;
+    if (!forms.empty()) item_of_[forms.back().className] = item;
   } catch (const ModuleError& error) {
     TellFailure(error);
   }
@@ -167,7 +165,7 @@ void Client::ChooseLanguage(const std::string& language) {
   if (!IsLanguage(language)) throw std::invalid_argument("there is no language \"" + language + "\"");
   std::vector<std::string> open;
   for (const OpenForms::Form& form : forms_.Announced()) {
-    if (item_of_.count(form.class_name) != 0) open.push_back(item_of_[form.class_name]);
+    if (item_of_.count(form.className) != 0) open.push_back(item_of_[form.className]);
   }
   store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", language);
   Save();

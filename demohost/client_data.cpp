@@ -94,17 +94,17 @@ void FillUser(InfoStore& store, const std::vector<BankAccount>& accounts) {
   store.SetList("CMLGUSERINFO", user);
   corvane::List businesses;
   corvane::List operations;
-  corvane::List business_accounts;
+  corvane::List businessAccounts;
   for (const auto& [business, flow, operation] : kFlows) {
     businesses.addRow(RowOf({{"BSNCODE", business}, {"FLOWID", flow}}));
     operations.addRow(RowOf({{"FLOWID", flow}, {"PSTCLASS", operation}}));
     for (const BankAccount& account : accounts) {
-      business_accounts.addRow(RowOf({{"FLOWID", flow}, {"ACCNO", account.number}, {"ACCNM", account.name}}));
+      businessAccounts.addRow(RowOf({{"FLOWID", flow}, {"ACCNO", account.number}, {"ACCNM", account.name}}));
     }
   }
   store.SetList("CMLGBSN", businesses);
   store.SetList("CMLGBSNOPR", operations);
-  store.SetList("CMLGBSNACC", business_accounts);
+  store.SetList("CMLGBSNACC", businessAccounts);
 }
 
 // A folder's path with the slash behind which a file name can follow.

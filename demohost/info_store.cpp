@@ -32,7 +32,7 @@ std::uint32_t InfoStore::Handle(const std::string& key) const {
 
 void InfoStore::SetHandle(const std::string& key, std::uint32_t value) {
   handles_[key] = value;
-  if (on_handle) on_handle(key, value);
+  if (onHandle) onHandle(key, value);
 }
 
 corvane::Field InfoStore::GetField(const std::string& block, const std::string& name) const {

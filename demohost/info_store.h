@@ -22,7 +22,7 @@ class InfoStore {
   std::uint32_t Handle(const std::string& key) const;
   void SetHandle(const std::string& key, std::uint32_t value);
   // Called after each SetHandle.
-  std::function<void(const std::string& key, std::uint32_t value)> on_handle;
+  std::function<void(const std::string& key, std::uint32_t value)> onHandle;
 
   corvane::Field GetField(const std::string& block, const std::string& name) const;
   // The value of a field, "" where there is none.

@@ -65,7 +65,7 @@ int Run(const Options& options, QApplication& application) {
   Operator hand(client.ForOperator(), out);
   Player player(std::move(steps), hand);
   player.SetPatience(options.patience);
-  player.on_end = [](ScriptEnd end, const QString& reason) {
+  player.onEnd = [](ScriptEnd end, const QString& reason) {
     if (!reason.isEmpty()) std::cerr << "demohost: " << reason.toStdString() << std::endl;
     QApplication::exit(static_cast<int>(end));
   };

@@ -109,12 +109,12 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString& messa
       PathOr(parser, "desktop", QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
   options.bills = NumberOr(parser, "bills", options.bills, 5000000);
   options.delay = MillisecondsOr(parser, "delay", 0);
-  options.directory_delay = MillisecondsOr(parser, "directory-delay", 0);
+  options.directoryDelay = MillisecondsOr(parser, "directory-delay", 0);
   options.patience = MillisecondsOr(parser, "patience", options.patience);
   if (parser.isSet("check")) options.check = PathOr(parser, "check", {});
-  options.check_case = parser.value("case").toStdString();
-  options.check_limit = static_cast<int>(NumberOr(parser, "limit", options.check_limit, 3600));
-  options.check_folder = PathOf(parser.value("check-folder"));
+  options.checkCase = parser.value("case").toStdString();
+  options.checkLimit = static_cast<int>(NumberOr(parser, "limit", options.checkLimit, 3600));
+  options.checkFolder = PathOf(parser.value("check-folder"));
   options.script = parser.value("script");
   options.open = parser.value("open").toStdString();
   options.language = parser.value("language").toStdString();

@@ -21,17 +21,17 @@ struct Options {
   std::filesystem::path desktop;  // where shortcuts go
   std::int64_t bills = 10000;
   Day today = kBankDay;
-  int delay = 0;            // milliseconds of an exchange
-  int directory_delay = 0;  // milliseconds more until the bank directory is full
-  int patience = 5000;      // milliseconds that a step of a script may wait
-  QString script;           // a script's file, "-" for the standard input, empty for none
-  std::string open;         // a menu item to open at start
-  std::string language;     // instead of the saved one, for this run
+  int delay = 0;           // milliseconds of an exchange
+  int directoryDelay = 0;  // milliseconds more until the bank directory is full
+  int patience = 5000;     // milliseconds that a step of a script may wait
+  QString script;          // a script's file, "-" for the standard input, empty for none
+  std::string open;        // a menu item to open at start
+  std::string language;    // instead of the saved one, for this run
 
-  std::filesystem::path check;         // the module to check against the contract; empty for no check
-  std::string check_case;              // the only case to play; empty for all
-  int check_limit = 20;                // seconds that a case may take
-  std::filesystem::path check_folder;  // set in the process of a case: its files
+  std::filesystem::path check;        // the module to check against the contract; empty for no check
+  std::string checkCase;              // the only case to play; empty for all
+  int checkLimit = 20;                // seconds that a case may take
+  std::filesystem::path checkFolder;  // set in the process of a case: its files
 };
 
 // The command line is wrong; what() says how, in UTF-8.

@@ -28,11 +28,11 @@ Colours ReadColours(const std::filesystem::path& path) {
 
 // The colours and the path of the tick picture in the sheet.
 std::string Filled(const std::string& sheet, const std::filesystem::path& list, const Colours& colours) {
-  const auto in_name = [](char c) { return (c >= 'a' && c <= 'z') || c == '_'; };
+  const auto inName = [](char c) { return (c >= 'a' && c <= 'z') || c == '_'; };
   std::string result;
   for (std::size_t at = 0; at < sheet.size();) {
     std::size_t end = at + 1;
-    while (sheet[at] == '@' && end < sheet.size() && in_name(sheet[end])) ++end;
+    while (sheet[at] == '@' && end < sheet.size() && inName(sheet[end])) ++end;
     if (end == at + 1) {
       result += sheet[at];
     } else {

@@ -71,7 +71,7 @@ void TBankInfo::EnsureLoaded() {
 }
 
 std::string TBankInfo::GetBankName(const std::string& number) {
-  if (m_closed) throw norvik::LifeEnded();
+  if (closed_) throw norvik::LifeEnded();
   EnsureLoaded();
   const auto directory = norvik::FindBankDirectory(m_directory);
   const bool readable = m_loaded || m_mutex == 0;
@@ -79,7 +79,7 @@ std::string TBankInfo::GetBankName(const std::string& number) {
     return {};
   }
   const std::string area = number.substr(3, 4);
-  const Directory asked(*directory, m_closed);
+  const Directory asked(*directory, closed_);
   const std::optional<std::string> code = asked.TopCodeOf(area);
   return code ? asked.BankName(*code, area, number.substr(0, 3), number) : std::string();
 }

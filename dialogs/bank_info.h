@@ -33,13 +33,13 @@ class TBankInfo {
   std::string GetBankName(const std::string& number);
 
   // Reads the directory no more, as the host's proxies do.
-  void Close() { m_closed = true; }
+  void Close() { closed_ = true; }
 
  private:
   norvik_handle m_directory;
   norvik_handle m_mutex;
   bool m_loaded = false;
-  bool m_closed = false;
+  bool closed_ = false;
 };
 
 // Set by InitModule, null after Release.

@@ -27,8 +27,8 @@ void TBusyForm::BuildControls() {
   m_pnlmain->SetParent(this);
   m_amtmain = NewComponent<TAnimate>(this, "m_amtmain");
   m_amtmain->SetParent(m_pnlmain);
-  m_amtmain->SetCommonAVI(m_design.animation);
-  m_amtmain->SetStopFrame(m_design.stopFrame);
+  m_amtmain->SetCommonAVI(design_.animation);
+  m_amtmain->SetStopFrame(design_.stopFrame);
   OnShow = [this](TObject* sender) { FormShow(sender); };
 }
 
@@ -38,25 +38,25 @@ void TBusyForm::Construct() {
 }
 
 void TBusyForm::FormDestroy() {
-  m_painter.Stop();
+  painter_.Stop();
   TForm::FormDestroy();
 }
 
 void TBusyForm::FormShow(TObject*) {
-  m_imagePath += m_design.file;
+  m_imagePath += design_.file;
   if (QFileInfo(ToQt(m_imagePath)).isFile()) m_amtmain->SetFileName(m_imagePath);
-  SetHeight(m_design.height);
-  SetWidth(m_design.width);
+  SetHeight(design_.height);
+  SetWidth(design_.width);
   SetFormStyle(fsStayOnTop);
   SetBorderStyle(bsNone);
-  SetPosition(m_design.position);
+  SetPosition(design_.position);
   m_amtmain->SetAlign(alClient);
   m_pnlmain->SetAlign(alClient);
   m_amtmain->SetActive(true);
 }
 
 void TBusyForm::Begin() {
-  m_before = QApplication::activeWindow();
+  before_ = QApplication::activeWindow();
   Widget()->setWindowModality(Qt::ApplicationModal);
   Show();
   Application->ProcessMessages();
@@ -66,16 +66,16 @@ void TBusyForm::Begin() {
 void TBusyForm::StartPainter() {
   if (!TBusyPainter::Available()) return;
   const QRect area(m_amtmain->Widget()->mapTo(Widget(), QPoint(0, 0)), m_amtmain->Widget()->size());
-  m_painter.Start(Widget()->winId(),
-                  norvik::ComposeFrames(Widget()->grab().toImage(), area, m_amtmain->Frames(area.size())),
-                  TAnimate::kFrameTime);
+  painter_.Start(Widget()->winId(),
+                 norvik::ComposeFrames(Widget()->grab().toImage(), area, m_amtmain->Frames(area.size())),
+                 TAnimate::kFrameTime);
 }
 
 void TBusyForm::End() {
   const QPointer<TBusyForm> self(this);
   Application->ProcessMessages();
   if (self.isNull()) return;
-  m_painter.Stop();
+  painter_.Stop();
   Close();
-  if (m_before && m_before->isVisible()) m_before->activateWindow();
+  if (before_ && before_->isVisible()) before_->activateWindow();
 }

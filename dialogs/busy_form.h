@@ -41,15 +41,15 @@ class TBusyForm : public TForm {
   std::string m_imagePath;  // the directory; from the show on the animation file
 
  protected:
-  TBusyForm(TComponent* owner, const TBusyDesign& design) : TForm(owner), m_design(design) {}
+  TBusyForm(TComponent* owner, const TBusyDesign& design) : TForm(owner), design_(design) {}
 
  private:
   void FormShow(TObject* sender);
   void StartPainter();
 
-  const TBusyDesign& m_design;
-  TBusyPainter m_painter;
-  QPointer<QWidget> m_before;  // the window that was active
+  const TBusyDesign& design_;
+  TBusyPainter painter_;
+  QPointer<QWidget> before_;  // the window that was active
 };
 
 class TBarForm : public TBusyForm {

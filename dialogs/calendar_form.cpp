@@ -22,7 +22,7 @@ QLocale LocaleOf(std::uint8_t charset) {
 }  // namespace
 
 TDateCalendar::TDateCalendar(TComponent* owner, const std::string& text, TKVXDateType type)
-    : TBaseForm(owner), m_dateTime(Parse(text, Now())), m_type(type) {}
+    : TBaseForm(owner), m_dateTime(Parse(text, Now())), type_(type) {}
 
 TDateTime TDateCalendar::Parse(const std::string& text, TDateTime now) {
   if ((text.size() != 8 && text.size() != 14) || !IsAllDigits(text)) return now;
@@ -43,7 +43,7 @@ void TDateCalendar::BuildControls() {
   TBaseForm::BuildControls();
   m_time = NewComponent<TTimer>(this, "m_time");
   m_time->SetInterval(1000);
-  m_time->OnTimer = [this](TObject* sender) { m_timeTimer(sender); };
+  m_time->OnTimer = [this](TObject* sender) { timeTimer_(sender); };
   m_pnlmonth = NewComponent<TPanel>(this, "m_pnlmonth");
   m_pnltime = NewComponent<TPanel>(this, "m_pnltime");
   BuildMonth();
@@ -130,8 +130,8 @@ void TDateCalendar::SetCaptions() {
 
 void TDateCalendar::Construct() {
   TBaseForm::Construct();
-  m_pnlmonth->SetVisible(m_type != dtTime);
-  m_pnltime->SetVisible(m_type != dtDate);
+  m_pnlmonth->SetVisible(type_ != dtTime);
+  m_pnltime->SetVisible(type_ != dtDate);
   m_time->SetEnabled(true);
 }
 
@@ -162,7 +162,7 @@ void TDateCalendar::ShowDateTime() {
 
 // Counts the second up, so that the proposed time stays the present one; beyond the last second the day may
 // change.
-void TDateCalendar::m_timeTimer(TObject*) {
+void TDateCalendar::timeTimer_(TObject*) {
   m_time->SetEnabled(false);
   if (m_uds->Position() != kLastSecond) {
     m_uds->SetPosition(m_uds->Position() + 1);

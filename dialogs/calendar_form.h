@@ -57,12 +57,12 @@ class TDateCalendar : public TBaseForm {
  private:
   void BuildMonth();
   void BuildTime();
-  void m_timeTimer(TObject* sender);
+  void timeTimer_(TObject* sender);
   void m_btnokClick(TObject* sender);
   void m_btncancelClick(TObject* sender);
   // The calendar's day with the time of the three edits.
   TDateTime ShownDateTime() const;
   void ShowDateTime();
 
-  const TKVXDateType m_type;
+  const TKVXDateType type_;
 };

@@ -42,7 +42,7 @@ const ModeDesign& DesignOf(TMessageMode mode) {
 }  // namespace
 
 TFrmComMsg::TFrmComMsg(TComponent* owner, std::string text, TMessageMode mode)
-    : TBaseForm(owner), m_text(std::move(text)), m_mode(mode) {}
+    : TBaseForm(owner), text_(std::move(text)), mode_(mode) {}
 
 int TFrmComMsg::ExtraHeight(const std::string& text) {
   const std::size_t lines = text.size() / kBytesInLine + 1 + corvane::StringVector(text, "\r\n", true).size();
@@ -79,7 +79,7 @@ void TFrmComMsg::BuildControls() {
 }
 
 void TFrmComMsg::SetCaptions() {
-  const ModeDesign& design = DesignOf(m_mode);
+  const ModeDesign& design = DesignOf(mode_);
   SetCaption(design.form);
   m_btnOk->SetCaption(design.leftButton);
   m_btnNo->SetCaption(design.rightButton);
@@ -89,8 +89,8 @@ void TFrmComMsg::SetCaptions() {
 
 void TFrmComMsg::Construct() {
   TBaseForm::Construct();
-  m_lblInfo->SetCaption(m_text);
-  m_lblInfo->SetHeight(kTextHeight + ExtraHeight(m_text));
+  m_lblInfo->SetCaption(text_);
+  m_lblInfo->SetHeight(kTextHeight + ExtraHeight(text_));
   Arrange();
 }
 
@@ -105,11 +105,11 @@ void TFrmComMsg::ResetForm() {
 // The designed size holds for the smallest font; a larger one widens the text and pushes the buttons down.
 void TFrmComMsg::FitToFont() {
   m_lblInfo->SetWidth(TextWidth(*m_lblInfo, kBytesInLine / 2, kTextWidth));
-  m_lblInfo->SetHeight(TextHeight(*m_lblInfo, m_text, m_lblInfo->Width(), m_lblInfo->Height()));
-  const bool fits = TextFits(*m_lblInfo, m_text, m_lblInfo->Width());
+  m_lblInfo->SetHeight(TextHeight(*m_lblInfo, text_, m_lblInfo->Width(), m_lblInfo->Height()));
+  const bool fits = TextFits(*m_lblInfo, text_, m_lblInfo->Width());
   m_lblInfo->SetVisible(fits);
   m_memo->SetVisible(!fits);
-  if (!fits) m_memo->SetText(m_text);
+  if (!fits) m_memo->SetText(text_);
   for (TbsSkinButton* button : {m_btnOk, m_btnNo}) FitButton(*button, kButtonWidth, kButtonHeight);
   Arrange();
 }

@@ -45,6 +45,6 @@ class TFrmComMsg : public TBaseForm {
   void FitToFont();
   void Arrange();
 
-  const std::string m_text;
-  const TMessageMode m_mode;
+  const std::string text_;
+  const TMessageMode mode_;
 };

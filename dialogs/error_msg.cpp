@@ -31,7 +31,7 @@ constexpr int kFullWidthCharacters = 30;  // in a line of the summary
 }  // namespace
 
 TFrmErrorMsg::TFrmErrorMsg(TComponent* owner, std::string summary, std::string detail)
-    : TBaseForm(owner), m_summary(std::move(summary)), m_detail(std::move(detail)) {}
+    : TBaseForm(owner), summary_(std::move(summary)), detail_(std::move(detail)) {}
 
 void TFrmErrorMsg::BuildControls() {
   TBaseForm::BuildControls();
@@ -76,8 +76,8 @@ void TFrmErrorMsg::SetCaptions() {
 
 void TFrmErrorMsg::Construct() {
   TBaseForm::Construct();
-  m_lblInfo->SetCaption(m_summary);
-  m_memo->SetText(m_detail);
+  m_lblInfo->SetCaption(summary_);
+  m_memo->SetText(detail_);
   m_memoChange(m_memo);
   ShowDetail(false);
 }
@@ -91,7 +91,7 @@ void TFrmErrorMsg::ResetForm() {
 
 void TFrmErrorMsg::FitToFont() {
   m_lblInfo->SetWidth(TextWidth(*m_lblInfo, kFullWidthCharacters, kTextWidth));
-  m_lblInfo->SetHeight(TextHeight(*m_lblInfo, m_summary, m_lblInfo->Width(), kTextHeight));
+  m_lblInfo->SetHeight(TextHeight(*m_lblInfo, summary_, m_lblInfo->Width(), kTextHeight));
   for (TbsSkinButton* button : {m_btnCopy, m_btnDetail, m_btnOK})
     FitButton(*button, kButtonWidth, kButtonHeight);
   Arrange();

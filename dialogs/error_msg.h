@@ -39,6 +39,6 @@ class TFrmErrorMsg : public TBaseForm {
   void FitToFont();
   void Arrange();
 
-  const std::string m_summary;
-  const std::string m_detail;
+  const std::string summary_;
+  const std::string detail_;
 };

@@ -131,8 +131,8 @@ void TfrmStatistics::AddRecords(bool checkedOnly) {
 
 std::string TfrmStatistics::CurrencyOf(const corvane::Property& record) {
   if (record.hasField("CRYTYPE")) return record.getValue("CRYTYPE");
-  if (!m_usualCurrency) m_usualCurrency = g_pTranslate->Translate("UI42325");
-  return *m_usualCurrency;
+  if (!usualCurrency_) usualCurrency_ = g_pTranslate->Translate("UI42325");
+  return *usualCurrency_;
 }
 
 void TfrmStatistics::AddRecord(const TListItem* item) {

@@ -62,8 +62,8 @@ class TfrmStatistics : public TBaseForm {
 
   TKVXListView* m_listView = nullptr;  // not owned
   corvane::StringVector m_sumColumns;
-  std::map<std::string, TTotals> m_sums;       // by currency text
-  std::optional<std::string> m_usualCurrency;  // of a record that names none, once asked for
+  std::map<std::string, TTotals> m_sums;      // by currency text
+  std::optional<std::string> usualCurrency_;  // of a record that names none, once asked for
   std::string m_ownerClass;
   corvane::List m_fieldDefs;
 };

@@ -7,12 +7,12 @@
 // started it keeps the focus.
 class ActionOff {
  public:
-  ActionOff(TForm* form, TAction* action) : m_focus(form), m_action(action) { m_action->SetEnabled(false); }
+  ActionOff(TForm* form, TAction* action) : focus_(form), m_action(action) { m_action->SetEnabled(false); }
   ~ActionOff() { m_action->SetEnabled(true); }
   ActionOff(const ActionOff&) = delete;
   ActionOff& operator=(const ActionOff&) = delete;
 
  private:
-  const KeptFocus m_focus;
+  const KeptFocus focus_;
   TAction* m_action;
 };

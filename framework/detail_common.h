@@ -10,6 +10,6 @@
 class CDetailCommon : public CMDetailIntf {
  protected:
   // Room for what a descendant keeps of its records.
-  corvane::List m_records;
-  std::map<std::string, std::string> m_texts;
+  corvane::List records_;
+  std::map<std::string, std::string> texts_;
 };

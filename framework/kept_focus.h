@@ -9,16 +9,16 @@
 // loses the focus to the next one, and the operator's next key would press that.
 class KeptFocus {
  public:
-  explicit KeptFocus(TForm* form) : m_form(form), m_control(form->ActiveControl()) {}
+  explicit KeptFocus(TForm* form) : form_(form), control_(form->ActiveControl()) {}
   ~KeptFocus() {
-    if (m_form && m_control && m_form->ActiveControl() != m_control && m_control->CanFocus()) {
-      m_control->SetFocus();
+    if (form_ && control_ && form_->ActiveControl() != control_ && control_->CanFocus()) {
+      control_->SetFocus();
     }
   }
   KeptFocus(const KeptFocus&) = delete;
   KeptFocus& operator=(const KeptFocus&) = delete;
 
  private:
-  QPointer<TForm> m_form;
-  QPointer<TWinControl> m_control;
+  QPointer<TForm> form_;
+  QPointer<TWinControl> control_;
 };

@@ -70,7 +70,7 @@ void TListForm::ResetForm() {
 }
 
 void TListForm::FormShow(TObject* sender) {
-  ++m_nShows;
+  ++shows_;
   TBaseForm::FormShow(sender);
   if (ShownBefore() && m_lvMain->Items().Count() == 0) BuildMissingColumns(Business());
   SelectColumn();

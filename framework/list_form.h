@@ -124,7 +124,7 @@ class TListForm : public TBaseForm {
   void EmptyList();
   // True from the second show on, also where the earlier ones failed: then the form asks again for what the
   // host could not tell when the form was made.
-  bool ShownBefore() const { return m_nShows > 1; }
+  bool ShownBefore() const { return shows_ > 1; }
   // Asks for the file of an output; empty when the user gives up or keeps the file that exists.
   std::string AskOutputFile();
   // Writes the ticked records to a file: all columns of the column table but the data columns, in table
@@ -149,7 +149,7 @@ class TListForm : public TBaseForm {
  private:
   void BindList();
 
-  int m_nShows = 0;  // shows begun
+  int shows_ = 0;  // shows begun
 };
 
 // A control of a kind that needs no more than its name and, where it has one, its action.

@@ -34,10 +34,10 @@ std::string UserField(const char* key) {
 // Takes the busy form of an exchange away, whatever happens in it; also where it could not be shown.
 class BusyEnd {
  public:
-  explicit BusyEnd(TForm* owner) : m_owner(owner) {}
+  explicit BusyEnd(TForm* owner) : owner_(owner) {}
   ~BusyEnd() {
     try {
-      HideBar(m_owner);
+      HideBar(owner_);
     } catch (const norvik::LifeEnded&) {
       // The form has gone with its life; what follows meets the end at its own next check.
     }
@@ -46,7 +46,7 @@ class BusyEnd {
   BusyEnd& operator=(const BusyEnd&) = delete;
 
  private:
-  TForm* m_owner;
+  TForm* owner_;
 };
 
 }  // namespace

@@ -23,13 +23,13 @@ class CodeTexts {
   explicit CodeTexts(const corvane::List& dictionary) {
     // The first of two rows of one code counts.
     for (const corvane::Row& row : dictionary)
-      m_entries.try_emplace(Value(row, "TYPEKEY"), Value(row, "TYPE"));
+      entries_.try_emplace(Value(row, "TYPEKEY"), Value(row, "TYPE"));
   }
 
   // Null for a code that the dictionary lacks.
   const std::string* TextOf(const std::string& code) {
-    const auto entry = m_entries.find(code);
-    if (entry == m_entries.end()) return nullptr;
+    const auto entry = entries_.find(code);
+    if (entry == entries_.end()) return nullptr;
     if (!entry->second.text) entry->second.text = g_pTranslate->Translate(entry->second.key);
     return &*entry->second.text;
   }
@@ -40,7 +40,7 @@ class CodeTexts {
     std::string key;
     std::optional<std::string> text;
   };
-  std::unordered_map<std::string, Entry> m_entries;
+  std::unordered_map<std::string, Entry> entries_;
 };
 
 // Each account once, also one that several flows reach, behind the first entry; an empty box without

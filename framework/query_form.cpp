@@ -88,10 +88,10 @@ void TQueryForm::ModifySelected(corvane::Property& row) {
 // a text or a day of the bank that has changed has all ticked rows looked at once more.
 template <class Rule>
 int TQueryForm::CheckedCount(norvik::RecordKind kind, Rule norvik::TickRules::*rule, Rule present) {
-  if (m_tickRules.*rule != present) {
-    m_tickRules.*rule = std::move(present);
+  if (tickRules_.*rule != present) {
+    tickRules_.*rule = std::move(present);
     m_lvMain->SetKinds(
-        [rules = m_tickRules](const corvane::Property& record) { return rules.KindsOf(record); });
+        [rules = tickRules_](const corvane::Property& record) { return rules.KindsOf(record); });
   }
   return m_lvMain->CheckedCount(kind);
 }

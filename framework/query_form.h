@@ -156,5 +156,5 @@ class TQueryForm : public TListForm {
   // The ticked records' sum of the face amounts, or of the business amounts, with two decimals.
   std::string CheckedTotal();
 
-  norvik::TickRules m_tickRules;
+  norvik::TickRules tickRules_;
 };

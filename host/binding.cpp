@@ -8,20 +8,20 @@
 namespace norvik {
 
 bool FunctionTable::Resolve(norvik_handle module, std::span<const std::uint32_t> ordinals) {
-  m_ordinals = ordinals;
-  m_functions.clear();
-  for (const std::uint32_t ordinal : ordinals) m_functions.push_back(norvik_module_function(module, ordinal));
-  const bool whole = std::find(m_functions.begin(), m_functions.end(), nullptr) == m_functions.end();
+  ordinals_ = ordinals;
+  functions_.clear();
+  for (const std::uint32_t ordinal : ordinals) functions_.push_back(norvik_module_function(module, ordinal));
+  const bool whole = std::find(functions_.begin(), functions_.end(), nullptr) == functions_.end();
   // Of a library that was never started no function may be called.
-  if (!whole) std::fill(m_functions.begin(), m_functions.end(), nullptr);
+  if (!whole) std::fill(functions_.begin(), functions_.end(), nullptr);
   return whole;
 }
 
 void* FunctionTable::Find(std::uint32_t ordinal) const {
   Check();
-  const auto found = std::find(m_ordinals.begin(), m_ordinals.end(), ordinal);
+  const auto found = std::find(ordinals_.begin(), ordinals_.end(), ordinal);
   void* const function =
-      found == m_ordinals.end() ? nullptr : m_functions[static_cast<std::size_t>(found - m_ordinals.begin())];
+      found == ordinals_.end() ? nullptr : functions_[static_cast<std::size_t>(found - ordinals_.begin())];
   if (!function) throw corvane::TException(key::kNotInitialised);
   return function;
 }
@@ -32,7 +32,7 @@ const char* Outgoing(const std::string& text) {
 }
 
 std::string ErrorText::Text() const {
-  std::string text(m_buffer.data(), strnlen(m_buffer.data(), m_size));
+  std::string text(buffer_.data(), strnlen(buffer_.data(), size_));
   return text.empty() ? key::kNoReason : text;
 }
 
@@ -45,11 +45,11 @@ void ErrorText::ThrowLines() const {
 }
 
 std::string ResultPair::Text() const {
-  if (m_length < 0) throw corvane::TIOException(key::kNegativeLength, std::string());
-  if (m_length > kLongestAnswer) throw corvane::TIOException(key::kAbsurdLength, std::string());
-  if (m_length == 0) return std::string();
-  if (!m_buffer) throw corvane::TIOException(key::kMissingBuffer, std::string());
-  return std::string(m_buffer, static_cast<std::size_t>(m_length));
+  if (length_ < 0) throw corvane::TIOException(key::kNegativeLength, std::string());
+  if (length_ > kLongestAnswer) throw corvane::TIOException(key::kAbsurdLength, std::string());
+  if (length_ == 0) return std::string();
+  if (!buffer_) throw corvane::TIOException(key::kMissingBuffer, std::string());
+  return std::string(buffer_, static_cast<std::size_t>(length_));
 }
 
 }  // namespace norvik

@@ -38,19 +38,19 @@ class FunctionTable {
   }
 
   /// Calls no function from now on.
-  void Close() { m_closed = true; }
-  bool Closed() const { return m_closed; }
+  void Close() { closed_ = true; }
+  bool Closed() const { return closed_; }
   /// Throws LifeEnded if the table is closed.
   void Check() const {
-    if (m_closed) throw LifeEnded();
+    if (closed_) throw LifeEnded();
   }
 
  private:
   void* Find(std::uint32_t ordinal) const;
 
-  std::span<const std::uint32_t> m_ordinals;
-  std::vector<void*> m_functions;
-  bool m_closed = false;
+  std::span<const std::uint32_t> ordinals_;
+  std::vector<void*> functions_;
+  bool closed_ = false;
 };
 
 /// One function of a table.
@@ -58,32 +58,32 @@ template <class Result, class... Arguments>
 class HostFunction<Result(Arguments...)> {
  public:
   HostFunction(const FunctionTable& table, Result (*function)(Arguments...))
-      : m_table(&table), m_function(function) {}
+      : table_(&table), function_(function) {}
 
   /// Calls the host. LifeEnded, and no call, if the table is closed; LifeEnded after the call if the host has
   /// ended the life in it: what it has given is the host's then.
   Result operator()(Arguments... arguments) const {
-    m_table->Check();
+    table_->Check();
     if constexpr (std::is_void_v<Result>) {
-      m_function(arguments...);
-      m_table->Check();
+      function_(arguments...);
+      table_->Check();
     } else {
-      const Result result = m_function(arguments...);
-      m_table->Check();
+      const Result result = function_(arguments...);
+      table_->Check();
       return result;
     }
   }
 
   /// Calls the host if the table is open, and throws nothing.
   void CallIfOpen(Arguments... arguments) const noexcept {
-    if (!m_table->Closed()) m_function(arguments...);
+    if (!table_->Closed()) function_(arguments...);
   }
 
-  void Check() const { m_table->Check(); }
+  void Check() const { table_->Check(); }
 
  private:
-  const FunctionTable* m_table;
-  Result (*m_function)(Arguments...);
+  const FunctionTable* table_;
+  Result (*function_)(Arguments...);
 };
 
 /// The text as the host takes it. TException kNulInText if it holds a NUL: the host would read only what
@@ -94,9 +94,9 @@ const char* Outgoing(const std::string& text);
 class ErrorText {
  public:
   /// `size` is what the host is told to have, at most 256 bytes.
-  explicit ErrorText(std::size_t size) : m_size(size) {}
+  explicit ErrorText(std::size_t size) : size_(size) {}
 
-  char* Buffer() { return m_buffer.data(); }
+  char* Buffer() { return buffer_.data(); }
 
   /// Throws TIOException with the host's text as its key and an empty detail.
   [[noreturn]] void ThrowWhole() const;
@@ -108,8 +108,8 @@ class ErrorText {
   // Up to the terminator, or `size` bytes where the host forgot it; kNoReason if there is nothing.
   std::string Text() const;
 
-  std::size_t m_size;
-  std::array<char, 512> m_buffer = {};
+  std::size_t size_;
+  std::array<char, 512> buffer_ = {};
 };
 
 using ReleaseFunction = HostFunction<void(char* buffer)>;
@@ -121,25 +121,25 @@ class ResultPair {
   enum class OnNull { kRelease, kSkip };
 
   /// `onNull` tells whether a null buffer is given back as well.
-  ResultPair(ReleaseFunction release, OnNull onNull) : m_release(release), m_onNull(onNull) {}
+  ResultPair(ReleaseFunction release, OnNull onNull) : release_(release), onNull_(onNull) {}
   ResultPair(const ResultPair&) = delete;
   ResultPair& operator=(const ResultPair&) = delete;
   ~ResultPair() {
-    if (m_buffer || m_onNull == OnNull::kRelease) m_release.CallIfOpen(m_buffer);
+    if (buffer_ || onNull_ == OnNull::kRelease) release_.CallIfOpen(buffer_);
   }
 
-  char** Buffer() { return &m_buffer; }
-  std::int32_t* Length() { return &m_length; }
+  char** Buffer() { return &buffer_; }
+  std::int32_t* Length() { return &length_; }
 
   /// A copy of the bytes; NUL is a byte like any other. TIOException kNegativeLength, kAbsurdLength or
   /// kMissingBuffer if what the host filled in can't be read.
   std::string Text() const;
 
  private:
-  ReleaseFunction m_release;
-  OnNull m_onNull;
-  char* m_buffer = nullptr;
-  std::int32_t m_length = 0;
+  ReleaseFunction release_;
+  OnNull onNull_;
+  char* buffer_ = nullptr;
+  std::int32_t length_ = 0;
 };
 
 /// A read of the public information, translation and error libraries: `call(buffer, length, error)` is the

@@ -8,10 +8,10 @@ constexpr norvik::TextService::Terms kTerms = {norvik::ordinals::kError, "CF2300
 
 }  // namespace
 
-ErrorIntf::ErrorIntf(norvik_handle module) : m_service(kTerms, module) {}
+ErrorIntf::ErrorIntf(norvik_handle module) : service_(kTerms, module) {}
 
 void ErrorIntf::Bind(norvik_handle publicInformation) {
-  m_service.Bind(publicInformation);
+  service_.Bind(publicInformation);
 }
 
 std::string ErrorIntf::GetErrorText(const std::string& keys, std::uint8_t flag) const {
@@ -24,9 +24,9 @@ std::string ErrorIntf::GetReasonText(const std::string& code, std::uint8_t flag)
 
 std::string ErrorIntf::Text(std::uint32_t ordinal, const std::string& codeOrKeys, std::uint8_t flag) const {
   using Ask = std::uint8_t(char**, std::int32_t*, const char*, char*, std::uint8_t);
-  const auto ask = m_service.Function<Ask>(ordinal);
+  const auto ask = service_.Function<Ask>(ordinal);
   const char* const whole = norvik::Outgoing(codeOrKeys);
-  return m_service.Read([&](char** buffer, std::int32_t* length, char* error) {
+  return service_.Read([&](char** buffer, std::int32_t* length, char* error) {
     return ask(buffer, length, whole, error, flag);
   });
 }

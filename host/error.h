@@ -25,12 +25,12 @@ class ErrorIntf {
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
   /// the host comes back from it.
-  void Close() { m_service.Close(); }
+  void Close() { service_.Close(); }
 
  private:
   std::string Text(std::uint32_t ordinal, const std::string& codeOrKeys, std::uint8_t flag) const;
 
-  norvik::TextService m_service;
+  norvik::TextService service_;
 };
 
 /// Set by InitModule, null after Release.

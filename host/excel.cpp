@@ -23,13 +23,13 @@ struct Texts {
 }  // namespace
 
 ExcelIntf::ExcelIntf(norvik_handle module) : m_module(module) {
-  if (!m_functions.Resolve(m_module, norvik::ordinals::kExcel)) throw corvane::TException("CF20023");
+  if (!functions_.Resolve(m_module, norvik::ordinals::kExcel)) throw corvane::TException("CF20023");
 }
 
 void ExcelIntf::ExportExcel(const std::string& path, const corvane::Row& head, const corvane::List& columns,
                             const corvane::List& data) const {
   using Export = std::uint8_t(const char*, const char*, const char*, const char*, char*);
-  const auto write = m_functions.Function<Export>(2);
+  const auto write = functions_.Function<Export>(2);
   const Texts texts(path, head, columns, data);
   norvik::Order([&](char* error) {
     return write(path.c_str(), texts.head.c_str(), texts.columns.c_str(), texts.data.c_str(), error);
@@ -41,7 +41,7 @@ void ExcelIntf::ExportText(const std::string& path, const corvane::Row& head, co
                            std::int32_t option) const {
   using Export =
       std::uint8_t(const char*, const char*, const char*, const char*, const char*, char*, std::int32_t);
-  const auto write = m_functions.Function<Export>(5);
+  const auto write = functions_.Function<Export>(5);
   const Texts texts(path, head, columns, data);
   const char* const between = Outgoing(separator);
   norvik::Order([&](char* error) {

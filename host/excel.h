@@ -27,11 +27,11 @@ class ExcelIntf {
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
   /// the host comes back from it.
-  void Close() { m_functions.Close(); }
+  void Close() { functions_.Close(); }
 
  private:
   norvik_handle m_module;
-  norvik::FunctionTable m_functions;
+  norvik::FunctionTable functions_;
 };
 
 /// Set by InitModule, null after Release.

@@ -16,30 +16,30 @@ using Remove = std::int32_t(const char*);
 void PubInfoIntf::Bind(norvik_handle module) {
   if (m_bound) return;
   m_module = module;
-  if (!m_functions.Resolve(m_module, norvik::ordinals::kPublicInformation))
+  if (!functions_.Resolve(m_module, norvik::ordinals::kPublicInformation))
     throw corvane::TException("CF15001");
-  m_functions.Function<std::int32_t(std::uint32_t)>(1)(m_module);
+  functions_.Function<std::int32_t(std::uint32_t)>(1)(m_module);
   m_bound = true;
 }
 
 std::uint32_t PubInfoIntf::GetHandle(const std::string& key) {
-  return m_functions.Function<std::uint32_t(const char*)>(123)(Outgoing(key));
+  return functions_.Function<std::uint32_t(const char*)>(123)(Outgoing(key));
 }
 
 void PubInfoIntf::SetHandle(const std::string& key, std::uint32_t value) {
-  m_functions.Function<std::int32_t(const char*, std::uint32_t)>(122)(Outgoing(key), value);
+  functions_.Function<std::int32_t(const char*, std::uint32_t)>(122)(Outgoing(key), value);
 }
 
 template <class Call>
 std::string PubInfoIntf::Read(Call call) const {
-  return norvik::ReadText(m_functions.Function<void(char*)>(3), call);
+  return norvik::ReadText(functions_.Function<void(char*)>(3), call);
 }
 
 // Most reads: the result pair, one to three keys, the error text.
 template <class... Text>
 std::string PubInfoIntf::ReadByKeys(std::uint32_t ordinal, const Text&... keys) const {
   using Function = std::uint8_t(char**, std::int32_t*, decltype(keys.c_str())..., char*);
-  const auto function = m_functions.Function<Function>(ordinal);
+  const auto function = functions_.Function<Function>(ordinal);
   (Outgoing(keys), ...);
   return Read([&](char** buffer, std::int32_t* length, char* error) {
     return function(buffer, length, keys.c_str()..., error);
@@ -53,7 +53,7 @@ corvane::Field PubInfoIntf::GetField(const std::string& block, const std::string
 void PubInfoIntf::SetField(const std::string& block, const corvane::Field& field) {
   const std::string text = field.toString();
   norvik::ErrorText error(255);
-  const auto write = m_functions.Function<WriteField>(23);
+  const auto write = functions_.Function<WriteField>(23);
   if (write(Outgoing(block), Outgoing(text), error.Buffer()) == 0) error.ThrowWhole();
 }
 
@@ -85,8 +85,8 @@ void PubInfoIntf::SetIniplus(const std::string& key, const corvane::Iniplus& ini
 // Everything that can fail has been done before the old document goes.
 void PubInfoIntf::Replace(std::uint32_t removeOrdinal, std::uint32_t storeOrdinal, const std::string& key,
                           const std::string& document) {
-  const auto remove = m_functions.Function<Remove>(removeOrdinal);
-  const auto store = m_functions.Function<Store>(storeOrdinal);
+  const auto remove = functions_.Function<Remove>(removeOrdinal);
+  const auto store = functions_.Function<Store>(storeOrdinal);
   const char* const name = Outgoing(key);
   const char* const text = Outgoing(document);
   remove(name);
@@ -95,7 +95,7 @@ void PubInfoIntf::Replace(std::uint32_t removeOrdinal, std::uint32_t storeOrdina
 
 corvane::Row PubInfoIntf::GetIniplusRow(const std::string& key, const std::string& section,
                                         std::int32_t index) {
-  const auto function = m_functions.Function<ReadRow>(87);
+  const auto function = functions_.Function<ReadRow>(87);
   const char* const name = Outgoing(key);
   const char* const part = Outgoing(section);
   return corvane::Row(Read([&](char** buffer, std::int32_t* length, char* error) {

@@ -57,7 +57,7 @@ class PubInfoIntf {
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
   /// the host comes back from it.
-  void Close() { m_functions.Close(); }
+  void Close() { functions_.Close(); }
 
  private:
   template <class Call>
@@ -69,7 +69,7 @@ class PubInfoIntf {
 
   bool m_bound = false;
   norvik_handle m_module = 0;
-  norvik::FunctionTable m_functions;
+  norvik::FunctionTable functions_;
 };
 
 /// Set by InitModule, null after Release.

@@ -36,14 +36,14 @@ class SafeComIntf {
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
   /// the host comes back from it.
-  void Close() { m_functions.Close(); }
+  void Close() { functions_.Close(); }
 
  private:
   std::string Exchange(const std::string& code, const std::string& text, std::int32_t flag) const;
 
   std::string m_language;
   norvik_handle m_module;
-  norvik::FunctionTable m_functions;
+  norvik::FunctionTable functions_;
   corvane::TSysDateTime m_serverTime;
 };
 

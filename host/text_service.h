@@ -22,7 +22,7 @@ class TextService {
   };
 
   /// `terms` lives as long as the service.
-  TextService(const Terms& terms, norvik_handle module) : m_terms(terms), m_module(module) {}
+  TextService(const Terms& terms, norvik_handle module) : terms_(terms), m_module(module) {}
 
   /// Binds and starts the library; a second call does nothing. TIOException with the key of `terms` on
   /// failure.
@@ -31,22 +31,22 @@ class TextService {
   /// As ReadText; buffers go back through ordinal 3.
   template <class Call>
   std::string Read(Call call) const {
-    return ReadText(m_functions.Function<void(char*)>(3), call);
+    return ReadText(functions_.Function<void(char*)>(3), call);
   }
 
   template <class Signature>
   HostFunction<Signature> Function(std::uint32_t ordinal) const {
-    return m_functions.Function<Signature>(ordinal);
+    return functions_.Function<Signature>(ordinal);
   }
 
   /// Calls the library no more.
-  void Close() { m_functions.Close(); }
+  void Close() { functions_.Close(); }
 
  private:
-  const Terms& m_terms;
+  const Terms& terms_;
   norvik_handle m_module;
   bool m_bound = false;
-  FunctionTable m_functions;
+  FunctionTable functions_;
 };
 
 }  // namespace norvik

@@ -11,10 +11,10 @@ constexpr std::size_t kSectionLength = 4;
 
 }  // namespace
 
-TranslateIntf::TranslateIntf(norvik_handle module) : m_service(kTerms, module) {}
+TranslateIntf::TranslateIntf(norvik_handle module) : service_(kTerms, module) {}
 
 void TranslateIntf::Bind(norvik_handle publicInformation) {
-  m_service.Bind(publicInformation);
+  service_.Bind(publicInformation);
 }
 
 std::string TranslateIntf::Translate(const std::string& key) const {
@@ -23,19 +23,19 @@ std::string TranslateIntf::Translate(const std::string& key) const {
 
 std::string TranslateIntf::Lookup(const std::string& section, const std::string& key) const {
   using Lookup = std::uint8_t(char**, std::int32_t*, const char*, const char*, char*);
-  const auto lookup = m_service.Function<Lookup>(4);
+  const auto lookup = service_.Function<Lookup>(4);
   const char* const part = Outgoing(section);
   const char* const name = Outgoing(key);
-  return m_service.Read([&](char** buffer, std::int32_t* length, char* error) {
+  return service_.Read([&](char** buffer, std::int32_t* length, char* error) {
     return lookup(buffer, length, part, name, error);
   });
 }
 
 std::string TranslateIntf::Convert(const std::string& text, std::uint8_t direction) const {
   using Convert = std::uint8_t(char**, std::int32_t*, const char*, std::uint8_t, char*);
-  const auto convert = m_service.Function<Convert>(6);
+  const auto convert = service_.Function<Convert>(6);
   const char* const whole = Outgoing(text);
-  return m_service.Read([&](char** buffer, std::int32_t* length, char* error) {
+  return service_.Read([&](char** buffer, std::int32_t* length, char* error) {
     return convert(buffer, length, whole, direction, error);
   });
 }

@@ -30,10 +30,10 @@ class TranslateIntf {
 
   /// Calls the host no more: each operation throws LifeEnded from now on, one that is under way as soon as
   /// the host comes back from it.
-  void Close() { m_service.Close(); }
+  void Close() { service_.Close(); }
 
  private:
-  norvik::TextService m_service;
+  norvik::TextService service_;
 };
 
 /// Set by InitModule, null after Release.

@@ -16,13 +16,13 @@ class Module : public HandleObject {
 
 class LoadedModule : public Module {
  public:
-  explicit LoadedModule(void* library) : m_library(library) {}
+  explicit LoadedModule(void* library) : library_(library) {}
   LoadedModule(const LoadedModule&) = delete;
   LoadedModule& operator=(const LoadedModule&) = delete;
-  ~LoadedModule() override { dlclose(m_library); }
+  ~LoadedModule() override { dlclose(library_); }
 
   void* Function(uint32_t ordinal) const override {
-    void* const function = dlsym(m_library, ("ordinal_" + std::to_string(ordinal)).c_str());
+    void* const function = dlsym(library_, ("ordinal_" + std::to_string(ordinal)).c_str());
     return IsOwn(function) ? function : nullptr;
   }
 
@@ -33,27 +33,27 @@ class LoadedModule : public Module {
     link_map* library = nullptr;
     link_map* owner = nullptr;
     Dl_info info;
-    return function && dlinfo(m_library, RTLD_DI_LINKMAP, &library) == 0 &&
+    return function && dlinfo(library_, RTLD_DI_LINKMAP, &library) == 0 &&
            dladdr1(function, &info, reinterpret_cast<void**>(&owner), RTLD_DL_LINKMAP) != 0 &&
            owner == library;
   }
 
-  void* m_library;
+  void* library_;
 };
 
 class RegisteredModule : public Module {
  public:
   RegisteredModule(const norvik_ordinal* table, size_t count) {
-    for (size_t i = 0; i < count; ++i) m_functions.emplace(table[i].ordinal, table[i].function);
+    for (size_t i = 0; i < count; ++i) functions_.emplace(table[i].ordinal, table[i].function);
   }
 
   void* Function(uint32_t ordinal) const override {
-    const auto found = m_functions.find(ordinal);
-    return found == m_functions.end() ? nullptr : found->second;
+    const auto found = functions_.find(ordinal);
+    return found == functions_.end() ? nullptr : found->second;
   }
 
  private:
-  std::unordered_map<uint32_t, void*> m_functions;
+  std::unordered_map<uint32_t, void*> functions_;
 };
 
 }  // namespace

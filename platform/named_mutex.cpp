@@ -16,40 +16,40 @@ class NamedMutex {
  public:
   // True if the owner before ended without releasing.
   bool Wait() {
-    std::unique_lock lock(m_guard);
+    std::unique_lock lock(guard_);
     const auto self = std::this_thread::get_id();
-    if (m_count > 0 && m_owner == self) {
-      ++m_count;
+    if (count_ > 0 && owner_ == self) {
+      ++count_;
       return false;
     }
-    m_free.wait(lock, [this] { return m_count == 0; });
-    m_owner = self;
-    m_count = 1;
-    return std::exchange(m_abandoned, false);
+    free_.wait(lock, [this] { return count_ == 0; });
+    owner_ = self;
+    count_ = 1;
+    return std::exchange(abandoned_, false);
   }
 
   bool Release() {
-    const std::lock_guard lock(m_guard);
-    if (m_count == 0 || m_owner != std::this_thread::get_id()) return false;
-    if (--m_count == 0) m_free.notify_one();
+    const std::lock_guard lock(guard_);
+    if (count_ == 0 || owner_ != std::this_thread::get_id()) return false;
+    if (--count_ == 0) free_.notify_one();
     return true;
   }
 
   // The calling thread ends: what it still owns goes to the next that waits, marked as abandoned.
   void AbandonByThisThread() {
-    const std::lock_guard lock(m_guard);
-    if (m_count == 0 || m_owner != std::this_thread::get_id()) return;
-    m_count = 0;
-    m_abandoned = true;
-    m_free.notify_one();
+    const std::lock_guard lock(guard_);
+    if (count_ == 0 || owner_ != std::this_thread::get_id()) return;
+    count_ = 0;
+    abandoned_ = true;
+    free_.notify_one();
   }
 
  private:
-  std::mutex m_guard;
-  std::condition_variable m_free;
-  std::thread::id m_owner;
-  unsigned m_count = 0;
-  bool m_abandoned = false;
+  std::mutex guard_;
+  std::condition_variable free_;
+  std::thread::id owner_;
+  unsigned count_ = 0;
+  bool abandoned_ = false;
 };
 
 // The mutexes that this thread has waited for; those it still owns when it ends are abandoned.
@@ -59,18 +59,18 @@ class WaitedByThread {
   WaitedByThread(const WaitedByThread&) = delete;
   WaitedByThread& operator=(const WaitedByThread&) = delete;
   ~WaitedByThread() {
-    for (const auto& waited : m_mutexes) {
+    for (const auto& waited : mutexes_) {
       if (const auto mutex = waited.lock()) mutex->AbandonByThisThread();
     }
   }
 
   void Add(const std::shared_ptr<NamedMutex>& mutex) {
-    std::erase_if(m_mutexes, [&](const auto& waited) { return waited.expired() || waited.lock() == mutex; });
-    m_mutexes.push_back(mutex);
+    std::erase_if(mutexes_, [&](const auto& waited) { return waited.expired() || waited.lock() == mutex; });
+    mutexes_.push_back(mutex);
   }
 
  private:
-  std::vector<std::weak_ptr<NamedMutex>> m_mutexes;
+  std::vector<std::weak_ptr<NamedMutex>> mutexes_;
 };
 
 thread_local WaitedByThread t_waited;

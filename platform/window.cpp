@@ -10,18 +10,18 @@ namespace {
 class Window : public HandleObject {
  public:
   Window(norvik_window_procedure procedure, void* context, void* widget)
-      : m_procedure(procedure), m_context(context), m_widget(widget) {}
+      : procedure_(procedure), context_(context), widget_(widget) {}
 
   intptr_t Send(uint32_t message, uintptr_t wparam, intptr_t lparam) const {
-    return m_procedure(m_context, message, wparam, lparam);
+    return procedure_(context_, message, wparam, lparam);
   }
 
-  void* Widget() const { return m_widget; }
+  void* Widget() const { return widget_; }
 
  private:
-  norvik_window_procedure m_procedure;
-  void* m_context;
-  void* m_widget;
+  norvik_window_procedure procedure_;
+  void* context_;
+  void* widget_;
 };
 
 }  // namespace

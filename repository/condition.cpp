@@ -68,7 +68,7 @@ TGridLayout ConditionTable::Build(TBaseForm* form, TbsSkinExPanel* panel, Condit
     grid.SetColumnMinimum(field * kCellsOfField + 1, kControlWidth);
   }
   int tabOrder = 0;
-  for (const Condition& condition : m_conditions) {
+  for (const Condition& condition : conditions_) {
     if (condition.panel != which) continue;
     const auto [row, field, rows] = condition.cell;
     const int column = field * kCellsOfField;
@@ -87,7 +87,7 @@ TGridLayout ConditionTable::Build(TBaseForm* form, TbsSkinExPanel* panel, Condit
 }
 
 void ConditionTable::SetCaptions(const TBaseForm* form) const {
-  for (const Condition& condition : m_conditions) {
+  for (const Condition& condition : conditions_) {
     if (!Has(condition.captionKey)) continue;
     if (auto* label = dynamic_cast<TLabel*>(form->FindComponent(condition.labelName))) {
       label->SetCaption(condition.captionKey);
@@ -96,14 +96,14 @@ void ConditionTable::SetCaptions(const TBaseForm* form) const {
 }
 
 void ConditionTable::Empty(Emptied when) const {
-  for (const Condition& condition : m_conditions) {
+  for (const Condition& condition : conditions_) {
     if (condition.emptied != when) continue;
     if (auto* edit = dynamic_cast<TCustomEdit*>(ControlOf(condition))) edit->Clear();
   }
 }
 
 void ConditionTable::AddFields(corvane::Row& fields, bool advanceRolledUp) const {
-  for (const Condition& condition : m_conditions) {
+  for (const Condition& condition : conditions_) {
     if (!Has(condition.field)) continue;
     const bool off = advanceRolledUp && condition.panel == ConditionPanel::kAdvance;
     fields[condition.field] = off ? std::string() : std::visit(SentText{condition}, condition.control);

@@ -59,7 +59,7 @@ struct Condition {
 class ConditionTable {
  public:
   ConditionTable() = default;
-  explicit ConditionTable(std::vector<Condition> conditions) : m_conditions(std::move(conditions)) {}
+  explicit ConditionTable(std::vector<Condition> conditions) : conditions_(std::move(conditions)) {}
 
   // Makes the controls of one panel in table order, which is their tab order, and lays them out in a grid of
   // kFields fields a row; each field is three cells: caption, control, "*". The grid is given back for what
@@ -80,7 +80,7 @@ class ConditionTable {
   static constexpr int kCellsOfField = 3;
 
  private:
-  std::vector<Condition> m_conditions;
+  std::vector<Condition> conditions_;
 };
 
 }  // namespace norvik

@@ -80,11 +80,11 @@ void TCustodyQueryForm::BuildControls() {
   PlaceButtons({m_btnTicketInfo});
 
   const norvik::CustodyProfile& profile = Profile();
-  m_conditions = ConditionTable(Conditions());
-  TGridLayout normal = m_conditions.Build(this, m_pnlNormal, ConditionPanel::kNormal);
+  conditions_ = ConditionTable(Conditions());
+  TGridLayout normal = conditions_.Build(this, m_pnlNormal, ConditionPanel::kNormal);
   normal.Put(m_spdQuery, profile.queryRow, (ConditionTable::kFields - 1) * ConditionTable::kCellsOfField + 1,
              1, 1, caRight);
-  TGridLayout advance = m_conditions.Build(this, m_pnlAdvance, ConditionPanel::kAdvance);
+  TGridLayout advance = conditions_.Build(this, m_pnlAdvance, ConditionPanel::kAdvance);
   m_rgSelDate = NewComponent<TbsSkinRadioGroup>(this, "m_rgSelDate");
   for (const char* caption : kDateChoiceCaptions) m_rgSelDate->Items().Add(Ansi(caption));
   m_rgSelDate->SetColumns(static_cast<int>(std::size(kDateChoiceCaptions)));
@@ -98,7 +98,7 @@ void TCustodyQueryForm::BuildControls() {
 void TCustodyQueryForm::SetCaptions() {
   TQueryForm::SetCaptions();
   SetCaption(Profile().captionKey);
-  m_conditions.SetCaptions(this);
+  conditions_.SetCaptions(this);
   for (const RowActionLine& line : kRowActions) (this->*line.action)->SetCaption(line.captionKey);
   m_pnlNormal->SetCaption("UI40305");
   m_pnlAdvance->SetCaption("UI40306");
@@ -130,8 +130,8 @@ void TCustodyQueryForm::Construct() {
 
 bool TCustodyQueryForm::LoadAccounts() {
   const bool flowsKnown = m_pCommon->LoadBusinessFlows(m_strBsnCode.c_str());
-  m_bAccountsKnown = m_pCommon->LoadAccountCombo(m_cbxAcc, true) && flowsKnown;
-  return m_bAccountsKnown;
+  accountsKnown_ = m_pCommon->LoadAccountCombo(m_cbxAcc, true) && flowsKnown;
+  return accountsKnown_;
 }
 
 void TCustodyQueryForm::ResetForm() {
@@ -144,7 +144,7 @@ void TCustodyQueryForm::ResetForm() {
   if (Profile().advanceOpen) m_pnlAdvance->SetRollState(false);
   m_bDateByRadio = true;
   m_rgSelDate->SetItemIndex(static_cast<int>(norvik::QuickDate::kOther));
-  m_conditions.Empty(Emptied::kAtShow);
+  conditions_.Empty(Emptied::kAtShow);
   LoadDictionaries();
   m_cbxAcc->SetItemIndex(0);
   StartAccount();
@@ -162,7 +162,7 @@ void TCustodyQueryForm::ShowOfferedActions() {
 }
 
 void TCustodyQueryForm::FormClose(TObject* sender) {
-  m_conditions.Empty(Emptied::kAtClose);
+  conditions_.Empty(Emptied::kAtClose);
   TQueryForm::FormClose(sender);
 }
 
@@ -235,7 +235,7 @@ void TCustodyQueryForm::m_actQueryExecute(TObject* sender) {
 // A query for no account at all would be answered, too: the accounts that the host could not tell are asked
 // for once more.
 bool TCustodyQueryForm::FindAccounts() {
-  if (m_bAccountsKnown) return true;
+  if (accountsKnown_) return true;
   if (!LoadAccounts()) return false;
   StartAccount();
   return true;
@@ -246,7 +246,7 @@ void TCustodyQueryForm::BuildQueryRequest(corvane::CorvaneStream& stream) {
   corvane::Row fields;
   for (const char* field : kRequestFields) fields[field];
   fields["BSNCODE"] = m_strBsnCode;
-  m_conditions.AddFields(fields, m_pnlAdvance->RollState());
+  conditions_.AddFields(fields, m_pnlAdvance->RollState());
   stream.addFields(fields);
 }
 

@@ -132,6 +132,6 @@ class TCustodyQueryForm : public TQueryForm {
   void AddAccounts(corvane::CorvaneStream& stream);
   void ShowInstitutions(corvane::List& institutions);
 
-  norvik::ConditionTable m_conditions;
-  bool m_bAccountsKnown = false;  // the last LoadAccounts did not fail
+  norvik::ConditionTable conditions_;
+  bool accountsKnown_ = false;  // the last LoadAccounts did not fail
 };

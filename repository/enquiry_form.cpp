@@ -66,7 +66,7 @@ const EnquiryProfile kBigResultProfile = {"UI44383", kBigResultHead};
 }  // namespace norvik
 
 TEnquiryForm::TEnquiryForm(TComponent* owner, const norvik::EnquiryProfile& profile)
-    : TDetailForm(owner), m_profile(profile) {}
+    : TDetailForm(owner), profile_(profile) {}
 
 TEnquiryForm::~TEnquiryForm() = default;
 
@@ -78,11 +78,11 @@ void TEnquiryForm::BuildControls() {
   grid.SetMargins(kGap, kGap, kGap, kGap);
   grid.SetSpacing(kGap);
   for (int field = 0; field < kFieldsOfRow; ++field) grid.SetColumnStretch(field * kCellsOfField + 1, 1);
-  for (const HeadRow& row : m_profile.head) {
-    const int place = static_cast<int>(m_head.size());
-    m_head.push_back(norvik::PutCaptionValue(this, grid, place / kFieldsOfRow,
-                                             place % kFieldsOfRow * kCellsOfField, row.label,
-                                             row.designCaption));
+  for (const HeadRow& row : profile_.head) {
+    const int place = static_cast<int>(head_.size());
+    head_.push_back(norvik::PutCaptionValue(this, grid, place / kFieldsOfRow,
+                                            place % kFieldsOfRow * kCellsOfField, row.label,
+                                            row.designCaption));
   }
   TColumnLayout center(m_pnCenter);
   center.SetSpacing(kFrameGap);
@@ -92,10 +92,10 @@ void TEnquiryForm::BuildControls() {
 
 void TEnquiryForm::SetCaptions() {
   TDetailForm::SetCaptions();
-  SetCaption(m_profile.captionKey);
-  for (std::size_t i = 0; i < m_head.size(); ++i) {
-    const char* key = m_profile.head[i].captionKey;
-    if (*key != '\0') m_head[i].caption->SetCaption(key);
+  SetCaption(profile_.captionKey);
+  for (std::size_t i = 0; i < head_.size(); ++i) {
+    const char* key = profile_.head[i].captionKey;
+    if (*key != '\0') head_[i].caption->SetCaption(key);
   }
 }
 
@@ -123,15 +123,15 @@ void TEnquiryForm::ResetForm() {
 
 void TEnquiryForm::FillHead() {
   const TypeTexts& type = TypeOf(m_record);
-  for (std::size_t i = 0; i < m_head.size(); ++i) {
-    const HeadRow& row = m_profile.head[i];
+  for (std::size_t i = 0; i < head_.size(); ++i) {
+    const HeadRow& row = profile_.head[i];
     std::string value = m_record.getValue(row.field);
     if (row.rule == HeadRule::kBillType) {
       value = type.typeKey == nullptr ? std::string() : g_pTranslate->Translate(type.typeKey);
     }
     // The pass over the form's texts is over when the head is filled.
-    if (row.rule == HeadRule::kByBillType) m_head[i].caption->SetCaption(TranslateKey(type.captionKey));
-    m_head[i].value->SetCaption(value);
+    if (row.rule == HeadRule::kByBillType) head_[i].caption->SetCaption(TranslateKey(type.captionKey));
+    head_[i].value->SetCaption(value);
   }
 }
 

@@ -65,8 +65,8 @@ class TEnquiryForm : public TDetailForm {
  private:
   void FillHead();
 
-  const norvik::EnquiryProfile& m_profile;
-  std::vector<norvik::CaptionValue> m_head;  // as the rows of the profile
+  const norvik::EnquiryProfile& profile_;
+  std::vector<norvik::CaptionValue> head_;  // as the rows of the profile
   std::unique_ptr<CDetailCommon> m_pCommon;
   corvane::Row m_record;
 };

@@ -24,7 +24,7 @@ constexpr const char* kFirstTypeKey = "UI40116";
 }  // namespace
 
 TRecordInfoForm::TRecordInfoForm(TComponent* owner, std::vector<norvik::RecordPanel> panels)
-    : TBaseForm(owner), m_panels(std::move(panels)) {}
+    : TBaseForm(owner), panels_(std::move(panels)) {}
 
 void TRecordInfoForm::BuildControls() {
   TBaseForm::BuildControls();
@@ -49,18 +49,18 @@ void TRecordInfoForm::BuildControls() {
   bottom.Add(m_btnClose);
   TColumnLayout box(m_tbsSkinScrollBox);
   box.SetSpacing(kGap);
-  for (const norvik::RecordPanel& panel : m_panels) {
+  for (const norvik::RecordPanel& panel : panels_) {
     BuildPanel(panel);
-    box.Add(m_rollUps.back());
+    box.Add(rollUps_.back());
   }
   box.AddStretch();
-  m_rollUps.front()->OnChangeRollState = [this](TObject* sender) { m_spBillInfoChangeRollState(sender); };
+  rollUps_.front()->OnChangeRollState = [this](TObject* sender) { m_spBillInfoChangeRollState(sender); };
 }
 
 void TRecordInfoForm::BuildPanel(const norvik::RecordPanel& panel) {
   auto* rollUp = NewComponent<TbsSkinExPanel>(this, panel.name);
   rollUp->SetCaption(Ansi(panel.designCaption));
-  m_rollUps.push_back(rollUp);
+  rollUps_.push_back(rollUp);
   TGridLayout grid(rollUp);
   grid.SetMargins(kMargin, kMargin, kMargin, kMargin);
   grid.SetSpacing(kGap);
@@ -69,14 +69,14 @@ void TRecordInfoForm::BuildPanel(const norvik::RecordPanel& panel) {
     const norvik::RecordRow& row = panel.rows[i];
     const auto [caption, value] =
         norvik::PutCaptionValue(this, grid, static_cast<int>(i), 0, row.label, row.designCaption);
-    m_rows.push_back({row, caption, value});
+    rows_.push_back({row, caption, value});
   }
 }
 
 void TRecordInfoForm::SetCaptions() {
   SetCaption("UI44399");
   m_btnClose->SetCaption("UI41187");
-  for (const ShownRow& shown : m_rows) {
+  for (const ShownRow& shown : rows_) {
     if (*shown.row.captionKey != '\0') shown.caption->SetCaption(shown.row.captionKey);
   }
 }
@@ -88,7 +88,7 @@ void TRecordInfoForm::SetRecord(corvane::Property record) {
 void TRecordInfoForm::ResetForm() {
   TBaseForm::ResetForm();
   const bool firstType = IsFirstType();
-  for (const ShownRow& shown : m_rows) ShowRow(shown, firstType);
+  for (const ShownRow& shown : rows_) ShowRow(shown, firstType);
   // The focus on a panel would scroll the record's beginning out of sight.
   SetActiveControl(m_btnClose);
 }
@@ -118,8 +118,8 @@ void TRecordInfoForm::m_btnCloseClick(TObject*) {
 }
 
 void TRecordInfoForm::m_spBillInfoChangeRollState(TObject*) {
-  if (m_rollUps.front()->RollState() || !IsFirstType()) return;
-  for (const ShownRow& shown : m_rows) {
+  if (rollUps_.front()->RollState() || !IsFirstType()) return;
+  for (const ShownRow& shown : rows_) {
     if (shown.row.firstType == nullptr || *shown.row.firstType->field != '\0') continue;
     shown.caption->SetVisible(false);
     shown.value->SetVisible(false);

@@ -53,8 +53,8 @@ class TRecordInfoForm : public TBaseForm {
   bool IsFirstType() const;
   void ShowRow(const ShownRow& shown, bool firstType);
 
-  std::vector<norvik::RecordPanel> m_panels;
-  std::vector<ShownRow> m_rows;
-  std::vector<TbsSkinExPanel*> m_rollUps;
+  std::vector<norvik::RecordPanel> panels_;
+  std::vector<ShownRow> rows_;
+  std::vector<TbsSkinExPanel*> rollUps_;
   corvane::Property m_record;
 };

@@ -104,10 +104,10 @@ TCustomActionList::~TCustomActionList() {
   for (TAction* action : actions_) action->list_ = nullptr;
 }
 
-TAction* TCustomActionList::NewAction(const char* name, const std::string& caption, int image_index) {
+TAction* TCustomActionList::NewAction(const char* name, const std::string& caption, int imageIndex) {
   auto* action = NewComponent<TAction>(Owner(), name);
   action->SetActionList(this);
   action->SetCaption(caption);
-  action->SetImageIndex(image_index);
+  action->SetImageIndex(imageIndex);
   return action;
 }

@@ -87,7 +87,7 @@ class TCustomActionList : public TComponent {
   TImageList* Images() const { return images_; }
   void SetImages(TImageList* images) { images_ = images; }
   /// Makes an action of the list, owned by the list's owner.
-  TAction* NewAction(const char* name, const std::string& caption = {}, int image_index = -1);
+  TAction* NewAction(const char* name, const std::string& caption = {}, int imageIndex = -1);
 
  protected:
   explicit TCustomActionList(TComponent* owner) : TComponent(owner) {}

@@ -33,19 +33,19 @@ void Settle(xcb_connection_t* connection) {
 class TBusyPainter::Worker {
  public:
   Worker(xcb_window_t window, std::vector<QImage> frames, int interval)
-      : m_window(window),
-        m_display(qgetenv("DISPLAY")),
-        m_frames(std::move(frames)),
-        m_interval(std::max(interval, kShortestInterval)),
-        m_thread([this] { Run(); }) {}
+      : window_(window),
+        display_(qgetenv("DISPLAY")),
+        frames_(std::move(frames)),
+        interval_(std::max(interval, kShortestInterval)),
+        thread_([this] { Run(); }) {}
 
   ~Worker() {
     {
-      const std::lock_guard lock(m_lock);
-      m_stop = true;
+      const std::lock_guard lock(lock_);
+      stop_ = true;
     }
-    m_wake.notify_all();
-    m_thread.join();
+    wake_.notify_all();
+    thread_.join();
   }
 
   Worker(const Worker&) = delete;
@@ -54,26 +54,25 @@ class TBusyPainter::Worker {
  private:
   // What goes wrong between painter and display ends the moving, never the process.
   void Run() noexcept {
-    xcb_connection_t* connection =
-        xcb_connect(m_display.isEmpty() ? nullptr : m_display.constData(), nullptr);
+    xcb_connection_t* connection = xcb_connect(display_.isEmpty() ? nullptr : display_.constData(), nullptr);
     try {
       if (xcb_connection_has_error(connection) == 0) Show(connection);
     } catch (const std::exception&) {
-      m_pictures.clear();
+      pictures_.clear();
     }
     xcb_disconnect(connection);
   }
 
   void Show(xcb_connection_t* connection) {
-    const auto format = norvik::FindPixelFormat(connection, m_window);
+    const auto format = norvik::FindPixelFormat(connection, window_);
     if (!format) return;
-    m_pictures.resize(m_frames.size());
+    pictures_.resize(frames_.size());
     const xcb_gcontext_t context = xcb_generate_id(connection);
-    xcb_create_gc(connection, context, m_window, 0, nullptr);
-    for (std::size_t turn = 0; Alive(connection); turn = (turn + 1) % m_pictures.size()) {
-      norvik::X11Picture& picture = m_pictures[turn];
-      if (picture.pixels.empty()) picture = norvik::MakePicture(m_frames[turn], *format);
-      norvik::PutPicture(connection, m_window, context, format->depth, picture);
+    xcb_create_gc(connection, context, window_, 0, nullptr);
+    for (std::size_t turn = 0; Alive(connection); turn = (turn + 1) % pictures_.size()) {
+      norvik::X11Picture& picture = pictures_[turn];
+      if (picture.pixels.empty()) picture = norvik::MakePicture(frames_[turn], *format);
+      norvik::PutPicture(connection, window_, context, format->depth, picture);
       xcb_flush(connection);
       if (!Wait()) return;
     }
@@ -91,20 +90,19 @@ class TBusyPainter::Worker {
 
   // Waits for the next frame's time; false if the painter is to stop.
   bool Wait() {
-    std::unique_lock lock(m_lock);
-    return !m_wake.wait_for(lock, m_interval, [this] { return m_stop; });
+    std::unique_lock lock(lock_);
+    return !wake_.wait_for(lock, interval_, [this] { return stop_; });
   }
 
-  const xcb_window_t m_window;
-  const QByteArray
-      m_display;  // read before the thread starts: the environment belongs to the starting thread
-  const std::vector<QImage> m_frames;
-  const std::chrono::milliseconds m_interval;
-  std::vector<norvik::X11Picture> m_pictures;
-  std::mutex m_lock;
-  std::condition_variable m_wake;
-  bool m_stop = false;
-  std::thread m_thread;  // last: it uses all the others
+  const xcb_window_t window_;
+  const QByteArray display_;  // read before the thread starts: the environment belongs to the starting thread
+  const std::vector<QImage> frames_;
+  const std::chrono::milliseconds interval_;
+  std::vector<norvik::X11Picture> pictures_;
+  std::mutex lock_;
+  std::condition_variable wake_;
+  bool stop_ = false;
+  std::thread thread_;  // last: it uses all the others
 };
 
 TBusyPainter::TBusyPainter() = default;
@@ -122,10 +120,10 @@ bool TBusyPainter::Start(WId window, std::vector<QImage> frames, int interval) {
   std::erase_if(frames, [](const QImage& frame) { return frame.isNull(); });
   if (frames.empty() || window == 0 || !Available()) return false;
   Settle(ToolkitConnection());
-  m_worker = std::make_unique<Worker>(static_cast<xcb_window_t>(window), std::move(frames), interval);
+  worker_ = std::make_unique<Worker>(static_cast<xcb_window_t>(window), std::move(frames), interval);
   return true;
 }
 
 void TBusyPainter::Stop() {
-  m_worker.reset();
+  worker_.reset();
 }

@@ -34,5 +34,5 @@ class TBusyPainter {
 
  private:
   class Worker;
-  std::unique_ptr<Worker> m_worker;
+  std::unique_ptr<Worker> worker_;
 };

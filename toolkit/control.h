@@ -169,7 +169,7 @@ class TWinControl : public TControl {
   void SetFocus();
   bool Focused() const;
   /// Moves the focus to the next control behind current, round the end; false when there is no other.
-  bool SelectNext(TWinControl* current, bool forward, bool tab_stops_only);
+  bool SelectNext(TWinControl* current, bool forward, bool tabStopsOnly);
 
   /// imDisable shuts the input method out of the control; the other modes let it in.
   int ImeMode() const { return ime_mode_; }

@@ -117,7 +117,7 @@ std::string FormatDateTime(std::string_view pattern, TDateTime value) {
   DecodeDate(value, y, m, d);
   DecodeTime(value, hour, minute, second, millisecond);
   std::string text;
-  bool after_hour = false;
+  bool afterHour = false;
   for (std::size_t i = 0; i < pattern.size();) {
     const char letter = pattern[i];
     std::size_t run = 1;
@@ -127,7 +127,7 @@ std::string FormatDateTime(std::string_view pattern, TDateTime value) {
         AppendPadded(text, run <= 2 ? y % 100 : y, run);
         break;
       case 'm':
-        AppendPadded(text, after_hour ? minute : m, run);
+        AppendPadded(text, afterHour ? minute : m, run);
         break;
       case 'd':
         AppendPadded(text, d, run);
@@ -144,7 +144,7 @@ std::string FormatDateTime(std::string_view pattern, TDateTime value) {
       default:
         text.append(pattern.substr(i, run));
     }
-    if (std::string_view("ymdhns").find(letter) != std::string_view::npos) after_hour = letter == 'h';
+    if (std::string_view("ymdhns").find(letter) != std::string_view::npos) afterHour = letter == 'h';
     i += run;
   }
   return text;

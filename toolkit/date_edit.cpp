@@ -98,9 +98,9 @@ bool TKVXCustomDateTimeEdit::WidgetEvent(QWidget* widget, QEvent* event) {
 
 void TKVXCustomDateTimeEdit::PlaceParts() {
   const QRect room = Edit()->rect().adjusted(kButtonRoom, kButtonRoom, -kButtonRoom, -kButtonRoom);
-  const int label_width = label_caption_.empty() ? 0 : label_->sizeHint().width() + kButtonRoom;
-  const int button_width = button_->sizeHint().width();
-  label_->setGeometry(room.left() + kButtonRoom, room.top(), label_width, room.height());
-  button_->setGeometry(room.right() - button_width + 1, room.top(), button_width, room.height());
-  Edit()->setTextMargins(label_width, 0, button_width, 0);
+  const int labelWidth = label_caption_.empty() ? 0 : label_->sizeHint().width() + kButtonRoom;
+  const int buttonWidth = button_->sizeHint().width();
+  label_->setGeometry(room.left() + kButtonRoom, room.top(), labelWidth, room.height());
+  button_->setGeometry(room.right() - buttonWidth + 1, room.top(), buttonWidth, room.height());
+  Edit()->setTextMargins(labelWidth, 0, buttonWidth, 0);
 }

@@ -57,8 +57,8 @@ bool TCustomEdit::ReadOnly() const {
   return Edit() != nullptr && Edit()->isReadOnly();
 }
 
-void TCustomEdit::SetReadOnly(bool read_only) {
-  if (Edit() != nullptr) Edit()->setReadOnly(read_only);
+void TCustomEdit::SetReadOnly(bool readOnly) {
+  if (Edit() != nullptr) Edit()->setReadOnly(readOnly);
 }
 
 TAlignment TCustomEdit::Alignment() const {
@@ -115,13 +115,13 @@ bool AllowsCharacter(TKVXInputKind kind, std::string_view character) {
   return false;
 }
 
-bool IsCurrency(const std::string& text, int integer_digits, int decimal_digits) {
+bool IsCurrency(const std::string& text, int integer_digits, int decimalDigits) {
   const std::size_t point = std::min(text.find('.'), text.size());
   const std::string_view whole = std::string_view(text).substr(0, point);
   const std::string_view rest = std::string_view(text).substr(std::min(point + 1, text.size()));
   return std::all_of(whole.begin(), whole.end(), IsDigit) && std::all_of(rest.begin(), rest.end(), IsDigit) &&
          whole.size() <= static_cast<std::size_t>(integer_digits) &&
-         rest.size() <= static_cast<std::size_t>(decimal_digits);
+         rest.size() <= static_cast<std::size_t>(decimalDigits);
 }
 
 }  // namespace
@@ -130,14 +130,14 @@ TKVXEdit::TKVXEdit(TComponent* owner) : TCustomEdit(owner) {}
 
 void TKVXEdit::SetInputRule(const TKVXInputRule& rule) {
   rule_ = rule;
-  Limits().max_length = rule.max_length;
+  Limits().maxLength = rule.maxLength;
   Limits().allows = [kind = rule.kind](std::string_view character) {
     return AllowsCharacter(kind, character);
   };
   Limits().accepts = nullptr;
   if (rule.kind != ikCurrency) return;
   Limits().accepts = [rule](const std::string& text) {
-    return IsCurrency(text, rule.integer_digits, rule.decimal_digits);
+    return IsCurrency(text, rule.integer_digits, rule.decimalDigits);
   };
   SetAlignment(taRightJustify);
 }
@@ -146,7 +146,7 @@ TMemo::TMemo(TComponent* owner) : TWinControl(owner) {
   auto* edit = new QPlainTextEdit;
   SetWidget(edit);
   SetTabStop(true);
-  limits_.multi_line = true;
+  limits_.multiLine = true;
   edit->setTabChangesFocus(true);
   connect(edit, &QPlainTextEdit::textChanged, this, &TMemo::TextChanged);
 }
@@ -170,8 +170,8 @@ bool TMemo::ReadOnly() const {
   return Edit() != nullptr && Edit()->isReadOnly();
 }
 
-void TMemo::SetReadOnly(bool read_only) {
-  if (Edit() != nullptr) Edit()->setReadOnly(read_only);
+void TMemo::SetReadOnly(bool readOnly) {
+  if (Edit() != nullptr) Edit()->setReadOnly(readOnly);
 }
 
 void TMemo::SetScrollBars(TScrollStyle style) {

@@ -21,10 +21,10 @@ class TCustomEdit : public TbsSkinControl {
   virtual void SetText(const std::string& text);
   void Clear() { SetText({}); }
   bool ReadOnly() const;
-  void SetReadOnly(bool read_only);
+  void SetReadOnly(bool readOnly);
   /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
-  int MaxLength() const { return limits_.max_length; }
-  void SetMaxLength(int bytes) { limits_.max_length = bytes; }
+  int MaxLength() const { return limits_.maxLength; }
+  void SetMaxLength(int bytes) { limits_.maxLength = bytes; }
   TAlignment Alignment() const;
   void SetAlignment(TAlignment alignment);
   void SelectAll();
@@ -64,10 +64,10 @@ enum TKVXInputKind { ikAny, ikDigits, ikLettersDigitsChinese, ikCurrency };
 struct TKVXInputRule {
   TKVXInputKind kind = ikAny;
   /// Most bytes of narrow text, 0: no limit.
-  int max_length = 0;
+  int maxLength = 0;
   /// Currency: most digits before and behind the point.
   int integer_digits = 0;
-  int decimal_digits = 0;
+  int decimalDigits = 0;
 };
 
 /// A line of text with an input rule: what breaks it does not go in.
@@ -98,14 +98,14 @@ class TMemo : public TWinControl {
   void SetText(const std::string& text);
   void Clear() { SetText({}); }
   bool ReadOnly() const;
-  void SetReadOnly(bool read_only);
+  void SetReadOnly(bool readOnly);
   /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
   /// A line end counts as two.
-  int MaxLength() const { return limits_.max_length; }
-  void SetMaxLength(int bytes) { limits_.max_length = bytes; }
+  int MaxLength() const { return limits_.maxLength; }
+  void SetMaxLength(int bytes) { limits_.maxLength = bytes; }
   /// Most characters that the user can enter, 0: no limit; counted as in TInputLimits.
-  int MaxCharacters() const { return limits_.max_characters; }
-  void SetMaxCharacters(int characters) { limits_.max_characters = characters; }
+  int MaxCharacters() const { return limits_.maxCharacters; }
+  void SetMaxCharacters(int characters) { limits_.maxCharacters = characters; }
   /// Which scroll bars may appear; without a horizontal one the lines wrap.
   void SetScrollBars(TScrollStyle style);
 

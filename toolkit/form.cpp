@@ -306,10 +306,10 @@ void TForm::SetDefaultButton(TbsSkinButton* button) {
   if (button != nullptr) button->MarkDefault();
 }
 
-bool TForm::PressDialogButton(std::uint16_t key, TShiftState shift, bool control_wants_return) {
+bool TForm::PressDialogButton(std::uint16_t key, TShiftState shift, bool controlWantsReturn) {
   if (shift.Contains(ssShift) || shift.Contains(ssCtrl) || shift.Contains(ssAlt)) return false;
   TbsSkinButton* button = nullptr;
-  if (key == VK_RETURN && !control_wants_return) {
+  if (key == VK_RETURN && !controlWantsReturn) {
     // A focused button is the one that Return means, whichever is marked as default.
     auto* focused = qobject_cast<TbsSkinButton*>(active_control_.data());
     button = default_button_ && focused != nullptr ? focused : DefaultButton();

@@ -122,7 +122,7 @@ class TForm : public TWinControl {
 
  private:
   friend class TWinControl;
-  bool PressDialogButton(std::uint16_t key, TShiftState shift, bool control_wants_return);
+  bool PressDialogButton(std::uint16_t key, TShiftState shift, bool controlWantsReturn);
   void ApplyWindowFlags();
   void OpenWindow();
   QPoint OpeningPlace() const;

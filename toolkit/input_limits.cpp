@@ -28,7 +28,7 @@ TChange ChangedPart(const QString& before, const QString& after, qsizetype curso
 }
 
 bool LetsIn(const TInputLimits& limits, const QString& character, const std::string& narrow) {
-  if (character == QLatin1String("\n")) return limits.multi_line;
+  if (character == QLatin1String("\n")) return limits.multiLine;
   if (character.at(0).category() == QChar::Other_Control) return false;
   if (character.at(0) == QChar::LineSeparator || character.at(0) == QChar::ParagraphSeparator) return false;
   if (narrow == "?" && character != QLatin1String("?")) return false;
@@ -46,9 +46,9 @@ int NarrowLength(const QString& text) {
 }
 
 int CharacterCount(const QString& text) {
-  const auto low_surrogate = [](QChar c) { return c.isLowSurrogate(); };
+  const auto lowSurrogate = [](QChar c) { return c.isLowSurrogate(); };
   return static_cast<int>(text.size() + text.count(QLatin1Char('\n')) -
-                          std::count_if(text.begin(), text.end(), low_surrogate));
+                          std::count_if(text.begin(), text.end(), lowSurrogate));
 }
 
 QString LimitInput(const TInputLimits& limits, const QString& before, const QString& after, int& cursor) {
@@ -66,8 +66,8 @@ QString LimitInput(const TInputLimits& limits, const QString& before, const QStr
     if (!LetsIn(limits, character, narrow)) continue;
     const int bytes = NarrowLength(character);
     const int characters = CharacterCount(character);
-    if (limits.max_length > 0 && length + bytes > limits.max_length) break;
-    if (limits.max_characters > 0 && count + characters > limits.max_characters) break;
+    if (limits.maxLength > 0 && length + bytes > limits.maxLength) break;
+    if (limits.maxCharacters > 0 && count + characters > limits.maxCharacters) break;
     if (!Accepts(limits, head + kept + character + tail)) continue;
     kept += character;
     length += bytes;

@@ -9,11 +9,11 @@
 /// code page lacks never go in.
 struct TInputLimits {
   /// Most bytes of narrow text, 0: no limit.
-  int max_length = 0;
+  int maxLength = 0;
   /// Most characters, however many bytes each takes, 0: no limit.
-  int max_characters = 0;
+  int maxCharacters = 0;
   /// Line ends are let in and count as two bytes, and as two characters.
-  bool multi_line = false;
+  bool multiLine = false;
   /// Whether one character, its narrow text, may stand in the field; unset: any.
   std::function<bool(std::string_view character)> allows;
   /// Whether a whole narrow text may stand in the field; unset: any.

@@ -15,16 +15,16 @@ static constexpr int kAmountFormat = 2;
 
 TKVXCustomListView::TKVXCustomListView(TComponent* owner)
     : TCustomListView(owner), column_ids_(std::make_unique<corvane::StringVector>()) {
-  Model()->column_ids = column_ids_.get();
+  Model()->columnIds = column_ids_.get();
 }
 
 TKVXCustomListView::~TKVXCustomListView() {
-  Model()->column_ids = nullptr;
+  Model()->columnIds = nullptr;
   if (Tree() != nullptr) Tree()->SetSums(nullptr);
 }
 
-void TKVXCustomListView::Add(const corvane::List& rows, const std::string& column_ids) {
-  if (!column_ids.empty()) *column_ids_ = corvane::StringVector(column_ids, "; ", true);
+void TKVXCustomListView::Add(const corvane::List& rows, const std::string& columnIds) {
+  if (!columnIds.empty()) *column_ids_ = corvane::StringVector(columnIds, "; ", true);
   std::vector<std::unique_ptr<TListRow>> added;
   added.reserve(rows.size());
   for (const corvane::Row& row : rows) {
@@ -62,9 +62,9 @@ void TKVXCustomListView::GetDataVector(corvane::List& rows, int mode) const {
   for (const corvane::Property& record : records) rows.addProperty(record);
 }
 
-bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector& column_ids,
+bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector& columnIds,
                              int index) const {
-  return Get(row, column_ids, index < 0 || index >= Items().Count() ? nullptr : Items()[index]);
+  return Get(row, columnIds, index < 0 || index >= Items().Count() ? nullptr : Items()[index]);
 }
 
 bool TKVXCustomListView::Get(corvane::Property& row, const corvane::StringVector&,
@@ -106,8 +106,8 @@ int TKVXCustomListView::CheckedCount() const {
   return Model()->CheckedCount();
 }
 
-void TKVXCustomListView::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of) {
-  Model()->SetKinds(std::move(kinds_of));
+void TKVXCustomListView::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf) {
+  Model()->SetKinds(std::move(kindsOf));
 }
 
 int TKVXCustomListView::CheckedCount(unsigned kind) const {
@@ -136,12 +136,12 @@ void TKVXCustomListView::DelItems(const std::vector<int>& indexes) {
   Tree()->verticalScrollBar()->setValue(scrolled);
 }
 
-std::string TKVXCustomListView::GetTotalMoney(int column, bool checked_only) const {
+std::string TKVXCustomListView::GetTotalMoney(int column, bool checkedOnly) const {
   if (column < 1 || column > Columns().Count()) return {};
   THundredths total = 0;
   for (int i = 0; i < Model()->Count(); ++i) {
     const TListRow& row = Model()->Row(i);
-    if (checked_only && !row.checked) continue;
+    if (checkedOnly && !row.checked) continue;
     total += ParseAmount(Model()->Text(row, column - 1)).value_or(0);
   }
   return AmountText(total);

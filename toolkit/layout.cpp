@@ -109,15 +109,14 @@ QGridLayout* TGridLayout::Grid() const {
   return static_cast<QGridLayout*>(layout_);
 }
 
-void TGridLayout::Put(TControl* control, int row, int column, int row_span, int column_span,
-                      TCellAlign align) {
+void TGridLayout::Put(TControl* control, int row, int column, int rowSpan, int columnSpan, TCellAlign align) {
   Adopt(control);
-  Grid()->addWidget(control->Widget(), row, column, row_span, column_span, ToAlignment(align));
+  Grid()->addWidget(control->Widget(), row, column, rowSpan, columnSpan, ToAlignment(align));
 }
 
-TRowLayout TGridLayout::PutRow(int row, int column, int row_span, int column_span) {
+TRowLayout TGridLayout::PutRow(int row, int column, int rowSpan, int columnSpan) {
   auto* inside = new QHBoxLayout;
-  Grid()->addLayout(inside, row, column, row_span, column_span);
+  Grid()->addLayout(inside, row, column, rowSpan, columnSpan);
   return TRowLayout(parent_, inside);
 }
 

@@ -84,10 +84,10 @@ class TGridLayout : public TLayout {
   explicit TGridLayout(TWinControl* container);
 
   /// Puts a control into a cell, over as many rows and columns as told.
-  void Put(TControl* control, int row, int column, int row_span = 1, int column_span = 1,
+  void Put(TControl* control, int row, int column, int rowSpan = 1, int columnSpan = 1,
            TCellAlign align = caFill);
   /// Puts a row of controls into a cell.
-  TRowLayout PutRow(int row, int column, int row_span = 1, int column_span = 1);
+  TRowLayout PutRow(int row, int column, int rowSpan = 1, int columnSpan = 1);
   /// Puts a label, its control and the "*" of a field that must be given (null: none) into three cells from
   /// column on: the label right-aligned, the control filling.
   void PutField(int row, int column, TLabel* label, TControl* control, TLabel* star = nullptr);

@@ -20,7 +20,7 @@ void TListItem::SetSubItems(int index, const std::string& text) {
 }
 
 int TListItem::SubItemCount() const {
-  const std::size_t fields = row_->record && model_->column_ids != nullptr ? model_->column_ids->size() : 0;
+  const std::size_t fields = row_->record && model_->columnIds != nullptr ? model_->columnIds->size() : 0;
   const std::size_t texts = std::max(fields, row_->texts.size());
   return texts == 0 ? 0 : static_cast<int>(texts) - 1;
 }

@@ -29,8 +29,8 @@ int TListModel::IndexOf(TListRow* row) const {
 
 const std::string* TListModel::FieldOf(const TListRow& row, int column) const {
   const auto at = static_cast<std::size_t>(column);
-  if (!row.record || column_ids == nullptr || at >= column_ids->size()) return nullptr;
-  return &(*column_ids)[at];
+  if (!row.record || columnIds == nullptr || at >= columnIds->size()) return nullptr;
+  return &(*columnIds)[at];
 }
 
 std::string TListModel::Text(const TListRow& row, int column) const {
@@ -59,8 +59,8 @@ void TListModel::Count(TListRow& row, int by) {
   }
 }
 
-void TListModel::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of) {
-  kinds_of_ = std::move(kinds_of);
+void TListModel::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf) {
+  kinds_of_ = std::move(kindsOf);
   checked_ = 0;
   checked_of_kind_ = {};
   for (const auto& row : rows_) {

@@ -47,7 +47,7 @@ class TListModel : public QAbstractTableModel {
   /// Ticked rows whose record is of a kind, a bit from 0 to 7.
   int CheckedCount(unsigned kind) const { return checked_of_kind_[kind]; }
   /// Counts the ticked rows by other kinds from here on.
-  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of);
+  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf);
 
   /// Inserts an empty row before an index.
   TListRow& Insert(int index);
@@ -68,7 +68,7 @@ class TListModel : public QAbstractTableModel {
   void RecordChanged(TListRow& row);
 
   /// The fields that the columns show, null in a list without records.
-  const std::vector<std::string>* column_ids = nullptr;
+  const std::vector<std::string>* columnIds = nullptr;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

@@ -262,19 +262,19 @@ class TKVXCustomListView : public TCustomListView {
   bool ColumnsWhole() const { return columns_whole_; }
   void SetColumnsWhole(bool whole) { columns_whole_ = whole; }
 
-  /// Appends a row for each record, with all its fields. column_ids are the fields that the columns show,
+  /// Appends a row for each record, with all its fields. columnIds are the fields that the columns show,
   /// joined with "; "; they become ColumnIds unless the text is empty.
-  void Add(const corvane::List& rows, const std::string& column_ids);
+  void Add(const corvane::List& rows, const std::string& columnIds);
   /// Replaces rows by copies of records: mode 2 the ticked ones, 1 the selected one, 0 all, in list order.
   /// Where the records differ in fields, each row gets what it lacks, empty, since rows of a list have equal
   /// columns.
   void GetDataVector(corvane::List& rows, int mode) const;
   /// Copies the record of a row with all its fields; the column ids choose nothing. False, and an emptied
   /// record, when there is no such row.
-  bool Get(corvane::Property& row, const corvane::StringVector& column_ids, int index) const;
-  bool Get(corvane::Property& row, const corvane::StringVector& column_ids, const TListItem* item) const;
+  bool Get(corvane::Property& row, const corvane::StringVector& columnIds, int index) const;
+  bool Get(corvane::Property& row, const corvane::StringVector& columnIds, const TListItem* item) const;
   /// Replaces the record of a row and repaints it; a null item changes nothing.
-  void Modify(const corvane::Property& row, const corvane::StringVector& column_ids, TListItem* item);
+  void Modify(const corvane::Property& row, const corvane::StringVector& columnIds, TListItem* item);
   /// The record of a row, null when the item is null or has none; the view owns it. What is changed in it
   /// shows at the next repaint, which follows by itself.
   corvane::Property* PropertyOf(const TListItem* item) const;
@@ -288,9 +288,9 @@ class TKVXCustomListView : public TCustomListView {
   /// Ticked rows whose record is of a kind, 0 to 7, as the last SetKinds has it; 0 before there was one.
   int CheckedCount(unsigned kind) const;
   /// Counts the ticked rows by kinds from here on, so that a tick costs the same however many there are:
-  /// kinds_of gives the kinds of a record as the bits of a number. It is asked when a row is first ticked,
+  /// kindsOf gives the kinds of a record as the bits of a number. It is asked when a row is first ticked,
   /// and again when its record has changed.
-  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kinds_of);
+  void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf);
   /// Removes a row and its record; std::out_of_range when there is none.
   void DelItem(int index);
   /// Removes the rows at ascending indexes in one pass; an index out of range removes nothing.
@@ -298,7 +298,7 @@ class TKVXCustomListView : public TCustomListView {
   /// Sum of a column, counted from 1, over all rows or the ticked ones, as plain text with two decimals:
   /// exact, decimals behind the second of a cell are left out, and cells that are no number add nothing.
   /// Empty when there is no such column.
-  std::string GetTotalMoney(int column, bool checked_only) const;
+  std::string GetTotalMoney(int column, bool checkedOnly) const;
   /// The list view's own sum row, off at the start; on, the sum of each amount column shows below the list.
   bool ShowSumRow() const { return show_sum_row_; }
   void SetShowSumRow(bool show);

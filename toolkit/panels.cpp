@@ -158,8 +158,8 @@ bool TbsSkinExPanel::ReturnPressed() {
   return true;
 }
 
-void TbsSkinExPanel::SetRollState(bool rolled_up) {
-  rolled_up_ = rolled_up;
+void TbsSkinExPanel::SetRollState(bool rolledUp) {
+  rolled_up_ = rolledUp;
   if (client_) ShowState();
 }
 

@@ -74,7 +74,7 @@ class TbsSkinExPanel : public TbsSkinControl {
   /// True: rolled up.
   bool RollState() const { return rolled_up_; }
   /// Rolls up or opens without running OnChangeRollState.
-  void SetRollState(bool rolled_up);
+  void SetRollState(bool rolledUp);
 
   /// Height of the open panel, also when it is set while the panel is rolled up.
   void SetHeight(int height) override;

@@ -49,7 +49,7 @@ void TWinControl::TabOrderList(std::vector<TWinControl*>& list) const {
   }
 }
 
-bool TWinControl::SelectNext(TWinControl* current, bool forward, bool tab_stops_only) {
+bool TWinControl::SelectNext(TWinControl* current, bool forward, bool tabStopsOnly) {
   std::vector<TWinControl*> list;
   TabOrderList(list);
   if (!forward) std::ranges::reverse(list);
@@ -57,7 +57,7 @@ bool TWinControl::SelectNext(TWinControl* current, bool forward, bool tab_stops_
   if (here != list.end()) std::rotate(list.begin(), here + 1, list.end());
   for (TWinControl* control : list) {
     if (control == current || !control->CanFocus()) continue;
-    if (tab_stops_only ? !control->tab_stop_ : control->Parent() != this) continue;
+    if (tabStopsOnly ? !control->tab_stop_ : control->Parent() != this) continue;
     control->SetFocus();
     return true;
   }

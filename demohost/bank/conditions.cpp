@@ -25,9 +25,8 @@ void AddTest(Where& where, std::string_view column, std::string_view test,
   where.values.push_back(std::move(value));
 }
 
-void CheckCode(const Condition& condition, std::string_view code, const IsCode& is_code) {
-  if (!is_code(condition.dictionary, code))
-    throw Refused(refusal::kUnknownCode, std::string(condition.field));
+void CheckCode(const Condition& condition, std::string_view code, const IsCode& isCode) {
+  if (!isCode(condition.dictionary, code)) throw Refused(refusal::kUnknownCode, std::string(condition.field));
 }
 
 std::string CheckedDay(const Condition& condition, const std::string& value) {
@@ -41,18 +40,18 @@ std::int64_t CheckedCents(const Condition& condition, const std::string& value) 
   return *cents;
 }
 
-void AddCondition(Where& where, const Condition& condition, const std::string& value, const IsCode& is_code) {
+void AddCondition(Where& where, const Condition& condition, const std::string& value, const IsCode& isCode) {
   switch (condition.kind) {
     case ConditionKind::kEqual:
       return AddTest(where, condition.column, " = ?", value);
     case ConditionKind::kContains:
       return AddTest(where, "instr(" + std::string(condition.column) + ", ?)", " > 0", value);
     case ConditionKind::kCode:
-      CheckCode(condition, value, is_code);
+      CheckCode(condition, value, isCode);
       return AddTest(where, condition.column, " = ?", value);
     case ConditionKind::kCodes: {
       const std::vector<std::string> codes = Split(value, '|');
-      for (const std::string& code : codes) CheckCode(condition, code, is_code);
+      for (const std::string& code : codes) CheckCode(condition, code, isCode);
       return AddOneOf(where, condition.column, codes);
     }
     case ConditionKind::kDateFrom:
@@ -85,11 +84,11 @@ void CheckRanges(const Business& business, const Fields& fields) {
 }
 
 void CheckLimitedRange(const Business& business, const Fields& fields) {
-  if (business.limited_from.empty()) return;
-  const std::string& start = Required(fields, business.limited_from);
+  if (business.limitedFrom.empty()) return;
+  const std::string& start = Required(fields, business.limitedFrom);
   const std::string& end = Required(fields, business.limited_to);
   if (start.empty() && end.empty()) return;
-  if (start.empty()) throw Refused(refusal::kMissingDate, std::string(business.limited_from));
+  if (start.empty()) throw Refused(refusal::kMissingDate, std::string(business.limitedFrom));
   if (end.empty()) throw Refused(refusal::kMissingDate, std::string(business.limited_to));
   if ((*DayOf(end) - *DayOf(start)).count() >= kRangeLimit) {
     throw Refused(refusal::kLongRange, std::string(business.limited_to));
@@ -109,14 +108,14 @@ void AddOneOf(Where& where, std::string_view column, std::span<const std::string
   where.sql += ")";
 }
 
-Where BuildWhere(const Business& business, const Fields& fields, const IsCode& is_code) {
+Where BuildWhere(const Business& business, const Fields& fields, const IsCode& isCode) {
   Where where;
   for (const Condition& condition : business.conditions) {
     const std::string& value = Required(fields, condition.field);
     const bool any = value.empty() || (condition.field == "BILLTYP" && value == kEveryType);
     if (any) continue;
     if (condition.column.empty()) throw Refused(refusal::kForeignCondition, std::string(condition.field));
-    AddCondition(where, condition, value, is_code);
+    AddCondition(where, condition, value, isCode);
   }
   CheckRanges(business, fields);
   CheckLimitedRange(business, fields);

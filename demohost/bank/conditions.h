@@ -41,7 +41,7 @@ struct Business {
   std::string tables;   // what stands behind FROM
   std::string_view order;
   std::vector<Condition> conditions;
-  std::string_view limited_from, limited_to;  // a range that must be whole and under 181 days, or empty
+  std::string_view limitedFrom, limited_to;  // a range that must be whole and under 181 days, or empty
 };
 
 // The business of that code, or null.
@@ -58,7 +58,7 @@ using IsCode = std::function<bool(std::string_view dictionary, std::string_view 
 // The conditions of a request of this business. `fields` holds every field of the request in UTF-8. Throws
 // Refused for a missing field, a value that its kind doesn't take, a range that ends before its start and a
 // condition that the business doesn't have; the detail is the field's name.
-Where BuildWhere(const Business& business, const Fields& fields, const IsCode& is_code);
+Where BuildWhere(const Business& business, const Fields& fields, const IsCode& isCode);
 
 // Adds "AND <column> IN (...)" for the values.
 void AddOneOf(Where& where, std::string_view column, std::span<const std::string> values);

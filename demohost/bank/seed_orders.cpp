@@ -132,15 +132,15 @@ void FillOrders(Database& database, const BankPlan& plan) {
     const Day submitted = plan.today - days(random.Below(60));
     const bool booked = turn == 4;
     const std::chrono::year_month_day date{plan.today + days(random.Below(20)) - days(4)};
-    const std::string booked_day = Digits("%04lld-", static_cast<int>(date.year())) +
-                                   Digits("%02lld-", static_cast<unsigned>(date.month())) +
-                                   Digits("%02lld", static_cast<unsigned>(date.day()));
+    const std::string bookedDay = Digits("%04lld-", static_cast<int>(date.year())) +
+                                  Digits("%02lld-", static_cast<unsigned>(date.month())) +
+                                  Digits("%02lld", static_cast<unsigned>(date.day()));
     const auto& [code, words] = kFailures[static_cast<std::size_t>(application / 17) % kFailures.size()];
     const bool failed = turn == 8;
     orders(number, application, state, std::string_view(random.Chance(70) ? "6" : "8"),
            failed ? code : std::string_view(), failed ? words : std::string_view(), SeedPerson(random),
            std::string_view(random.Chance(75) ? "000310" : "000402"), std::string_view(booked ? "1" : "0"),
-           booked ? booked_day : std::string(), std::string_view(booked ? "10" : ""),
+           booked ? bookedDay : std::string(), std::string_view(booked ? "10" : ""),
            std::string_view(random.Chance(90) ? "F32001" : ""), DayText(submitted),
            Digits("%06lld", 90000 + random.Below(60)), random.Pick(names::CustomerRemarks()));
     AddSteps(steps, number, submitted, random);

@@ -141,16 +141,16 @@ void Filler::FillBills() {
 void Filler::AddBill(Insert& bills, std::int64_t id) {
   const Account& account = accounts_[static_cast<std::size_t>(id) % accounts_.size()];
   std::string type = Code("BILLTYPE", id);
-  const bool by_bank = type == "AC01";
+  const bool byBank = type == "AC01";
   // Of a few bills the bank has not entered the type.
-  if (!by_bank && id % 50 == 43) type.clear();
+  if (!byBank && id % 50 == 43) type.clear();
   const std::uint32_t age = random_.Below(360);
   const Day issued = plan_.today - days(age);
   const Day due = issued + days(random_.Chance(60) ? 180 : random_.Chance(50) ? 90 : 365);
   const Day saved = issued + days(random_.Below(std::min<std::uint32_t>(age, 60) + 1));
   // One bill in twenty has no bill ID, and one in ten of these no enquiry number either.
-  const bool has_bill_id = id % 20 != 7;
-  const bool has_enquiry = has_bill_id ? random_.Chance(50) : id % 200 != 7;
+  const bool hasBillId = id % 20 != 7;
+  const bool hasEnquiry = hasBillId ? random_.Chance(50) : id % 200 != 7;
   const std::string_view currency = random_.Chance(86)   ? "CNY"
                                     : random_.Chance(50) ? "USD"
                                     : random_.Chance(50) ? "EUR"
@@ -161,23 +161,23 @@ void Filler::AddBill(Insert& bills, std::int64_t id) {
   cents += random_.Chance(33) ? 0 : random_.Below(10000);
   const Party drawer = Firm();
   const Party payee = Firm();
-  const Party payer = by_bank ? Party{} : Firm();
-  const Branch& payee_bank = random_.Pick(accepting_);
-  const Branch& payer_bank = random_.Pick(accepting_);
+  const Party payer = byBank ? Party{} : Firm();
+  const Branch& payeeBank = random_.Pick(accepting_);
+  const Branch& payerBank = random_.Pick(accepting_);
   const bool endorsed = random_.Chance(65);
   const bool collected = random_.Chance(70);
   const std::string yes = Code("YESORNO", 1);
   const std::string no = Code("YESORNO", 0);
   bills(id + 1, account.number, random_.Pick(account.institutions),
         "3" + Digits("%07lld", 131000 + id % 977) + Digits("%08lld", 20000000 + id),
-        has_bill_id ? Digits("%lld", 10000000 + id) : std::string(),
-        has_enquiry ? Digits("QN%010lld", 4400000 + id) : std::string(), type,
+        hasBillId ? Digits("%lld", 10000000 + id) : std::string(),
+        hasEnquiry ? Digits("QN%010lld", 4400000 + id) : std::string(), type,
         Join({"PC", DayText(saved)}) + Digits("%04lld", id % std::ssize(account.number) + id % 37),
         Code("AGENTSTT", id), currency, cents, DayText(issued), DayText(due), DayText(saved), drawer.name,
-        drawer.account, payee.name, payee_bank.name, payee.account, payer.name, payer.account,
-        by_bank ? payer_bank.number : std::string(), by_bank ? payer_bank.name : std::string(),
-        by_bank ? payer_bank.address : std::string(), by_bank ? std::string() : payer_bank.number,
-        by_bank ? std::string() : payer_bank.name, by_bank ? std::string() : payer_bank.address,
+        drawer.account, payee.name, payeeBank.name, payee.account, payer.name, payer.account,
+        byBank ? payerBank.number : std::string(), byBank ? payerBank.name : std::string(),
+        byBank ? payerBank.address : std::string(), byBank ? std::string() : payerBank.number,
+        byBank ? std::string() : payerBank.name, byBank ? std::string() : payerBank.address,
         endorsed ? Firm().name : std::string(),
         endorsed ? Digits("%lld", 1 + random_.Below(9)) : std::string(), random_.Chance(20) ? yes : no,
         collected ? yes : no, collected ? account.number : std::string(), random_.Chance(40) ? yes : no,

@@ -9,7 +9,7 @@
 namespace demohost::check {
 
 CheckHost& CaseRun::Host() {
-  if (!host_) host_.emplace(options_, options_.check_folder);
+  if (!host_) host_.emplace(options_, options_.checkFolder);
   return *host_;
 }
 

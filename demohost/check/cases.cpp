@@ -73,9 +73,9 @@ std::span<const Case> Cases() {
 
 NamedCase FindCase(std::string_view name) {
   for (const Case& one : kCases) {
-    if (!one.for_each_item && name == one.name) return {&one, {}};
+    if (!one.forEachItem && name == one.name) return {&one, {}};
     const std::string_view prefix = one.name;
-    if (one.for_each_item && name.size() > prefix.size() && name.substr(0, prefix.size()) == prefix) {
+    if (one.forEachItem && name.size() > prefix.size() && name.substr(0, prefix.size()) == prefix) {
       return {&one, std::string(name.substr(prefix.size()))};
     }
   }

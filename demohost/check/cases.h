@@ -15,7 +15,7 @@ struct Case {
   const char* needs;           // the case before it without which it is skipped; "" for none
   void (*play)(CaseRun& run);  // fails through `run`, or returns
   int time = 1;                // how many times the limit it may take
-  bool for_each_item = false;  // one for each item of the menu, whose name follows `name`
+  bool forEachItem = false;    // one for each item of the menu, whose name follows `name`
 };
 
 // The order in which they are played.

@@ -63,7 +63,7 @@ class Check {
 
   void PlayAll() {
     for (const Case& one : Cases()) {
-      if (!one.for_each_item) {
+      if (!one.forEachItem) {
         Play(one, {});
       } else if (items_.empty()) {
         Tell(std::string(one.name) + "items", one.sentence, {Outcome::kSkipped, "the menu has no item", {}});
@@ -115,7 +115,7 @@ class Check {
                                           name,      "--check-folder",        folder_.Path().string(),
                                           "--share", options_.share.string()};
     if (!options_.language.empty()) arguments.insert(arguments.end(), {"--language", options_.language});
-    return RunInChild(arguments, report, std::max(1, options_.check_limit) * one.time, quietly);
+    return RunInChild(arguments, report, std::max(1, options_.checkLimit) * one.time, quietly);
   }
 
   void Tell(const std::string& name, const char* sentence, const Judged& judged) {
@@ -147,10 +147,10 @@ int PlayHere(const Options& options) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   const rlimit none = {0, 0};
   setrlimit(RLIMIT_CORE, &none);
-  const NamedCase one = FindCase(options.check_case);
+  const NamedCase one = FindCase(options.checkCase);
   if (one.found == nullptr) return EXIT_FAILURE;
 
-  Report report(options.check_folder / kReportFile);
+  Report report(options.checkFolder / kReportFile);
   // No window comes up on the user's screen.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   std::string name = "demohost";
@@ -176,14 +176,14 @@ int PlayHere(const Options& options) {
 }  // namespace
 
 int Run(const Options& options) {
-  if (!options.check_folder.empty()) return PlayHere(options);
-  const NamedCase only = FindCase(options.check_case);
-  if (!options.check_case.empty() && only.found == nullptr) {
-    throw OptionError("the check has no case \"" + options.check_case + "\"");
+  if (!options.checkFolder.empty()) return PlayHere(options);
+  const NamedCase only = FindCase(options.checkCase);
+  if (!options.checkCase.empty() && only.found == nullptr) {
+    throw OptionError("the check has no case \"" + options.checkCase + "\"");
   }
   Check check(options);
   if (only.found != nullptr) {
-    check.PlayOnly(options.check_case, only);
+    check.PlayOnly(options.checkCase, only);
   } else {
     check.PlayAll();
   }

@@ -46,7 +46,7 @@ CheckHost::CheckHost(const Options& options, const std::filesystem::path& folder
   }
   OpenWindow();
   store_.SetHandle("BANK_PDATA", directory_.Handle());
-  output_.print_folder = folder / "prints";
+  output_.printFolder = folder / "prints";
   for (const HostLibrary& library : kHostLibraries) {
     for (const norvik_ordinal& entry : library.table()) {
       function_names_[entry.function] = "function " + std::to_string(entry.ordinal) + " of " + library.name;
@@ -58,7 +58,7 @@ CheckHost::CheckHost(const Options& options, const std::filesystem::path& folder
 }
 
 CheckHost::~CheckHost() {
-  store_.on_handle = nullptr;
+  store_.onHandle = nullptr;
   CloseWindow();
 }
 
@@ -84,7 +84,7 @@ void CheckHost::Called(void* function) const {
 
 void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
   libraries_.reset();
-  store_.on_handle = nullptr;
+  store_.onHandle = nullptr;
   libraries_.emplace(Services{.store = &store_,
                               .texts = &texts_,
                               .bank = &bank_,
@@ -92,7 +92,7 @@ void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
                               .output = &output_,
                               .called = [this](void* function) { Called(function); }},
                      missing);
-  store_.on_handle = [this](const std::string& key, std::uint32_t value) {
+  store_.onHandle = [this](const std::string& key, std::uint32_t value) {
     if (value == 0) {
       form_handles_.erase(key);
     } else {

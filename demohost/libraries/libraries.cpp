@@ -19,7 +19,7 @@ Libraries::Libraries(Services services, std::optional<MissingFunction> missing) 
       std::erase_if(table, [&](const norvik_ordinal& entry) { return entry.ordinal == missing->ordinal; });
     }
     modules_.push_back(norvik_module_register(table.data(), table.size()));
-    if (const char* key = kHostLibraries[library].handle_key) {
+    if (const char* key = kHostLibraries[library].handleKey) {
       CurrentServices().store->SetHandle(key, modules_.back());
     }
   }

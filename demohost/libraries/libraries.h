@@ -23,7 +23,7 @@ std::vector<norvik_ordinal> PrintTable();
 // One of the six libraries.
 struct HostLibrary {
   const char* name;                        // in plain words
-  const char* handle_key;                  // where the store keeps its handle; null for public information
+  const char* handleKey;                   // where the store keeps its handle; null for public information
   std::vector<norvik_ordinal> (*table)();  // its functions
 };
 // Public information is the first.

@@ -40,10 +40,10 @@ corvane::List ShownColumns(const std::string& name) {
   return shown;
 }
 
-ExportSheet SheetOf(const std::string& name, const std::string& head_text, const std::string& data) {
-  ExportSheet sheet = ReadExport(head_text, ShownColumns(name).toString(), data);
+ExportSheet SheetOf(const std::string& name, const std::string& headText, const std::string& data) {
+  ExportSheet sheet = ReadExport(headText, ShownColumns(name).toString(), data);
   sheet.title = TitleOf(name);
-  const corvane::Row head(head_text);
+  const corvane::Row head(headText);
   const std::string language = CurrentLanguage();
   for (const auto& [field, caption] : kHeadLines) {
     const std::string value = norvik::Utf8FromAnsi(head.getValue(field));
@@ -60,7 +60,7 @@ ReportPaper ChosenPaper() {
 
 // A name that no earlier report bears.
 std::filesystem::path FileFor(const std::string& name) {
-  const std::filesystem::path& folder = CurrentServices().output->print_folder;
+  const std::filesystem::path& folder = CurrentServices().output->printFolder;
   for (int number = 1;; ++number) {
     std::filesystem::path file = folder / (name + "-" + std::to_string(number) + ".pdf");
     if (!std::filesystem::exists(file)) return file;
@@ -83,7 +83,7 @@ std::uint8_t PrintList(const char* name, const char* head, const char* data, cha
 
 void PrintSetup(const char* name) {
   const Output& output = *CurrentServices().output;
-  if (output.print_settings) output.print_settings(Text(name));
+  if (output.printSettings) output.printSettings(Text(name));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ std::uint8_t Exchange(const char* code, const char* request, std::int32_t, char*
   return Answered(answer, length, error, kLongError, [&] {
     Services& services = CurrentServices();
     // The line to the bank is slow; the caller waits, as it would for a real one.
-    std::this_thread::sleep_for(std::chrono::milliseconds(services.delay_milliseconds));
+    std::this_thread::sleep_for(std::chrono::milliseconds(services.delayMilliseconds));
     const std::string refused = std::exchange(services.faults.exchange, {});
     if (!refused.empty()) throw Refused(refused);
     const std::string answered = services.bank->Exchange(Text(code), Text(request));

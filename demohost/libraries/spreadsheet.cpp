@@ -20,7 +20,7 @@ std::uint8_t ExportWorkbook(const char* path, const char* head, const char* colu
   return Guarded(error, kLongError, [&] {
     const std::filesystem::path file =
         WriteWorkbook(PathOf(path), ReadExport(Text(head), Text(columns), Text(data)),
-                      CurrentServices().output->may_replace);
+                      CurrentServices().output->mayReplace);
     if (!file.empty()) Tell(file);
   });
 }

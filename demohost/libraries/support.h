@@ -26,7 +26,7 @@ struct Services {
   const BankClock* clock = nullptr;
   Output* output = nullptr;
   // The bank takes at least this long for an exchange.
-  int delay_milliseconds = 0;
+  int delayMilliseconds = 0;
   // A failure that the caller isn't told about, in UTF-8.
   std::function<void(const std::string& text)> report = {};
   // Runs at the beginning of each call of a function, which is told as its library's table has it.

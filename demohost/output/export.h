@@ -42,12 +42,11 @@ std::vector<ExportColumn> ReadColumns(const corvane::List& columns);
 // Amounts are numbers with two decimals and dates are dates; whatever isn't one or has more than the 15
 // digits of a workbook's numbers, and everything else, is text. Under a name that ends in .xls the file gets
 // the ending .xlsx, so that no program asks about an ending that belies the content; since the caller can't
-// know of a file of that name, may_replace is asked where there is one. The file is made beside and put in
+// know of a file of that name, mayReplace is asked where there is one. The file is made beside and put in
 // place in one step. Returns where the workbook stands, empty where it was not to be replaced. Throws Refused
 // with kNotExported, also for a file in the way and nobody to ask.
-std::filesystem::path WriteWorkbook(
-    const std::filesystem::path& path, const ExportSheet& sheet,
-    const std::function<bool(const std::filesystem::path&)>& may_replace = {});
+std::filesystem::path WriteWorkbook(const std::filesystem::path& path, const ExportSheet& sheet,
+                                    const std::function<bool(const std::filesystem::path&)>& mayReplace = {});
 
 // Writes the captions and the rows as lines of text in UTF-8 with a byte order mark, ended by "\r\n", cells
 // divided by the separator; a cell that holds the separator, a quote or a line end stands in quotes, its

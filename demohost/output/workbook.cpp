@@ -139,14 +139,14 @@ std::string LowerEnding(const std::filesystem::path& path) {
 }  // namespace
 
 std::filesystem::path WriteWorkbook(const std::filesystem::path& path, const ExportSheet& sheet,
-                                    const std::function<bool(const std::filesystem::path&)>& may_replace) {
+                                    const std::function<bool(const std::filesystem::path&)>& mayReplace) {
   std::filesystem::path target = path;
   std::error_code error;
   if (LowerEnding(path) == ".xls") {
     target.replace_extension(".xlsx");
     if (std::filesystem::exists(target, error)) {
-      if (!may_replace) throw Refused(refusal::kNotExported, target.string());
-      if (!may_replace(target)) return {};
+      if (!mayReplace) throw Refused(refusal::kNotExported, target.string());
+      if (!mayReplace(target)) return {};
     }
   }
   std::filesystem::path beside = target;

@@ -75,11 +75,11 @@ QString DialogText(QWidget* dialog) {
 void TypeText(QWidget* window, const QString& text) {
   for (const char32_t character : text.toStdU32String()) {
     const QString typed = QString::fromUcs4(&character, 1);
-    const bool line_end = character == U'\n';
-    const int key = line_end           ? Qt::Key_Return
+    const bool lineEnd = character == U'\n';
+    const int key = lineEnd            ? Qt::Key_Return
                     : character < 0x80 ? static_cast<int>(typed.toUpper()[0].unicode())
                                        : 0;
-    SendKey(FocusOf(window), key, Qt::NoModifier, line_end ? QStringLiteral("\r") : typed);
+    SendKey(FocusOf(window), key, Qt::NoModifier, lineEnd ? QStringLiteral("\r") : typed);
   }
 }
 

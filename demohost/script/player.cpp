@@ -35,8 +35,8 @@ void Player::PlayNext() {
   Operator::Action action;
   try {
     action = operator_.Prepare(step);
-  } catch (const NotYet& not_yet) {
-    return Lose(where, QString::fromUtf8(not_yet.what()));
+  } catch (const NotYet& notYet) {
+    return Lose(where, QString::fromUtf8(notYet.what()));
   }
   ++next_;
   waiting_.restart();
@@ -65,7 +65,7 @@ void Player::Lose(const QString& what, const QString& reason) {
 
 void Player::End(ScriptEnd end, const QString& reason) {
   ended_ = true;
-  if (on_end) on_end(end, reason);
+  if (onEnd) onEnd(end, reason);
 }
 
 }  // namespace demohost

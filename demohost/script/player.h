@@ -20,9 +20,9 @@ class Player : public QObject {
  public:
   Player(std::vector<ScriptStep> steps, Operator& hand) : steps_(std::move(steps)), operator_(hand) {}
 
-  // Begins with the next turn of the event loop. on_end runs once; reason is empty where all was played.
+  // Begins with the next turn of the event loop. onEnd runs once; reason is empty where all was played.
   void Start();
-  std::function<void(ScriptEnd end, const QString& reason)> on_end;
+  std::function<void(ScriptEnd end, const QString& reason)> onEnd;
 
   // How long a step may take to become possible, milliseconds; 5000 at the start. The script may change it.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }

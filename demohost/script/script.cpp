@@ -181,11 +181,11 @@ std::vector<int> ParseNumbers(const QString& text) {
   std::vector<int> numbers;
   for (const QString& part : text.split(QLatin1Char(','))) {
     const QStringList ends = part.split(QLatin1Char('-'));
-    bool first_good = false;
-    bool last_good = false;
-    const int first = ends.first().toInt(&first_good);
-    const int last = ends.last().toInt(&last_good);
-    if (!first_good || !last_good || ends.size() > 2 || first < 1 || last < first || last > kMostRows) {
+    bool firstGood = false;
+    bool lastGood = false;
+    const int first = ends.first().toInt(&firstGood);
+    const int last = ends.last().toInt(&lastGood);
+    if (!firstGood || !lastGood || ends.size() > 2 || first < 1 || last < first || last > kMostRows) {
       throw std::invalid_argument("not row numbers");
     }
     for (int number = first; number <= last; ++number) numbers.push_back(number);

@@ -43,13 +43,13 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::Show(const ClientSettings& settings, const std::vector<BusinessItem>& items,
-                      const QString& bank_day) {
+                      const QString& bankDay) {
   settings_ = settings;
-  setFont(QFont(settings.font_name, settings.font_size));
+  setFont(QFont(settings.fontName, settings.fontSize));
   setWindowTitle(ToQt(Word(HostWord::kTitle, settings.language)));
   BuildMenus(items);
   BuildWelcome(items);
-  bank_day_->setText(ToQt(Word(HostWord::kBankDay, settings.language)) + QLatin1Char(' ') + bank_day);
+  bank_day_->setText(ToQt(Word(HostWord::kBankDay, settings.language)) + QLatin1Char(' ') + bankDay);
   ShowOpenForms();
 }
 
@@ -61,7 +61,7 @@ intptr_t MainWindow::Procedure(void* context, uint32_t message, uintptr_t wparam
   auto* window = static_cast<MainWindow*>(context);
   switch (message) {
     case form_message::kShortcut:
-      window->actions_.make_shortcut();
+      window->actions_.makeShortcut();
       return 1;
     case form_message::kShown:
       window->forms_.Shown(wparam);
@@ -111,12 +111,12 @@ void MainWindow::BuildSettings(QMenu* menu) {
   QMenu* languages = menu->addMenu(ToQt(Word(HostWord::kLanguage, settings_.language)));
   for (const Language& language : kLanguages) {
     add(languages, ToQt(language.name), language.name == settings_.language,
-        [this, name = std::string(language.name)] { actions_.choose_language(name); });
+        [this, name = std::string(language.name)] { actions_.chooseLanguage(name); });
   }
   QMenu* styles = menu->addMenu(ToQt(Word(HostWord::kStyle, settings_.language)));
   for (const SkinStyle& style : SkinStyles()) {
     add(styles, QString::fromLatin1(style.number), style.number == settings_.style,
-        [this, number = std::string(style.number)] { actions_.choose_style(number); });
+        [this, number = std::string(style.number)] { actions_.chooseStyle(number); });
   }
   menu->addAction(ToQt(Word(HostWord::kFont, settings_.language)), this, &MainWindow::ChooseFont);
 }
@@ -147,7 +147,7 @@ void MainWindow::ShowOpenForms() {
   QStringList titles;
   for (const OpenForms::Form& form : forms_.Announced()) {
     const QWidget* window = OpenForms::WindowOf(form);
-    titles << (window == nullptr ? QString::fromStdString(form.class_name)
+    titles << (window == nullptr ? QString::fromStdString(form.className)
                                  : window->windowTitle().section(QStringLiteral(" ["), 0, 0));
   }
   open_forms_->setText(titles.isEmpty() ? ToQt(Word(HostWord::kNoForms, settings_.language))
@@ -168,8 +168,8 @@ void MainWindow::FillWindowMenu(QMenu* menu) {
 
 void MainWindow::ChooseFont() {
   bool chosen = false;
-  const QFont font = QFontDialog::getFont(&chosen, QFont(settings_.font_name, settings_.font_size), this);
-  if (chosen) actions_.choose_font(font.family(), font.pointSize());
+  const QFont font = QFontDialog::getFont(&chosen, QFont(settings_.fontName, settings_.fontSize), this);
+  if (chosen) actions_.chooseFont(font.family(), font.pointSize());
 }
 
 }  // namespace demohost

@@ -23,18 +23,18 @@ struct BusinessItem {
 // What the operator chose in the host's window.
 struct ClientSettings {
   std::string language;
-  QString font_name;
-  int font_size = 9;
+  QString fontName;
+  int fontSize = 9;
   std::string style;
 };
 
 // What the main window asks of the client.
 struct MainWindowActions {
   std::function<void(const std::string& item)> pick;
-  std::function<void(const std::string& language)> choose_language;
-  std::function<void(const QString& name, int size)> choose_font;
-  std::function<void(const std::string& style)> choose_style;
-  std::function<void()> make_shortcut;
+  std::function<void(const std::string& language)> chooseLanguage;
+  std::function<void(const QString& name, int size)> chooseFont;
+  std::function<void(const std::string& style)> chooseStyle;
+  std::function<void()> makeShortcut;
 };
 
 // The host's main window: the business menu, the settings, the open forms. It is also the window that the
@@ -45,7 +45,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   // Shows menus and captions in the language of the settings.
-  void Show(const ClientSettings& settings, const std::vector<BusinessItem>& items, const QString& bank_day);
+  void Show(const ClientSettings& settings, const std::vector<BusinessItem>& items, const QString& bankDay);
 
   // A line for the operator in the status bar.
   void Tell(const QString& text);

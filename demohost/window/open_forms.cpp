@@ -16,7 +16,7 @@ bool IsFormKey(const std::string& key) {
 void OpenForms::HandleEntered(const std::string& key, norvik_handle value) {
   if (!IsFormKey(key)) return;
   const auto known =
-      std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) { return form.class_name == key; });
+      std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) { return form.className == key; });
   Form form{key, value, known == forms_.end() ? 0 : known->address};
   if (known != forms_.end()) forms_.erase(known);
   if (value != 0) forms_.push_back(form);
@@ -47,7 +47,7 @@ std::vector<OpenForms::Form> OpenForms::Announced() const {
 }
 
 QWidget* OpenForms::WindowOf(const Form& form) {
-  const QString name = QString::fromStdString(form.class_name);
+  const QString name = QString::fromStdString(form.className);
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->objectName() == name && window->isVisible()) return window;
   }

@@ -16,7 +16,7 @@ namespace demohost {
 class OpenForms {
  public:
   struct Form {
-    std::string class_name;
+    std::string className;
     norvik_handle handle = 0;
     std::uintptr_t address = 0;  // 0 until the form has been announced
   };

@@ -19,7 +19,7 @@ struct Line {
 struct Checked {
   int status = -1;
   std::map<std::string, Line> cases;
-  std::string last_line;
+  std::string lastLine;
   std::string text;
 };
 
@@ -34,7 +34,7 @@ Checked Check(const std::string& module, const std::string& more = {}) {
   checked.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   std::istringstream lines(checked.text);
   std::string name;
-  for (std::string line; std::getline(lines, line); checked.last_line = line) {
+  for (std::string line; std::getline(lines, line); checked.lastLine = line) {
     if (line.rfind("  ", 0) == 0) {
       checked.cases[name].seen = line.substr(line.find_first_not_of(' '));
     } else {
@@ -73,7 +73,7 @@ TEST_P(BrokenModule, IsFoundByItsCase) {
   EXPECT_EQ(line.outcome, fault.outcome) << checked.text;
   EXPECT_NE(line.seen.find(fault.seen), std::string::npos) << checked.text;
   EXPECT_EQ(checked.status, 1);
-  EXPECT_EQ(checked.last_line.rfind("1 cases: 0 passed", 0), 0u) << checked.text;
+  EXPECT_EQ(checked.lastLine.rfind("1 cases: 0 passed", 0), 0u) << checked.text;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -135,7 +135,7 @@ void ExpectAllPassed(const Checked& checked, std::size_t items) {
   }
   EXPECT_EQ(opened, items) << checked.text;
   const std::string all = std::to_string(24 + 5 * items);
-  EXPECT_EQ(checked.last_line, all + " cases: " + all + " passed, 0 failed, 0 crashed, 0 hung, 0 skipped")
+  EXPECT_EQ(checked.lastLine, all + " cases: " + all + " passed, 0 failed, 0 crashed, 0 hung, 0 skipped")
       << checked.text;
 }
 
@@ -155,7 +155,7 @@ TEST(Check, SkipsWhatNeedsACaseThatFailed) {
   EXPECT_EQ(checked.cases.at("load").outcome, "failed");
   EXPECT_EQ(checked.cases.at("exports").seen, "it needs load");
   EXPECT_EQ(checked.cases.at("open-items").seen, "the menu has no item");
-  EXPECT_EQ(checked.last_line, "29 cases: 0 passed, 1 failed, 0 crashed, 0 hung, 28 skipped");
+  EXPECT_EQ(checked.lastLine, "29 cases: 0 passed, 1 failed, 0 crashed, 0 hung, 28 skipped");
 }
 
 TEST(Check, OpensNoItemOfAnEmptyMenu) {

@@ -63,10 +63,10 @@ TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
       "bill b "
       "JOIN enquiry e ON e.BILL = b.ID AND e.SYSTEM = 'ECDS' WHERE b.BILLSID <> '' AND b.QURYNUM <> '' GROUP "
       "BY b.ID");
-  const Fields by_id = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[2]}};
-  const Fields by_number = {{"QURYTYP", "2"}, {"BILLSID", ""}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
-  const Fields by_both = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
-  for (const Fields& fields : {by_id, by_number, by_both}) {
+  const Fields byId = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[2]}};
+  const Fields byNumber = {{"QURYTYP", "2"}, {"BILLSID", ""}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
+  const Fields byBoth = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
+  for (const Fields& fields : {byId, byNumber, byBoth}) {
     corvane::CorvaneStream answer = Ask("EBBADEHQ", fields);
     EXPECT_EQ(answer.getValue("BILLNUM"), bill[3]);
     EXPECT_EQ(answer.getValue("BILLTYP"), bill[4]);

@@ -113,7 +113,7 @@ class PlayerTest : public testing::Test {
         out);
     Player player(ParseScript(script), hand);
     player.SetPatience(150);
-    player.on_end = [&](ScriptEnd end, const QString& reason) {
+    player.onEnd = [&](ScriptEnd end, const QString& reason) {
       played.end = end;
       played.reason = reason;
       QCoreApplication::exit();

@@ -17,15 +17,15 @@ namespace {
 
 std::vector<std::string> Names(const std::vector<OpenForms::Form>& forms) {
   std::vector<std::string> names;
-  for (const OpenForms::Form& form : forms) names.push_back(form.class_name);
+  for (const OpenForms::Form& form : forms) names.push_back(form.className);
   return names;
 }
 
 // A visible window under a form's class name.
-std::unique_ptr<QWidget> ShownWindow(const char* class_name) {
+std::unique_ptr<QWidget> ShownWindow(const char* className) {
   auto window = std::make_unique<QWidget>();
-  window->setObjectName(class_name);
-  window->setWindowTitle(class_name);
+  window->setObjectName(className);
+  window->setWindowTitle(className);
   window->show();
   return window;
 }

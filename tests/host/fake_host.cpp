@@ -211,8 +211,8 @@ FakeHost::FakeHost() {
 }
 
 FakeHost::~FakeHost() {
-  for (const norvik_handle module : m_modules) norvik_module_close(module);
-  for (char* const buffer : m_live) std::free(buffer);
+  for (const norvik_handle module : modules_) norvik_module_close(module);
+  for (char* const buffer : live_) std::free(buffer);
   g_host = nullptr;
 }
 
@@ -227,8 +227,8 @@ norvik_handle FakeHost::Register(Library library, const std::set<std::uint32_t>&
       }
     }
   }
-  m_modules.push_back(norvik_module_register(table.data(), table.size()));
-  return m_modules.back();
+  modules_.push_back(norvik_module_register(table.data(), table.size()));
+  return modules_.back();
 }
 
 norvik_handle FakeHost::RegisterAll() {
@@ -239,12 +239,12 @@ norvik_handle FakeHost::RegisterAll() {
 }
 
 void FakeHost::SetAnswer(Library library, std::uint32_t ordinal, Answer answer) {
-  m_answers.insert_or_assign({library, ordinal}, std::move(answer));
+  answers_.insert_or_assign({library, ordinal}, std::move(answer));
 }
 
 void FakeHost::SetAnswer(Library library, std::uint32_t ordinal, std::vector<std::string> arguments,
                          Answer answer) {
-  m_answersByArguments.insert_or_assign({library, ordinal, std::move(arguments)}, std::move(answer));
+  answersByArguments_.insert_or_assign({library, ordinal, std::move(arguments)}, std::move(answer));
 }
 
 std::vector<Call> FakeHost::CallsOf(Library library, std::uint32_t ordinal) const {
@@ -269,11 +269,11 @@ void FakeHost::Note(const Call& call) {
 }
 
 std::uint32_t FakeHost::Reply(const Call& call, char** buffer, std::int32_t* length, char* error) {
-  const auto exact = m_answersByArguments.find({call.library, call.ordinal, call.arguments});
-  const auto general = m_answers.find({call.library, call.ordinal});
-  Answer answer = exact != m_answersByArguments.end() ? exact->second
-                  : general != m_answers.end()        ? general->second
-                                                      : Usual(call);
+  const auto exact = answersByArguments_.find({call.library, call.ordinal, call.arguments});
+  const auto general = answers_.find({call.library, call.ordinal});
+  Answer answer = exact != answersByArguments_.end() ? exact->second
+                  : general != answers_.end()        ? general->second
+                                                     : Usual(call);
   Note(call);
   if (onAnswer) onAnswer(call, answer);
   if (answer.throws) throw std::runtime_error("a host function that throws");
@@ -284,7 +284,7 @@ std::uint32_t FakeHost::Reply(const Call& call, char** buffer, std::int32_t* len
   if (buffer && !answer.noBuffer) {
     *buffer = static_cast<char*>(std::malloc(answer.text.size() + 1));
     std::memcpy(*buffer, answer.text.data(), answer.text.size());
-    m_live.insert(*buffer);
+    live_.insert(*buffer);
     ++given;
   }
   if (length) *length = answer.length.value_or(static_cast<std::int32_t>(answer.text.size()));
@@ -295,7 +295,7 @@ void FakeHost::Release(Library library, std::uint32_t ordinal, char* buffer) {
   Note({library, ordinal, {}});
   if (!buffer) {
     ++nullReleased;
-  } else if (m_live.erase(buffer) == 1) {
+  } else if (live_.erase(buffer) == 1) {
     std::free(buffer);
     ++released;
   } else {

@@ -89,10 +89,10 @@ class FakeHost {
   void Release(Library library, std::uint32_t ordinal, char* buffer);
 
  private:
-  std::vector<norvik_handle> m_modules;
-  std::map<std::pair<Library, std::uint32_t>, Answer> m_answers;
-  std::map<std::tuple<Library, std::uint32_t, std::vector<std::string>>, Answer> m_answersByArguments;
-  std::set<char*> m_live;
+  std::vector<norvik_handle> modules_;
+  std::map<std::pair<Library, std::uint32_t>, Answer> answers_;
+  std::map<std::tuple<Library, std::uint32_t, std::vector<std::string>>, Answer> answersByArguments_;
+  std::set<char*> live_;
 };
 
 }  // namespace fakehost

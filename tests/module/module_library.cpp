@@ -30,17 +30,17 @@ intptr_t WriteDown(void* context, uint32_t message, uintptr_t, intptr_t) {
 
 }  // namespace
 
-ModuleLibrary::ModuleLibrary(const char* path) : m_library(Load(path)) {
-  InitModule = Find<norvik_init_module>(m_library, "InitModule");
-  MenuConfig = Find<norvik_menu_config>(m_library, "MenuConfig");
-  FreeBuff = Find<norvik_free_buff>(m_library, "FreeBuff");
-  CallFunc = Find<norvik_call_func>(m_library, "CallFunc");
-  Release = Find<norvik_release>(m_library, "Release");
+ModuleLibrary::ModuleLibrary(const char* path) : library_(Load(path)) {
+  InitModule = Find<norvik_init_module>(library_, "InitModule");
+  MenuConfig = Find<norvik_menu_config>(library_, "MenuConfig");
+  FreeBuff = Find<norvik_free_buff>(library_, "FreeBuff");
+  CallFunc = Find<norvik_call_func>(library_, "CallFunc");
+  Release = Find<norvik_release>(library_, "Release");
 }
 
 ModuleLibrary::~ModuleLibrary() {
   Release();
-  dlclose(m_library);
+  dlclose(library_);
 }
 
 void ModuleLibrary::Pick(const std::string& item) const {
@@ -67,12 +67,12 @@ WindowedHost::~WindowedHost() {
 
 void WindowedHost::OpenMainWindow() {
   mainWindow = std::make_unique<QWidget>();
-  m_window = norvik_window_register(WriteDown, this, mainWindow.get());
-  handles["APPMAINFORMHANDLE"] = m_window;
+  window_ = norvik_window_register(WriteDown, this, mainWindow.get());
+  handles["APPMAINFORMHANDLE"] = window_;
 }
 
 void WindowedHost::CloseMainWindow() {
-  norvik_window_unregister(std::exchange(m_window, 0));
+  norvik_window_unregister(std::exchange(window_, 0));
   mainWindow.reset();
 }
 
@@ -116,12 +116,12 @@ QWidget* WindowOf(const std::string& name) {
 }
 
 DialogCloser::DialogCloser() {
-  m_timer.callOnTimeout([this] {
+  timer_.callOnTimeout([this] {
     QWidget* const dialog = QApplication::activeModalWidget();
     if (!dialog || dialog->objectName() == QLatin1String("TBarForm")) return;
     ++closed;
     if (const auto step = std::exchange(whenShown, nullptr)) step();
     dialog->close();
   });
-  m_timer.start(10);
+  timer_.start(10);
 }

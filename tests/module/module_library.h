@@ -33,7 +33,7 @@ class ModuleLibrary {
   norvik_release Release;
 
  private:
-  void* m_library;
+  void* library_;
 };
 
 /// A fake host with all libraries and a main window that writes down its messages.
@@ -56,7 +56,7 @@ class WindowedHost : public fakehost::FakeHost {
   std::function<void(std::uint32_t)> duringMessage;  // runs inside each message, once it is written down
 
  private:
-  norvik_handle m_window = 0;
+  norvik_handle window_ = 0;
 };
 
 /// A list whose first line names the columns.
@@ -74,5 +74,5 @@ class DialogCloser {
   std::function<void()> whenShown;  // runs once, before the first is closed
 
  private:
-  QTimer m_timer;
+  QTimer timer_;
 };

@@ -146,16 +146,16 @@ TEST(PeriodScreens, CaptionTheirConditions) {
         *loans.form,
         "=UI25828 m_lbLoanNo=UI44474 m_lbLoanType=UI44475 m_lbLoanResult=UI44476 m_lbStartDate=UI44477 "
         "m_lbEndDate=UI44478 Label1=* Label4=*");
-    EXPECT_EQ(loans.form->m_edNo->InputRule().max_length, 16);
-    EXPECT_EQ(loans.form->m_edLoanNo->InputRule().max_length, 18);
+    EXPECT_EQ(loans.form->m_edNo->InputRule().maxLength, 16);
+    EXPECT_EQ(loans.form->m_edLoanNo->InputRule().maxLength, 18);
   }
   Opened<TfrmNorvikDTLQry> events;
   ExpectCaptions(*events.form, shared);
   ExpectCaptions(*events.form,
                  "=UI25830 m_lbLoanType=UI44496 m_lbBillId=UI44006 m_lbFlowNo=UI44497 m_lbStartDate=UI44556 "
                  "m_lbEndDate=UI44557 m_lbeee=*");
-  EXPECT_EQ(events.form->m_edBillId->InputRule().max_length, 20);
-  EXPECT_EQ(events.form->m_edFlowNo->InputRule().max_length, 18);
+  EXPECT_EQ(events.form->m_edBillId->InputRule().maxLength, 20);
+  EXPECT_EQ(events.form->m_edFlowNo->InputRule().maxLength, 18);
 }
 
 TEST(PeriodScreens, DecodeTheirColumnsAndNameTheirExports) {

@@ -140,9 +140,9 @@ TEST(Animate, PlaysAFileAndFallsBackToTheBuiltInOne) {
   auto* animate = NewComponent<TAnimate>(form, "m_amtmain");
   animate->SetCommonAVI(aviCopyFiles);
   animate->SetFileName(FromQt(folder.filePath("PROCESS.AVI")));
-  const std::vector<QImage> built_in = animate->Frames({120, 40});
-  ASSERT_GT(built_in.size(), 8U);
-  EXPECT_NE(built_in[0], built_in[built_in.size() / 2]);
+  const std::vector<QImage> builtIn = animate->Frames({120, 40});
+  ASSERT_GT(builtIn.size(), 8U);
+  EXPECT_NE(builtIn[0], builtIn[builtIn.size() / 2]);
   QImage frame(30, 20, QImage::Format_RGB32);
   frame.fill(Qt::red);
   ASSERT_TRUE(frame.save(folder.filePath("PROCESS.AVI"), "PNG"));

@@ -161,14 +161,14 @@ TEST_F(KvxListTest, TheUserTicksByMouseAndSpace) {
   list->OnItemCheck = [&](TObject*, TListItem* item) {
     checked += item->Caption() + (item->Checked() ? "+" : "-");
   };
-  bool up_saw_tick = false;
+  bool upSawTick = false;
   list->OnMouseUp = [&](TObject*, TMouseButton, TShiftState, int x, int y) {
     TListItem* item = list->GetItemAt(x, y);
-    up_saw_tick = item != nullptr && item->Checked();
+    upSawTick = item != nullptr && item->Checked();
   };
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Box(1));
   EXPECT_EQ(checked, "B1+");
-  EXPECT_TRUE(up_saw_tick);
+  EXPECT_TRUE(upSawTick);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Text(1, 1));
   EXPECT_EQ(checked, "B1+") << "a click beside the box ticks nothing";
   QTest::keyClick(view, Qt::Key_Space);

@@ -105,20 +105,20 @@ void FailingHost::ResetLayouts() {
                                  {"PAYAMT", "91", "T44344", "0"},
                                  {"BILLNUM", "92", "T44008", "1"},
                                  {"AGTSTAT", "0", "T44005", "2"}}));
-  for (const char* form : kForms) m_layouts.setSection(form, layout);
+  for (const char* form : kForms) layouts_.setSection(form, layout);
 }
 
 std::map<std::string, std::string> FailingHost::Layouts() {
   std::map<std::string, std::string> texts;
-  for (const char* form : kForms) texts[form] = m_layouts.getSection(form).toString();
+  for (const char* form : kForms) texts[form] = layouts_.getSection(form).toString();
   return texts;
 }
 
 void FailingHost::Begin(std::size_t failingCall, Extent extent, const Fault* fault) {
-  m_failingCall = failingCall;
-  m_extent = extent;
-  m_fault = fault;
-  m_exchanges = 0;
+  failingCall_ = failingCall;
+  extent_ = extent;
+  fault_ = fault;
+  exchanges_ = 0;
   bank = 'a';
   failable.clear();
   whole.clear();
@@ -134,24 +134,24 @@ void FailingHost::Change(const fakehost::Call& call, Answer& answer) {
   failable.push_back(kind);
   const std::size_t index = failable.size() - 1;
   const bool after =
-      m_extent == Extent::kOnward || (m_extent == Extent::kReported && call.library != Library::kError);
-  if (!m_fault || index < m_failingCall || (index > m_failingCall && !after)) return;
+      extent_ == Extent::kOnward || (extent_ == Extent::kReported && call.library != Library::kError);
+  if (!fault_ || index < failingCall_ || (index > failingCall_ && !after)) return;
   if (failed.empty()) failed = std::to_string(call.ordinal) + Joined(call.arguments).substr(0, 60);
   // What can't fail in this way fails in the first that it can.
   const auto fault = std::find_if(kFaults.begin(), kFaults.end(), [&](const Fault& other) {
-    return (&other == m_fault || (m_fault->functions & kind) == 0) && (other.functions & kind) != 0;
+    return (&other == fault_ || (fault_->functions & kind) == 0) && (other.functions & kind) != 0;
   });
   fault->apply(answer);
   const bool converted = call.library == Library::kTranslate && call.ordinal == 6;
-  if (call.library == Library::kSafeCom || (converted && call.arguments[1] == "1")) whole.erase(m_exchanges);
+  if (call.library == Library::kSafeCom || (converted && call.arguments[1] == "1")) whole.erase(exchanges_);
 }
 
 void FailingHost::Serve(const fakehost::Call& call, Answer& answer) {
   const std::vector<std::string>& told = call.arguments;
   const bool layout = call.library == kPub && !told.empty() && told[0] == "COLUMN_INFO";
-  if (layout && call.ordinal == 80) m_layouts = corvane::Iniplus(told[1]);
-  if (layout && call.ordinal == 82) answer.text = m_layouts.toString();
-  if (layout && call.ordinal == 90) answer.text = m_layouts.getSection(told[1]).toString();
+  if (layout && call.ordinal == 80) layouts_ = corvane::Iniplus(told[1]);
+  if (layout && call.ordinal == 82) answer.text = layouts_.toString();
+  if (layout && call.ordinal == 90) answer.text = layouts_.getSection(told[1]).toString();
   // Only a key has a text, so that nothing is translated twice.
   if (call.library == Library::kTranslate && call.ordinal == 4) {
     answer.text = told[1].starts_with("UI") ? "T" + told[1].substr(2) : "";
@@ -162,7 +162,7 @@ void FailingHost::Serve(const fakehost::Call& call, Answer& answer) {
   }
   if (!exchange) return;
   const char now = std::exchange(bank, 'a');
-  ++m_exchanges;
-  answer = now == 'r' ? fakehost::Refusal("BK1") : Text(Bills(m_exchanges, now == 'a'));
-  if (now == 'a') whole.insert(m_exchanges);
+  ++exchanges_;
+  answer = now == 'r' ? fakehost::Refusal("BK1") : Text(Bills(exchanges_, now == 'a'));
+  if (now == 'a') whole.insert(exchanges_);
 }

@@ -43,9 +43,9 @@ class FailingHost : public WindowedHost {
   void Serve(const fakehost::Call& call, fakehost::Answer& answer);
   void Change(const fakehost::Call& call, fakehost::Answer& answer);
 
-  corvane::Iniplus m_layouts;
-  std::size_t m_failingCall = 0;
-  Extent m_extent = Extent::kOnce;
-  const Fault* m_fault = nullptr;
-  int m_exchanges = 0;
+  corvane::Iniplus layouts_;
+  std::size_t failingCall_ = 0;
+  Extent extent_ = Extent::kOnce;
+  const Fault* fault_ = nullptr;
+  int exchanges_ = 0;
 };

@@ -37,7 +37,7 @@ struct Range {
 };
 
 struct Library {
-  const char* handle_key;  // null: public information
+  const char* handleKey;  // null: public information
   const char* key;
   std::vector<Range> ordinals;
 };
@@ -166,10 +166,10 @@ const char* MenuText() {
 }
 
 void OpenItem(Item& item) {
-  const bool opened_before = item.window != nullptr;
-  if (Has("second_window") && opened_before) (new Screen(item.screen))->Open();
-  if (Has("replaced_window") && opened_before) delete std::exchange(item.window, nullptr);
-  if (Has("no_reopening") && opened_before) return;
+  const bool openedBefore = item.window != nullptr;
+  if (Has("second_window") && openedBefore) (new Screen(item.screen))->Open();
+  if (Has("replaced_window") && openedBefore) delete std::exchange(item.window, nullptr);
+  if (Has("no_reopening") && openedBefore) return;
   if (Has("modal_message")) QMessageBox::warning(nullptr, "NorvikQry", "no columns");
   if (item.window == nullptr) item.window = new Screen(item.screen);
   item.window->Open();
@@ -211,8 +211,8 @@ MODULE_EXPORT std::uint32_t InitModule(norvik_handle public_information) {
   if (Has("leaves_window_of_failed_start") && public_information == 0) new QWidget;
   Bind(Libraries()[0], public_information);
   for (const Library& library : Libraries()) {
-    if (library.handle_key == nullptr) continue;
-    const norvik_handle handle = HandleOf(library.handle_key);
+    if (library.handleKey == nullptr) continue;
+    const norvik_handle handle = HandleOf(library.handleKey);
     if (life != g_life) throw corvane::TException("CF30007");
     Bind(library, handle);
   }
