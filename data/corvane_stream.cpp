@@ -122,4 +122,9 @@ List& CorvaneStream::getList(std::string_view name) {
   return found == lists_.end() ? emptyList_ : found->second;
 }
 
+const List& CorvaneStream::getList(std::string_view name) const {
+  const auto found = lists_.find(name);
+  return found == lists_.end() ? emptyList_ : found->second;
+}
+
 }  // namespace corvane

@@ -70,6 +70,7 @@ class CorvaneStream : public Element {
   // The list of that name. For a missing one an empty list, the same for every missing name, which is not to
   // be filled.
   List& getList(std::string_view name);
+  const List& getList(std::string_view name) const;
   MapList::iterator listsBegin() { return lists_.begin(); }
   MapList::iterator listsEnd() { return lists_.end(); }
   MapList::const_iterator listsBegin() const { return lists_.begin(); }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "data/corvane.h"
@@ -87,7 +88,7 @@ TEST(CorvaneStream, TakesRootAndEncoding) {
 TEST(CorvaneStream, LooksWithoutAdding) {
   CorvaneStream stream;
   EXPECT_EQ(stream.getValue("A"), "");
-  EXPECT_EQ(stream.getList("none").size(), 0U);
+  EXPECT_EQ(stream.getList("none").size() + std::as_const(stream).getList("none").size(), 0U);
   EXPECT_EQ(stream.toString(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream/>");
   EXPECT_EQ(stream.getField("A").getName(), "");
   EXPECT_EQ(stream.getFields().size(), 1U);
@@ -115,6 +116,7 @@ TEST(CorvaneStream, MarksWhatIsAdded) {
             "b=\"2\"><A>1</A>"
             "</row></list></stream>");
   list.clear();
+  EXPECT_EQ(&std::as_const(stream).getList("L"), &stream.getList("L"));
   EXPECT_EQ(stream.getList("L").size(), 1U);
   list.setAttribute("name", "M");
   list.addRow(Row());
