@@ -83,7 +83,7 @@ void CMInterface::AddListColumn(TKVXListView* listView, corvane::Row& fieldDef, 
   column->SetTag(norvik::ColumnTag(fieldDef["COLFMT"]));
 }
 
-void CMInterface::ApplyResultList(corvane::CorvaneStream& answer, const std::string& listName,
+void CMInterface::ApplyResultList(const corvane::CorvaneStream& answer, const std::string& listName,
                                   TKVXListView* listView) {
   m_resultFlags.clear();
   for (const corvane::Row& row : answer.getList(listName)) {

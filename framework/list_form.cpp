@@ -117,7 +117,7 @@ bool TListForm::TickAll() {
   return all;
 }
 
-void TListForm::ProcessResult(corvane::CorvaneStream& answer) {
+void TListForm::ProcessResult(const corvane::CorvaneStream& answer) {
   Business().ApplyResultList(answer, "resultList", m_lvMain);
   Business().RemoveCompletedItems(m_lvMain);
 }

@@ -43,7 +43,7 @@ class TListForm : public TBaseForm {
   // change of a check box and batch action.
   void m_lvMainClick(TObject* sender) override;
   // Marks the records that the answer to a batch action refused, and takes away those that were carried out.
-  virtual void ProcessResult(corvane::CorvaneStream& answer);
+  virtual void ProcessResult(const corvane::CorvaneStream& answer);
 
   // The first show makes the owner of the columns, which gives them the user's widths; each later one builds
   // missing columns. A layout document that can't be read goes up; the next use of the columns tries again.

@@ -51,7 +51,7 @@ class BusyEnd {
 
 }  // namespace
 
-void CMInterface::ShowResultTotals(corvane::CorvaneStream& answer) {
+void CMInterface::ShowResultTotals(const corvane::CorvaneStream& answer) {
   constexpr const char* kLines[][2] = {{"UI51028", "SUCTOTALNUM"},
                                        {"UI51029", "SUCTOTALMONEY"},
                                        {"UI51030", "ERRTOTALNUM"},

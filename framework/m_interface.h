@@ -25,7 +25,7 @@ class CMInterface {
   virtual bool ReservedCheck3() = 0;
 
   // Shows in one warning how many records of a batch went through and how many failed, with their amounts.
-  virtual void ShowResultTotals(corvane::CorvaneStream& answer);
+  virtual void ShowResultTotals(const corvane::CorvaneStream& answer);
 
   // Sends `request` under the transaction code `code`, with the busy form over `owner` meanwhile. True:
   // `answer` holds the bank's answer. False: the failure has been reported and `answer` is empty. The call
@@ -77,7 +77,8 @@ class CMInterface {
 
   // Marks the items that the answer's list names as refused: reason and colour. A row whose ID is no item is
   // skipped. No item is selected afterwards.
-  void ApplyResultList(corvane::CorvaneStream& answer, const std::string& listName, TKVXListView* listView);
+  void ApplyResultList(const corvane::CorvaneStream& answer, const std::string& listName,
+                       TKVXListView* listView);
 
   // Takes away the ticked items that the last ApplyResultList did not name: they were carried out.
   void RemoveCompletedItems(TKVXListView* listView);

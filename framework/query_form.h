@@ -151,8 +151,8 @@ class TQueryForm : public TListForm {
                 corvane::CorvaneStream& answer);
   // The ticked records in a state, as the rows that ask about them.
   void AddRowsInState(corvane::CorvaneStream& request, const char* stateKey);
-  void TakeStates(corvane::CorvaneStream& answer);
-  void TakeReasons(corvane::CorvaneStream& answer);
+  void TakeStates(const corvane::CorvaneStream& answer);
+  void TakeReasons(const corvane::CorvaneStream& answer);
   // The ticked records' sum of the face amounts, or of the business amounts, with two decimals.
   std::string CheckedTotal();
 

@@ -53,7 +53,7 @@ void TQueryForm::m_actSynStateExecute(TObject* sender) {
   UpdateDeleteState();
 }
 
-void TQueryForm::TakeStates(corvane::CorvaneStream& answer) {
+void TQueryForm::TakeStates(const corvane::CorvaneStream& answer) {
   corvane::List rows = answer.getList(kResultList);
   m_pIntf->FormatStatus(rows, kTextOfState7);
   for (const corvane::Row& row : rows) {
@@ -74,7 +74,7 @@ void TQueryForm::m_actReasonExecute(TObject*) {
   if (TListItem* selected = m_lvMain->Selected()) m_lvMainSelectItem(m_lvMain, selected, true);
 }
 
-void TQueryForm::TakeReasons(corvane::CorvaneStream& answer) {
+void TQueryForm::TakeReasons(const corvane::CorvaneStream& answer) {
   for (const corvane::Row& row : answer.getList(kResultList)) {
     const TListItem* item = norvik::ItemNamed(m_lvMain, row.getValue("RECORDID"));
     if (item == nullptr) continue;

@@ -191,7 +191,7 @@ void TCustodyQueryForm::m_cbxAccChange(TObject*) {
   ShowInstitutions(institutions);
 }
 
-void TCustodyQueryForm::ShowInstitutions(corvane::List& institutions) {
+void TCustodyQueryForm::ShowInstitutions(const corvane::List& institutions) {
   std::vector<std::string> numbers;
   std::vector<std::string> entries;
   for (const corvane::Row& row : institutions) {

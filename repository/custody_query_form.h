@@ -130,7 +130,7 @@ class TCustodyQueryForm : public TQueryForm {
   void FollowTicks();
   void ShowOfferedActions();
   void AddAccounts(corvane::CorvaneStream& stream);
-  void ShowInstitutions(corvane::List& institutions);
+  void ShowInstitutions(const corvane::List& institutions);
 
   norvik::ConditionTable conditions_;
   bool accountsKnown_ = false;  // the last LoadAccounts did not fail
