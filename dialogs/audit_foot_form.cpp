@@ -3,12 +3,14 @@
 #include <utility>
 
 #include "data/character_steps.h"
+#include "dialogs/audit_foot.h"
 #include "dialogs/font_fit.h"
 #include "dialogs/memo_break.h"
 #include "dialogs/messages.h"
 #include "dialogs/view_bsn_flow.h"
-#include "framework/m_query_intf.h"
+#include "framework/business/m_query_intf.h"
 #include "host/pub_info.h"
+#include "toolkit/application.h"
 #include "toolkit/conversion.h"
 #include "toolkit/layout.h"
 
@@ -18,7 +20,7 @@ constexpr int kWidth = 860;
 constexpr int kHeight = 520;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
-constexpr int kRowGap = 4;  // so that the form fits a low screen with a large font
+constexpr int kRowGap = 4;                   // so that the form fits a low screen with a large font
 constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
 constexpr int kPurposeCharacters = 39;       // full-width ones in a line, 78 bytes
 constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
@@ -203,5 +205,11 @@ void TfrmEBillAuditFoot::ShowFlow() {
     return;
   }
   const TFormPointer<TfrmViewBsnFlow> form(CreateForm<TfrmViewBsnFlow>(this, answer));
+  form->ShowModal();
+}
+
+void ShowAuditFoot(corvane::Row record, corvane::List auditList) {
+  const TFormPointer<TfrmEBillAuditFoot> form(
+      CreateForm<TfrmEBillAuditFoot>(Application, std::move(record), std::move(auditList)));
   form->ShowModal();
 }

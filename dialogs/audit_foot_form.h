@@ -2,7 +2,7 @@
 #pragma once
 
 #include "data/corvane.h"
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
 #include "toolkit/labels.h"
 #include "toolkit/list_view.h"

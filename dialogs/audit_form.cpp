@@ -1,5 +1,7 @@
 #include "dialogs/audit_form.h"
 
+#include "dialogs/audit.h"
+#include "dialogs/form_owner.h"
 #include "dialogs/messages.h"
 #include "toolkit/layout.h"
 #include "toolkit/text.h"
@@ -75,4 +77,13 @@ void TfrmAudit::m_btnOkClick(TObject*) {
 void TfrmAudit::m_btnCancelClick(TObject*) {
   SetTag(0);
   Close();
+}
+
+bool ShowAuditDlg(bool& agree, std::string& opinion, TForm* owner) {
+  const TFormPointer<TfrmAudit> form(CreateForm<TfrmAudit>(OwnerOf(owner)));
+  form->ShowModal();
+  if (form->Tag() != TfrmAudit::kConfirmed) return false;
+  agree = form->m_rdgAudit->ItemIndex() == TfrmAudit::kAgree;
+  opinion = form->m_memInfo->Text();
+  return true;
 }

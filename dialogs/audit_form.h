@@ -1,7 +1,7 @@
 // The form behind ShowAuditDlg.
 #pragma once
 
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
 #include "toolkit/edits.h"
 #include "toolkit/labels.h"

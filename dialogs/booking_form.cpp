@@ -1,8 +1,10 @@
 #include "dialogs/booking_form.h"
 
+#include "dialogs/booking.h"
+#include "dialogs/form_owner.h"
 #include "dialogs/messages.h"
 #include "dialogs/validators.h"
-#include "framework/date_range.h"
+#include "framework/rules/date_range.h"
 #include "toolkit/layout.h"
 
 namespace {
@@ -132,4 +134,13 @@ void TfrmBookingProc::m_btnOkClick(TObject*) {
 void TfrmBookingProc::m_btnCancelClick(TObject*) {
   SetTag(0);
   Close();
+}
+
+bool ShowBookingDlg(TForm* owner, bool startToday, bool& scheduled, std::string& date) {
+  const TFormPointer<TfrmBookingProc> form(CreateForm<TfrmBookingProc>(OwnerOf(owner), startToday));
+  form->ShowModal();
+  if (form->Tag() != TfrmBookingProc::kConfirmed) return false;
+  scheduled = form->m_grpPreFlg->ItemIndex() == TfrmBookingProc::kScheduled;
+  date = scheduled ? form->m_edtPreFlgDate->Text() : std::string();
+  return true;
 }

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/base_form.h"
-#include "framework/query_common.h"
+#include "framework/base/base_form.h"
+#include "framework/business/query_common.h"
 #include "toolkit/buttons.h"
 #include "toolkit/date_edit.h"
 #include "toolkit/labels.h"

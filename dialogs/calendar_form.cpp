@@ -2,7 +2,10 @@
 
 #include <QLocale>
 
+#include "dialogs/date_calendar.h"
 #include "dialogs/validators.h"
+#include "toolkit/application.h"
+#include "toolkit/conversion.h"
 #include "toolkit/layout.h"
 
 namespace {
@@ -17,6 +20,11 @@ QLocale LocaleOf(std::uint8_t charset) {
   if (charset == kSimplifiedChinese) return QLocale(QLocale::Chinese, QLocale::China);
   return charset == kTraditionalChinese ? QLocale(QLocale::Chinese, QLocale::Taiwan)
                                         : QLocale(QLocale::English);
+}
+
+const char* PatternOf(TKVXDateType type) {
+  if (type == dtDate) return "yyyymmdd";
+  return type == dtTime ? "hhnnss" : "yyyymmddhhnnss";
 }
 
 }  // namespace
@@ -184,4 +192,10 @@ void TDateCalendar::m_btncancelClick(TObject*) {
   m_time->SetEnabled(false);
   SetTag(0);
   Close();
+}
+
+std::string PickDateTime(const std::string& text, TKVXDateType type) {
+  const TFormPointer<TDateCalendar> form(CreateForm<TDateCalendar>(Application, text, type));
+  form->ShowModal();
+  return form->Tag() == TDateCalendar::kConfirmed ? FormatDateTime(PatternOf(type), form->m_dateTime) : text;
 }

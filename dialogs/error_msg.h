@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
 #include "toolkit/edits.h"
 #include "toolkit/labels.h"

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "dialogs/messages.h"
+#include "dialogs/statistics.h"
 #include "dialogs/validators.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
@@ -176,4 +177,10 @@ void TfrmStatistics::Fill(TListView* table) const {
       item->AddSubItem(FormatAmount((sum == totals.sums.end() ? TDecimal() : sum->second).ToFixed(2)));
     }
   }
+}
+
+void ShowStatistics(TForm* owner, TKVXListView* listView, const std::string& caption,
+                    const corvane::StringVector& columns) {
+  const TFormPointer<TfrmStatistics> form(CreateForm<TfrmStatistics>(owner));
+  if (form->Prepare(owner, listView, columns, caption)) form->ShowModal();
 }

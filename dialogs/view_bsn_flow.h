@@ -6,7 +6,7 @@
 #include <string>
 
 #include "data/corvane.h"
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
 #include "toolkit/panels.h"
 #include "toolkit/tree_view.h"

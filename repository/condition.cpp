@@ -1,7 +1,7 @@
 #include "repository/condition.h"
 
-#include "framework/base_form.h"
-#include "framework/query_common.h"
+#include "framework/base/base_form.h"
+#include "framework/business/query_common.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/date_edit.h"
 #include "toolkit/labels.h"

@@ -1,8 +1,8 @@
 #include "repository/condition_checks.h"
 
 #include "dialogs/validators.h"
-#include "framework/amount_text.h"
-#include "framework/date_range.h"
+#include "framework/rules/amount_text.h"
+#include "framework/rules/date_range.h"
 #include "toolkit/decimal.h"
 
 namespace norvik {

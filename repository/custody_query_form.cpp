@@ -4,7 +4,7 @@
 
 #include "dialogs/bank_info.h"
 #include "dialogs/messages.h"
-#include "framework/action_off.h"
+#include "framework/base/kept_focus.h"
 #include "host/translate.h"
 #include "repository/record_info_form.h"
 #include "toolkit/action.h"

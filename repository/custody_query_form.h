@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "framework/query_common.h"
-#include "framework/query_form.h"
+#include "framework/business/query_common.h"
+#include "framework/frames/query_form.h"
 #include "repository/condition.h"
 #include "repository/condition_checks.h"
 

@@ -8,8 +8,8 @@
 #include <span>
 #include <vector>
 
-#include "framework/detail_common.h"
-#include "framework/detail_form.h"
+#include "framework/business/m_detail_intf.h"
+#include "framework/frames/detail_form.h"
 #include "repository/caption_value.h"
 
 class TbsSkinPanel;
@@ -69,4 +69,28 @@ class TEnquiryForm : public TDetailForm {
   std::vector<norvik::CaptionValue> head_;  // as the rows of the profile
   std::unique_ptr<CDetailCommon> m_pCommon;
   corvane::Row m_record;
+};
+
+/// The enquiries and replies on a bill in ECDS.
+class TfrmECDSHistoryDtl : public TEnquiryForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmECDSHistoryDtl(TComponent* owner) : TEnquiryForm(owner, norvik::kHistoryProfile) {}
+};
+
+/// The registrations of a bill in ECDS.
+class TfrmECDSignDtl : public TEnquiryForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmECDSignDtl(TComponent* owner) : TEnquiryForm(owner, norvik::kSignProfile) {}
+};
+
+/// The result of the large-value enquiry on a bill.
+class TfrmBigResultDtl : public TEnquiryForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmBigResultDtl(TComponent* owner) : TEnquiryForm(owner, norvik::kBigResultProfile) {}
 };

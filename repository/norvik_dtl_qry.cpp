@@ -1,6 +1,6 @@
 #include "repository/norvik_dtl_qry.h"
 
-#include "repository/detail_qry_info.h"
+#include "repository/record_info_form.h"
 #include "toolkit/combo_box.h"
 
 using norvik::Condition;

@@ -4,14 +4,21 @@
 #include <array>
 
 #include "dialogs/messages.h"
+#include "framework/base/kept_focus.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
-#include "repository/qry_info.h"
+#include "repository/enquiry_form.h"
+#include "repository/record_info_form.h"
 #include "toolkit/action.h"
 #include "toolkit/buttons.h"
 #include "toolkit/date_edit.h"
 #include "toolkit/list_box.h"
+#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
+
+using norvik::Condition;
+using norvik::ConditionPanel;
+using norvik::Emptied;
 
 namespace {
 
@@ -30,6 +37,16 @@ constexpr norvik::DateRangeRule kDueDates = {.startMissing = "UI44869",
                                              .endMalformed = "UI44827",
                                              .reversed = "UI44559",
                                              .tooLong = nullptr};
+
+constexpr const char* kBillId = "BILLSID";
+constexpr const char* kAccount = "CUSTACC";
+constexpr const char* kAnswerList = "resultList";
+constexpr norvik::CodedColumn kRegistrationType = {"INFOTYP", "SIGNINFOTYPE"};
+
+template <class Dialog>
+TEnquiryForm* NewDialog(TComponent* owner) {
+  return CreateForm<Dialog>(owner);
+}
 
 }  // namespace
 
@@ -119,4 +136,169 @@ bool TfrmNorvikQry::CheckAmountRange(TKVXEdit* minEdit, TKVXEdit* maxEdit) {
 
 TRecordInfoForm* TfrmNorvikQry::NewRecordView() {
   return CreateForm<TfrmQryInfo>(this);
+}
+
+// What the enquiries differ in.
+struct TfrmNorvikQry::Enquiry {
+  const char* transaction;
+  const char* numberField;  // sent beside the bill's id and account
+  bool byNumber;            // the number does where the bill has no id
+  const char* missingKey;   // told for a bill without what the enquiry goes by
+  const norvik::CodedColumn* coded;
+  TEnquiryForm* (*newDialog)(TComponent* owner);
+};
+
+void TfrmNorvikQry::m_actECDSHistoryInfoExecute(TObject*) {
+  Enquire({"EBBADEHQ", "QURYNUM", true, "UI44810", nullptr, &NewDialog<TfrmECDSHistoryDtl>});
+}
+
+void TfrmNorvikQry::m_actECDSSignInfoExecute(TObject*) {
+  Enquire({"EBBADERQ", "QURYNUM", true, "UI44810", &kRegistrationType, &NewDialog<TfrmECDSignDtl>});
+}
+
+void TfrmNorvikQry::m_actBigResultExecute(TObject*) {
+  Enquire({"EBBADHHQ", "BILLNUM", false, "UI44418", nullptr, &NewDialog<TfrmBigResultDtl>});
+}
+
+void TfrmNorvikQry::EnableRowActions(bool on) {
+  for (TAction* action : {m_actECDSSignInfo, m_actECDSHistoryInfo, m_actBigResult}) action->SetEnabled(on);
+}
+
+void TfrmNorvikQry::Enquire(const Enquiry& enquiry) {
+  corvane::Row fields;
+  for (const char* field : {kBillId, kAccount, enquiry.numberField}) {
+    fields[field] = m_selectedRow.getValue(field);
+  }
+  const bool identified = !fields.getValue(kBillId).empty();
+  if (!identified && !(enquiry.byNumber && !fields.getValue(enquiry.numberField).empty())) {
+    Refuse(enquiry.missingKey);
+    return;
+  }
+  if (enquiry.byNumber) fields["QURYTYP"] = identified ? "1" : "2";
+  const KeptFocus focus(this);
+  try {
+    ShowAnswer(enquiry, fields);
+  } catch (...) {
+    m_lvMainClick(this);
+    throw;
+  }
+  m_lvMainClick(this);
+}
+
+void TfrmNorvikQry::ShowAnswer(const Enquiry& enquiry, const corvane::Row& fields) {
+  const TFormPointer<TEnquiryForm> dialog(enquiry.newDialog(this));
+  corvane::CorvaneStream request;
+  corvane::CorvaneStream answer;
+  request.addFields(fields);
+  EnableRowActions(false);
+  if (!m_pCommon->SendRequest(enquiry.transaction, request, answer, this)) return;
+  dialog->SetRecord(answer.getFieldsRow());
+  corvane::List& rows = answer.getList(kAnswerList);
+  if (rows.size() > 0) {
+    if (enquiry.coded != nullptr) {
+      m_pCommon->DecodeDictColumn(rows, enquiry.coded->field, enquiry.coded->dictionary);
+    }
+    m_pCommon->FillListView(dialog->m_lvMain, rows);
+  }
+  dialog->ShowModal();
+}
+
+std::vector<Condition> TfrmNorvikQry::Conditions() {
+  return {
+      AccountCondition({0, 0}, "m_lbStarlAgentAcc"),
+      InstitutionCondition({0, 1}, "Label1"),
+      {.control = &m_edBatNo,
+       .name = "m_edBatNo",
+       .labelName = "m_lbBatNo",
+       .captionKey = "UI44004",
+       .designCaption = "存票批次号",
+       .cell = {1, 0},
+       .input = norvik::TextInput(20),
+       .emptied = Emptied::kAtClose,
+       .field = "BATCHNO",
+       .trimmed = true},
+      {.control = &m_lbxAgentStt,
+       .name = "m_lbxAgentStt",
+       .labelName = "m_lbSTT",
+       .captionKey = "UI44005",
+       .designCaption = "代保管状态",
+       .starName = "Label2",
+       .cell = {0, 2, 3},
+       .field = "AGTSTAT"},
+      {.control = &m_edBillId,
+       .name = "m_edBillId",
+       .labelName = "m_lbBillId",
+       .captionKey = "UI44006",
+       .designCaption = "票据ID",
+       .cell = {1, 1},
+       .input = norvik::DigitsInput(8),
+       .field = "BILLSID"},
+      BillNumberCondition({2, 0}, true),
+      BillTypeCondition({2, 1}, "Label3"),
+      {.control = &m_dtStorageStartDate,
+       .name = "m_dtStorageStartDate",
+       .labelName = "m_lbStorageStartDate",
+       .captionKey = "UI44010",
+       .designCaption = "起始存票日期",
+       .cell = {3, 0},
+       .emptied = Emptied::kAtShow,
+       .field = "SAVEDTS"},
+      {.control = &m_dtStorageEndDate,
+       .name = "m_dtStorageEndDate",
+       .labelName = "m_lbStorageEndDate",
+       .captionKey = "UI44011",
+       .designCaption = "截止存票日期",
+       .cell = {3, 1},
+       .emptied = Emptied::kAtShow,
+       .field = "SAVEDTE"},
+      {.control = &m_edBackName,
+       .name = "m_edBackName",
+       .labelName = "m_lbBackName",
+       .captionKey = "UI44304",
+       .designCaption = "托管人前手背书人名称",
+       .cell = {3, 2},
+       .input = norvik::TextInput(60),
+       .emptied = Emptied::kAtClose,
+       .field = "PTENDNM",
+       .trimmed = true},
+      BankRemarkCondition({4, 0}),
+      {.control = &m_dtDeadStartDate,
+       .name = "m_dtDeadStartDate",
+       .labelName = "m_lbDeadStartDate",
+       .captionKey = "UI44302",
+       .designCaption = "起始到期日",
+       .panel = ConditionPanel::kAdvance,
+       .cell = {0, 0},
+       .emptied = Emptied::kAtShow,
+       .field = "DUEDATS"},
+      {.control = &m_dtDeadEndDate,
+       .name = "m_dtDeadEndDate",
+       .labelName = "m_lbDeadEndDate",
+       .captionKey = "UI44303",
+       .designCaption = "截止到期日",
+       .panel = ConditionPanel::kAdvance,
+       .cell = {0, 1},
+       .emptied = Emptied::kAtShow,
+       .field = "DUEDATE"},
+      {.control = &m_edMinAmount,
+       .name = "m_edMinAmount",
+       .labelName = "m_lbMinAmount",
+       .captionKey = "UI44498",
+       .designCaption = "起始票面金额",
+       .panel = ConditionPanel::kAdvance,
+       .cell = {0, 2},
+       .input = norvik::kAmountInput,
+       .emptied = Emptied::kAtShow,
+       .field = "AMTBEGN"},
+      {.control = &m_edMaxAmount,
+       .name = "m_edMaxAmount",
+       .labelName = "m_lbMaxAmount",
+       .captionKey = "UI44499",
+       .designCaption = "截止票面金额",
+       .panel = ConditionPanel::kAdvance,
+       .cell = {1, 0},
+       .input = norvik::kAmountInput,
+       .emptied = Emptied::kAtShow,
+       .field = "AMTENDS"},
+  };
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "data/corvane.h"
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 #include "repository/record_rows.h"
 
 class TLabel;
@@ -57,4 +57,28 @@ class TRecordInfoForm : public TBaseForm {
   std::vector<ShownRow> rows_;
   std::vector<TbsSkinExPanel*> rollUps_;
   corvane::Property m_record;
+};
+
+/// The record of a bill in custody.
+class TfrmQryInfo : public TRecordInfoForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmQryInfo(TComponent* owner) : TRecordInfoForm(owner, norvik::BillRecord()) {}
+};
+
+/// The record of an application.
+class TfrmAppQryInfo : public TRecordInfoForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmAppQryInfo(TComponent* owner) : TRecordInfoForm(owner, norvik::ApplicationRecord()) {}
+};
+
+/// The record of a business event.
+class TfrmDetailQryInfo : public TRecordInfoForm {
+  Q_OBJECT
+
+ public:
+  explicit TfrmDetailQryInfo(TComponent* owner) : TRecordInfoForm(owner, norvik::EventRecord()) {}
 };

@@ -3,9 +3,9 @@
 
 #include "dialogs/audit_form.h"
 #include "dialogs/com_msg.h"
-#include "framework/audit_verdict.h"
-#include "framework/m_detail_intf.h"
-#include "framework/m_query_intf.h"
+#include "framework/business/audit_verdict.h"
+#include "framework/business/m_detail_intf.h"
+#include "framework/business/m_query_intf.h"
 #include "tests/data/keys.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"

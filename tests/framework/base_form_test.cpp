@@ -1,4 +1,4 @@
-#include "framework/base_form.h"
+#include "framework/base/base_form.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "dialogs/audit_form.h"
 #include "dialogs/booking_form.h"
 #include "dialogs/com_msg.h"
-#include "framework/batch_values.h"
+#include "framework/business/batch_rows.h"
 #include "tests/framework/payment_screen.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"

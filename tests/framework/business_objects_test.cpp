@@ -5,7 +5,7 @@
 
 #include "dialogs/busy_form.h"
 #include "dialogs/error_msg.h"
-#include "framework/query_common.h"
+#include "framework/business/query_common.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"

@@ -7,8 +7,8 @@
 #include <QMouseEvent>
 #include <QTreeView>
 
-#include "framework/query_form.h"
-#include "framework/select_column.h"
+#include "framework/columns/select_column.h"
+#include "framework/frames/query_form.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"

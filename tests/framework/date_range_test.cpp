@@ -1,4 +1,4 @@
-#include "framework/date_range.h"
+#include "framework/rules/date_range.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The frame of a detail dialog, through the smallest dialog that there can be.
-#include "framework/detail_form.h"
+#include "framework/frames/detail_form.h"
 
 #include <gtest/gtest.h>
 
-#include "framework/detail_common.h"
-#include "framework/select_column.h"
+#include "framework/business/m_detail_intf.h"
+#include "framework/columns/select_column.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"

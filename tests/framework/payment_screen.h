@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "framework/query_common.h"
-#include "framework/query_form.h"
+#include "framework/business/query_common.h"
+#include "framework/frames/query_form.h"
 
 class TKVXEdit;
 class TLabel;

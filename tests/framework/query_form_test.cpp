@@ -1,5 +1,5 @@
 // The frame of a query screen, through the smallest screen that there can be.
-#include "framework/query_form.h"
+#include "framework/frames/query_form.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <QFileDialog>
 #include <QTemporaryDir>
 
-#include "framework/select_column.h"
+#include "framework/columns/select_column.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"

@@ -1,10 +1,10 @@
 // The pure parts of the business objects: amounts, state codes, the order of columns, names of export files.
 #include <gtest/gtest.h>
 
-#include "framework/amount_text.h"
-#include "framework/column_order.h"
-#include "framework/export_head.h"
-#include "framework/state_texts.h"
+#include "framework/columns/column_order.h"
+#include "framework/columns/export_rules.h"
+#include "framework/rules/amount_text.h"
+#include "framework/rules/state_texts.h"
 #include "toolkit/conversion.h"
 
 namespace norvik {

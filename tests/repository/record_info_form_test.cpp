@@ -6,9 +6,6 @@
 #include <set>
 #include <sstream>
 
-#include "repository/app_qry_info.h"
-#include "repository/detail_qry_info.h"
-#include "repository/qry_info.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"

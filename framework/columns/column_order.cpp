@@ -1,0 +1,33 @@
+#include "framework/columns/column_order.h"
+
+#include <set>
+#include <string>
+
+namespace norvik {
+
+std::vector<unsigned> ColumnOrder(corvane::List& fieldDefs, corvane::List& savedLayout) {
+  std::vector<unsigned> order;
+  std::set<std::string> added;
+  for (unsigned i = 0; i < savedLayout.size(); ++i) {
+    const std::string id = savedLayout[i].getValue("ColumnID");
+    if (added.contains(id)) break;
+    const int row = fieldDefs.find("COLID", id, 0);
+    if (row < 0) continue;
+    added.insert(id);
+    order.push_back(static_cast<unsigned>(row));
+  }
+  for (unsigned i = 0; i < fieldDefs.size(); ++i) {
+    if (added.insert(fieldDefs[i].getValue("COLID")).second) order.push_back(i);
+  }
+  return order;
+}
+
+int ColumnTag(const std::string& format) {
+  if (format == "M") return 2;
+  if (format == "N") return 4;
+  if (format == "R") return 5;
+  if (format == "X") return kInternalColumnTag;
+  return 0;
+}
+
+}  // namespace norvik
