@@ -1,7 +1,9 @@
-// All documents of the system.
+// The umbrella header: all documents of the system, their text form, and the texts that they are made of.
+//
+// For whoever uses the record library without wishing to pick headers. What a class needs inside lies in
+// data/detail/ and is not for callers.
 #pragma once
 
-#include "data/character_steps.h"
 #include "data/corvane_stream.h"
 #include "data/element.h"
 #include "data/exception.h"
@@ -15,4 +17,6 @@
 #include "data/string_vector.h"
 #include "data/sys_date_time.h"
 #include "data/wide_string.h"
+#include "data/xml_handlers.h"
 #include "data/xml_reader.h"
+#include "data/xml_writer.h"

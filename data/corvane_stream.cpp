@@ -2,20 +2,17 @@
 
 #include <utility>
 
+#include "data/detail/keys.h"
+#include "data/detail/tags.h"
 #include "data/exception.h"
 
 namespace corvane {
 namespace {
 
-const Label& StreamTag() {
-  static const PermanentLabel label("stream");
-  return label;
-}
-
 // The attributes of a row whose only attribute is an empty "name", as every row of a list in a stream has it.
-const Shared<AttributePart>& EmptyName() {
-  static const Shared<AttributePart> part = [] {
-    Shared<AttributePart> made;
+const detail::Shared<detail::AttributePart>& emptyName() {
+  static const detail::Shared<detail::AttributePart> part = [] {
+    detail::Shared<detail::AttributePart> made;
     made.edit().map["name"];
     return made;
   }();
@@ -24,7 +21,7 @@ const Shared<AttributePart>& EmptyName() {
 
 }  // namespace
 
-CorvaneStream::CorvaneStream() : Element(StreamTag()) {}
+CorvaneStream::CorvaneStream() : Element(detail::tagLabel<detail::kStreamTag>()) {}
 
 CorvaneStream::~CorvaneStream() = default;
 
@@ -80,41 +77,41 @@ Row CorvaneStream::getFieldsRow() const {
 }
 
 void CorvaneStream::addRow(Row& row) {
-  row.setName("row");
+  row.setName(detail::kRowTag);
   rows_.push_back(row);
 }
 
 void CorvaneStream::addRow(Row&& row) {
-  row.setName("row");
+  row.setName(detail::kRowTag);
   rows_.push_back(std::move(row));
 }
 
 Row CorvaneStream::getRow(int index) const {
-  if (index < 0 || index >= getRowCount()) throw TException("ET10040");
+  if (index < 0 || index >= getRowCount()) throw TException(detail::key::kNoSuchTopRow);
   return rows_[static_cast<std::size_t>(index)];
 }
 
-std::string CorvaneStream::Prepare(List& list) {
-  list.setName("list");
+std::string CorvaneStream::prepare(List& list) {
+  list.setName(detail::kListTag);
   std::string name = list.getAttribute("name");
-  if (name.empty()) throw TException("ET10043");
+  if (name.empty()) throw TException(detail::key::kNamelessList);
   const Row plain;
   for (Row& row : list.rows_) {
-    if (row.name() != "row") row.name_ = plain.name_;
+    if (row.name() != detail::kRowTag) row.name_ = plain.name_;
     if (row.attributes_)
       row.setAttribute("name", "");
     else
-      row.attributes_ = EmptyName();
+      row.attributes_ = emptyName();
   }
   return name;
 }
 
 void CorvaneStream::addList(List& list) {
-  lists_[Prepare(list)] = list;
+  lists_[prepare(list)] = list;
 }
 
 void CorvaneStream::addList(List&& list) {
-  lists_[Prepare(list)] = std::move(list);
+  lists_[prepare(list)] = std::move(list);
 }
 
 List& CorvaneStream::getList(std::string_view name) {

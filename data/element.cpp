@@ -3,24 +3,29 @@
 #include <utility>
 
 namespace corvane {
+
+using detail::AttributePart;
+using detail::Label;
+using detail::Shared;
+
 namespace {
 
-const Label& DefaultEncoding() {
-  static const PermanentLabel label("UTF-8");
+const Label& defaultEncoding() {
+  static const detail::PermanentLabel label("UTF-8");
   return label;
 }
 
 // The attributes, none, of an element that was moved from.
-AttributePart* MovedFrom() {
-  static PermanentPart<AttributePart> part;
+AttributePart* movedFrom() {
+  static detail::PermanentPart<AttributePart> part;
   return part.get();
 }
 
 }  // namespace
 
-Element::Element() : encoding_(DefaultEncoding()) {}
+Element::Element() : encoding_(defaultEncoding()) {}
 
-Element::Element(const Label& name) : name_(name), encoding_(DefaultEncoding()) {}
+Element::Element(const Label& name) : name_(name), encoding_(defaultEncoding()) {}
 
 Element::Element(const Element& other) : name_(other.name_), encoding_(other.encoding_) {
   copyAttributes(other);
@@ -29,7 +34,7 @@ Element::Element(const Element& other) : name_(other.name_), encoding_(other.enc
 Element::Element(Element&& other) noexcept
     : name_(other.name_),
       encoding_(other.encoding_),
-      attributes_(std::exchange(other.attributes_, Shared(MovedFrom()))) {}
+      attributes_(std::exchange(other.attributes_, Shared(movedFrom()))) {}
 
 Element& Element::operator=(const Element& other) {
   name_ = other.name_;
@@ -41,7 +46,7 @@ Element& Element::operator=(const Element& other) {
 Element& Element::operator=(Element&& other) noexcept {
   name_ = other.name_;
   encoding_ = other.encoding_;
-  attributes_ = std::exchange(other.attributes_, Shared(MovedFrom()));
+  attributes_ = std::exchange(other.attributes_, Shared(movedFrom()));
   return *this;
 }
 
@@ -94,6 +99,14 @@ void Element::setAttributes(const AttributeMap& more) {
   for (const auto& [key, value] : more) map[key] = value;
 }
 
+const std::string& Element::name() const {
+  return name_.text();
+}
+
+const std::string& Element::encoding() const {
+  return encoding_.text();
+}
+
 const AttributeMap& Element::attributes() const {
   static const AttributeMap none;
   return attributes_ ? attributes_->map : none;
@@ -101,7 +114,7 @@ const AttributeMap& Element::attributes() const {
 
 bool Element::hasExtra() const {
   if (!attributes().empty()) return true;
-  const Label& plain = DefaultEncoding();
+  const Label& plain = defaultEncoding();
   return !encoding_.sharedWith(plain) && encoding() != plain.text();
 }
 
@@ -118,12 +131,12 @@ void Element::moveAttributes(Element& other, bool empty) noexcept {
     name_ = other.name_;
     encoding_ = other.encoding_;
   }
-  attributes_ = std::exchange(other.attributes_, Shared(MovedFrom()));
+  attributes_ = std::exchange(other.attributes_, Shared(movedFrom()));
   if (!whole) settle();
 }
 
 bool Element::isMovedFrom() const {
-  return attributes_ && attributes_.get() == MovedFrom();
+  return attributes_ && attributes_.get() == movedFrom();
 }
 
 void Element::settle() {

@@ -2,29 +2,19 @@
 
 #include <utility>
 
+#include "data/detail/tags.h"
+
 namespace corvane {
-namespace {
 
-const Label& SectionTag() {
-  static const PermanentLabel label("section");
-  return label;
-}
+IniSection::IniSection() : Row(detail::tagLabel<detail::kSectionTag>()) {}
 
-const Label& IniTag() {
-  static const PermanentLabel label("ini");
-  return label;
-}
-
-}  // namespace
-
-IniSection::IniSection() : Row(SectionTag()) {}
-
-IniSection::IniSection(std::string_view sectionName, const Row& row) : Row(SectionTag()) {
+IniSection::IniSection(std::string_view sectionName, const Row& row)
+    : Row(detail::tagLabel<detail::kSectionTag>()) {
   copyContent(row);
   setAttribute("name", sectionName);
 }
 
-Ini::Ini() : Element(IniTag()) {}
+Ini::Ini() : Element(detail::tagLabel<detail::kIniTag>()) {}
 
 Ini::~Ini() = default;
 

@@ -2,30 +2,20 @@
 
 #include <utility>
 
+#include "data/detail/tags.h"
+
 namespace corvane {
-namespace {
 
-const Label& SectionTag() {
-  static const PermanentLabel label("section");
-  return label;
-}
+IniplusSection::IniplusSection() : List(detail::tagLabel<detail::kSectionTag>()) {}
 
-const Label& IniplusTag() {
-  static const PermanentLabel label("iniplus");
-  return label;
-}
-
-}  // namespace
-
-IniplusSection::IniplusSection() : List(SectionTag()) {}
-
-IniplusSection::IniplusSection(std::string_view sectionName, const List& list) : List(SectionTag()) {
+IniplusSection::IniplusSection(std::string_view sectionName, const List& list)
+    : List(detail::tagLabel<detail::kSectionTag>()) {
   copyAttributes(list);
   setAttribute("name", sectionName);
   for (const Row& row : list) addRow(row);
 }
 
-Iniplus::Iniplus() : Element(IniplusTag()) {}
+Iniplus::Iniplus() : Element(detail::tagLabel<detail::kIniplusTag>()) {}
 
 Iniplus::~Iniplus() = default;
 

@@ -3,21 +3,15 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/detail/keys.h"
+#include "data/detail/tags.h"
 #include "data/exception.h"
 
 namespace corvane {
-namespace {
 
-const Label& ListTag() {
-  static const PermanentLabel label("list");
-  return label;
-}
+List::List() : Element(detail::tagLabel<detail::kListTag>()) {}
 
-}  // namespace
-
-List::List() : Element(ListTag()) {}
-
-List::List(const Label& tag) : Element(tag) {}
+List::List(const detail::Label& tag) : Element(tag) {}
 
 List::~List() = default;
 
@@ -42,17 +36,17 @@ void List::clear() {
 }
 
 Row& List::operator[](unsigned index) {
-  if (index >= rows_.size()) throw TException("ET10104");
+  if (index >= rows_.size()) throw TException(detail::key::kNoSuchRow);
   return rows_[index];
 }
 
 const Row& List::operator[](unsigned index) const {
-  if (index >= rows_.size()) throw TException("ET10104");
+  if (index >= rows_.size()) throw TException(detail::key::kNoSuchRow);
   return rows_[index];
 }
 
 Row List::getRow(unsigned index) const {
-  if (index >= rows_.size()) throw TException("ET10111");
+  if (index >= rows_.size()) throw TException(detail::key::kNoSuchRowToCopy);
   return rows_[index];
 }
 
@@ -61,21 +55,21 @@ bool List::isCompatible(const Row& row) const {
 }
 
 void List::addRow(const Row& row) {
-  if (!isCompatible(row)) throw TException("ET10101");
-  Append(Row(row), "ET10101");
+  if (!isCompatible(row)) throw TException(detail::key::kOtherColumns);
+  append(Row(row), detail::key::kOtherColumns);
 }
 
 void List::addRow(Row&& row) {
-  Append(std::move(row), "ET10101");
+  append(std::move(row), detail::key::kOtherColumns);
 }
 
 void List::addProperty(const Property& property) {
   Row row;
   row = property;
-  Append(std::move(row), "ET10102");
+  append(std::move(row), detail::key::kOtherPropertyColumns);
 }
 
-void List::Append(Row&& row, const char* key) {
+void List::append(Row&& row, const char* key) {
   if (!isCompatible(row)) throw TException(key);
   rows_.push_back(std::move(row));
   if (rows_.size() == 1) return;
@@ -92,26 +86,26 @@ void List::removeRow(unsigned index) {
   rows_.erase(place);
 }
 
-std::string_view List::ValueIn(Row& row, std::string_view column) {
-  const std::uint32_t slot = row.Find(column);
-  return slot == RowShape::kNoSlot || column.empty() ? row[column] : row.cells_.value(slot);
+std::string_view List::valueIn(Row& row, std::string_view column) {
+  const std::uint32_t slot = row.find(column);
+  return slot == detail::RowShape::kNoSlot || column.empty() ? row[column] : row.cells_.value(slot);
 }
 
 int List::find(std::string_view column, std::string_view value, unsigned from) {
   for (std::size_t at = from; at < rows_.size(); ++at)
-    if (ValueIn(rows_[at], column) == value) return static_cast<int>(at);
+    if (valueIn(rows_[at], column) == value) return static_cast<int>(at);
   return -1;
 }
 
 List List::select(std::string_view column, const StringVector& values) {
   List result;
   for (Row& row : rows_)
-    if (values.indexOf(ValueIn(row, column)) >= 0) result.addRow(row);
+    if (values.indexOf(valueIn(row, column)) >= 0) result.addRow(row);
   return result;
 }
 
 List List::filter(const Row& criteria, bool matchAll) const {
-  if (matchAll && !rows_.empty() && criteria.hasField("")) throw TException("ET10080");
+  if (matchAll && !rows_.empty() && criteria.hasField("")) throw TException(detail::key::kEmptyColumnName);
   List result;
   for (const Row& row : rows_) {
     const auto agrees = [&](const auto& criterion) {

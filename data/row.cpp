@@ -1,25 +1,18 @@
 #include "data/row.h"
 
+#include "data/detail/keys.h"
+#include "data/detail/tags.h"
 #include "data/exception.h"
 
 namespace corvane {
-namespace {
 
-const Label& RowTag() {
-  static const PermanentLabel label("row");
-  return label;
-}
+using detail::RowShape;
 
-const Label& PropertyTag() {
-  static const PermanentLabel label("property");
-  return label;
-}
+Row::Row() : Element(detail::tagLabel<detail::kRowTag>()) {}
 
-}  // namespace
+Row::Row(const detail::Label& tag) : Element(tag) {}
 
-Row::Row() : Element(RowTag()) {}
-
-Row::Row(const Label& tag) : Element(tag) {}
+Row::Row(const Row&) = default;
 
 Row::~Row() = default;
 
@@ -38,20 +31,20 @@ Row& Row::operator=(Row&& other) noexcept {
 }
 
 std::string& Row::operator[](std::string_view key) {
-  if (key.empty()) throw TException("ET10080");
-  const std::uint32_t slot = Find(key);
-  return cells_.open(slot == RowShape::kNoSlot ? Add(key) : slot);
+  if (key.empty()) throw TException(detail::key::kEmptyColumnName);
+  const std::uint32_t slot = find(key);
+  return cells_.open(slot == RowShape::kNoSlot ? add(key) : slot);
 }
 
 std::string Row::getValue(std::string_view key) const {
-  const std::uint32_t slot = Find(key);
+  const std::uint32_t slot = find(key);
   return slot == RowShape::kNoSlot ? std::string() : std::string(cells_.value(slot));
 }
 
 void Row::addField(const Field& field) {
   const Field source = field;  // the field may be made of this row's own parts
-  std::uint32_t slot = Find(source.name());
-  if (slot == RowShape::kNoSlot) slot = Add(source.name());
+  std::uint32_t slot = find(source.name());
+  if (slot == RowShape::kNoSlot) slot = add(source.name());
   cells_.open(slot) = source.value_;
   if (source.hasExtra())
     extras_.edit().bySlot[slot] = {source.attributes_, source.encoding_};
@@ -60,12 +53,12 @@ void Row::addField(const Field& field) {
 }
 
 Field Row::getField(std::string_view key) const {
-  const std::uint32_t slot = Find(key);
-  return slot == RowShape::kNoSlot ? Field() : FieldIn(slot);
+  const std::uint32_t slot = find(key);
+  return slot == RowShape::kNoSlot ? Field() : fieldIn(slot);
 }
 
 bool Row::hasField(std::string_view key) const {
-  return Find(key) != RowShape::kNoSlot;
+  return find(key) != RowShape::kNoSlot;
 }
 
 int Row::countField(std::string_view key) const {
@@ -73,12 +66,12 @@ int Row::countField(std::string_view key) const {
 }
 
 bool Row::containsField(const Field& field) const {
-  const std::uint32_t slot = Find(field.name());
+  const std::uint32_t slot = find(field.name());
   return slot != RowShape::kNoSlot && cells_.value(slot) == field.value_;
 }
 
 void Row::removeField(std::string_view key) {
-  const std::uint32_t slot = Find(key);
+  const std::uint32_t slot = find(key);
   if (slot == RowShape::kNoSlot) return;
   shape_.edit().remove(slot);
   if (extras_) extras_.edit().bySlot.erase(slot);
@@ -112,48 +105,48 @@ void Row::copyContent(const Row& other) {
   extras_ = other.extras_;
 }
 
-std::uint32_t Row::Find(std::string_view key) const {
+std::uint32_t Row::find(std::string_view key) const {
   return shape_ ? shape_->find(key) : RowShape::kNoSlot;
 }
 
-std::uint32_t Row::Add(std::string_view key) {
+std::uint32_t Row::add(std::string_view key) {
   const std::uint32_t before = shape_ ? shape_->slotCount() : 0;
   const std::uint32_t slot = shape_.edit().add(key);
   if (slot < before) cells_.open(slot).clear();  // what a removed column left
   return slot;
 }
 
-Field Row::FieldIn(std::uint32_t slot) const {
+Field Row::fieldIn(std::uint32_t slot) const {
   Field field;
-  Show(slot, field);
+  show(slot, field);
   return field;
 }
 
-void Row::Show(std::uint32_t slot, Field& field) const {
+void Row::show(std::uint32_t slot, Field& field) const {
   field.name_ = shape_->label(slot);
   field.value_ = cells_.value(slot);
-  if (const FieldExtra* extra = ExtraOf(slot)) {
+  if (const FieldExtra* extra = extraOf(slot)) {
     field.attributes_ = extra->attributes;
     field.encoding_ = extra->encoding;
   }
 }
 
-bool Row::Holds(std::uint32_t slot, const Field& field) const {
+bool Row::holds(std::uint32_t slot, const Field& field) const {
   if (!field.name_.sharedWith(shape_->label(slot)) || field.value_ != cells_.value(slot)) return false;
-  const FieldExtra* extra = ExtraOf(slot);
+  const FieldExtra* extra = extraOf(slot);
   if (!extra) return !field.hasExtra();
   return field.attributes_.get() == extra->attributes.get() && field.encoding_.sharedWith(extra->encoding);
 }
 
-const Row::FieldExtra* Row::ExtraOf(std::uint32_t slot) const {
+const Row::FieldExtra* Row::extraOf(std::uint32_t slot) const {
   if (!extras_) return nullptr;
   const auto extra = extras_->bySlot.find(slot);
   return extra == extras_->bySlot.end() ? nullptr : &extra->second;
 }
 
-Property::Property() : Row(PropertyTag()) {}
+Property::Property() : Row(detail::tagLabel<detail::kPropertyTag>()) {}
 
-Property::Property(const Row& row) : Row(PropertyTag()) {
+Property::Property(const Row& row) : Row(detail::tagLabel<detail::kPropertyTag>()) {
   copyContent(row);
 }
 

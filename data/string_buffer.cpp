@@ -6,10 +6,10 @@
 namespace corvane {
 
 StringBuffer::StringBuffer(unsigned initialSize, unsigned stepSize) : step_(std::max(stepSize, 1U)) {
-  AddChunk(std::max(initialSize, 1U));
+  addChunk(std::max(initialSize, 1U));
 }
 
-void StringBuffer::AddChunk(std::size_t capacity) {
+void StringBuffer::addChunk(std::size_t capacity) {
   chunks_.push_back({std::make_unique_for_overwrite<char[]>(capacity), capacity});
 }
 
@@ -22,7 +22,7 @@ void StringBuffer::append(std::string_view text) {
     if (used_ == chunks_.back().capacity) {
       finished_ += used_;
       used_ = 0;
-      AddChunk(step_);
+      addChunk(step_);
     }
     const std::size_t taken = std::min(text.size(), chunks_.back().capacity - used_);
     std::memcpy(chunks_.back().bytes.get() + used_, text.data(), taken);

@@ -3,21 +3,30 @@
 #include <algorithm>
 #include <utility>
 
-#include "data/character_steps.h"
 #include "data/string_buffer.h"
 #include "data/string_functions.h"
+#include "platform/code_page.h"
 
 namespace corvane {
 namespace {
 
-std::string Unescaped(std::string_view token, std::string_view separator) {
+std::string unescaped(std::string_view token, std::string_view separator) {
   return replaceAll(replaceAll(token, "\\\\", "\\"), "\\" + std::string(separator), separator);
+}
+
+// True if the character before `at`, itself the start of a character, is a backslash; `from` is the start of
+// a character at or before that one.
+bool followsBackslash(std::string_view text, std::size_t at, std::size_t from) {
+  if (at == 0 || text[at - 1] != '\\') return false;
+  std::size_t last = from;
+  for (std::size_t next = from; next < at; next += norvik::CharacterLength(text, next)) last = next;
+  return last == at - 1;
 }
 
 // After one backslash, but not after two: only the two characters before the hit count, whatever they belong
 // to. `before` is the start of a character, two characters or more before the hit if there are so many.
-bool IsEscaped(std::string_view text, std::size_t hit, std::size_t before) {
-  return isBehindBackslash(text, hit, before) && !isBehindBackslash(text, hit - 1, before);
+bool isEscaped(std::string_view text, std::size_t hit, std::size_t before) {
+  return followsBackslash(text, hit, before) && !followsBackslash(text, hit - 1, before);
 }
 
 }  // namespace
@@ -34,7 +43,7 @@ void StringVector::fromString(std::string_view text, std::string_view separator,
   separator = mark;
   clear();
   const auto push = [&](std::string_view token) {
-    push_back(unescape ? Unescaped(token, separator) : std::string(token));
+    push_back(unescape ? unescaped(token, separator) : std::string(token));
   };
   if (text.size() < separator.size()) {
     push_back(source);
@@ -45,7 +54,7 @@ void StringVector::fromString(std::string_view text, std::string_view separator,
   std::size_t last = 0;
   for (std::size_t hit = findText(text, separator); hit != std::string_view::npos;
        hit = findText(text, separator, last + separator.size())) {
-    const bool escaped = IsEscaped(text, hit, before);
+    const bool escaped = isEscaped(text, hit, before);
     before = std::exchange(last, hit);
     if (escaped) continue;
     push(text.substr(start, hit - start));

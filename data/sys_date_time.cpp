@@ -9,7 +9,7 @@ namespace corvane {
 namespace {
 
 // A number below 100 in two digits.
-std::string TwoDigits(int number) {
+std::string twoDigits(int number) {
   return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
@@ -32,7 +32,7 @@ std::int64_t TSysDateTime::getMillis() const {
   return base_ > kLast - passed ? kLast : base_ + passed;
 }
 
-std::tm TSysDateTime::Local() const {
+std::tm TSysDateTime::local() const {
   const std::time_t seconds = getMillis() / 1000;
   std::tm parts{};
   localtime_r(&seconds, &parts);
@@ -40,21 +40,21 @@ std::tm TSysDateTime::Local() const {
 }
 
 int TSysDateTime::getYear() const {
-  return Local().tm_year + 1900;
+  return local().tm_year + 1900;
 }
 
 int TSysDateTime::getMonth() const {
-  return Local().tm_mon + 1;
+  return local().tm_mon + 1;
 }
 
 int TSysDateTime::getDay() const {
-  return Local().tm_mday;
+  return local().tm_mday;
 }
 
 std::string TSysDateTime::getDateTime() const {
-  const std::tm parts = Local();
-  return std::to_string(parts.tm_year + 1900) + TwoDigits(parts.tm_mon + 1) + TwoDigits(parts.tm_mday) +
-         TwoDigits(parts.tm_hour) + TwoDigits(parts.tm_min) + TwoDigits(parts.tm_sec);
+  const std::tm parts = local();
+  return std::to_string(parts.tm_year + 1900) + twoDigits(parts.tm_mon + 1) + twoDigits(parts.tm_mday) +
+         twoDigits(parts.tm_hour) + twoDigits(parts.tm_min) + twoDigits(parts.tm_sec);
 }
 
 std::string TSysDateTime::getDate() const {

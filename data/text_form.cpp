@@ -1,8 +1,13 @@
-// The members of documents that read or write XML text, each with its class's own key.
+// The members of documents that read or write XML text, each with its class's own key. They are declared in
+// the headers of the classes and defined here, so that no class of documents needs to know the reader or the
+// writer.
 #include <algorithm>
 #include <utility>
 
+#include "data/detail/keys.h"
+#include "data/detail/tags.h"
 #include "data/exception.h"
+#include "data/xml_handlers.h"
 #include "data/xml_reader.h"
 #include "data/xml_writer.h"
 
@@ -10,19 +15,19 @@ namespace corvane {
 namespace {
 
 template <class Handler, class Document>
-void Read(std::string_view xml, Document& document, const char* key) {
+void read(std::string_view xml, Document& document, const char* key) {
   Handler handler(&document);
-  std::string error;
-  if (!parseXml(xml, &handler, error)) throw TException(key);
+  const ParseResult result = parseXml(xml, handler);
+  if (!result) throw TException(key, result.describe());
 }
 
-void CheckRoot(const Element& document, std::string_view tag, const char* key) {
-  if (document.name() != tag) throw TException(key);
+void checkRoot(const Element& document, std::string_view tag, const char* key) {
+  if (document.name() != tag) throw TException(key, "the root element is no \"" + std::string(tag) + "\"");
 }
 
 // The prolog's label. Where the scan brings more than the label along, up to a quote or past a tab or a line
 // end that could not be written again, the plain label in it.
-std::string LabelOf(std::string_view xml) {
+std::string labelOf(std::string_view xml) {
   std::string label = xmlEncoding(xml);
   if (XmlWriter::takesLabel(label)) return label;
   label.erase(0, label.find_first_not_of("\"' \t\r\n"));
@@ -33,7 +38,7 @@ std::string LabelOf(std::string_view xml) {
 }
 
 template <class Document>
-std::string Written(const Document& document, const char* key) {
+std::string written(const Document& document, const char* key) {
   std::string text;
   if (!writeXml(document, text)) throw TException(key);
   return text;
@@ -42,21 +47,21 @@ std::string Written(const Document& document, const char* key) {
 }  // namespace
 
 Field::Field(std::string_view xml) {
-  Read<FieldSAXHandler>(xml, *this, "ET10044");
-  setEncoding(LabelOf(xml));
+  read<FieldSAXHandler>(xml, *this, detail::key::kFieldNotRead);
+  setEncoding(labelOf(xml));
 }
 
 std::string Field::toString() const {
-  return Written(*this, "ET10045");
+  return written(*this, detail::key::kFieldNotWritten);
 }
 
 Row::Row(std::string_view xml) : Row() {
-  Read<RowSAXHandler>(xml, *this, "ET10057");
-  setEncoding(LabelOf(xml));
+  read<RowSAXHandler>(xml, *this, detail::key::kRowNotRead);
+  setEncoding(labelOf(xml));
 }
 
 std::string Row::toString() const {
-  return Written(*this, "ET10058");
+  return written(*this, detail::key::kRowNotWritten);
 }
 
 List::List(std::string_view xml) {
@@ -64,13 +69,13 @@ List::List(std::string_view xml) {
 }
 
 void List::fromString(std::string_view xml) {
-  Read<ListSAXHandler>(xml, *this, "ET10052");
-  CheckRoot(*this, "list", "ET10100");
-  setEncoding(LabelOf(xml));
+  read<ListSAXHandler>(xml, *this, detail::key::kListNotRead);
+  checkRoot(*this, detail::kListTag, detail::key::kListOtherRoot);
+  setEncoding(labelOf(xml));
 }
 
 std::string List::toString() const {
-  return Written(*this, "ET10053");
+  return written(*this, detail::key::kListNotWritten);
 }
 
 CorvaneStream::CorvaneStream(std::string_view xml) {
@@ -78,12 +83,12 @@ CorvaneStream::CorvaneStream(std::string_view xml) {
 }
 
 void CorvaneStream::fromString(std::string_view xml) {
-  Read<CorvaneStreamSAXHandler>(xml, *this, "ET10016");
-  setEncoding(LabelOf(xml));
+  read<CorvaneStreamSAXHandler>(xml, *this, detail::key::kStreamNotRead);
+  setEncoding(labelOf(xml));
 }
 
 std::string CorvaneStream::toString() const {
-  return Written(*this, "ET10017");
+  return written(*this, detail::key::kStreamNotWritten);
 }
 
 Ini::Ini(std::string_view xml) {
@@ -91,13 +96,13 @@ Ini::Ini(std::string_view xml) {
 }
 
 void Ini::fromString(std::string_view xml) {
-  Read<IniSAXHandler>(xml, *this, "ET10046");
-  CheckRoot(*this, "ini", "ET10047");
-  setEncoding(LabelOf(xml));
+  read<IniSAXHandler>(xml, *this, detail::key::kIniNotRead);
+  checkRoot(*this, detail::kIniTag, detail::key::kIniOtherRoot);
+  setEncoding(labelOf(xml));
 }
 
 std::string Ini::toString() const {
-  return Written(*this, "ET10048");
+  return written(*this, detail::key::kIniNotWritten);
 }
 
 Iniplus::Iniplus(std::string_view xml) {
@@ -105,13 +110,13 @@ Iniplus::Iniplus(std::string_view xml) {
 }
 
 void Iniplus::fromString(std::string_view xml) {
-  Read<IniplusSAXHandler>(xml, *this, "ET10049");
-  CheckRoot(*this, "iniplus", "ET10050");
-  setEncoding(LabelOf(xml));
+  read<IniplusSAXHandler>(xml, *this, detail::key::kIniplusNotRead);
+  checkRoot(*this, detail::kIniplusTag, detail::key::kIniplusOtherRoot);
+  setEncoding(labelOf(xml));
 }
 
 std::string Iniplus::toString() const {
-  return Written(*this, "ET10051");
+  return written(*this, detail::key::kIniplusNotWritten);
 }
 
 }  // namespace corvane

@@ -1,10 +1,19 @@
 // What each handler does with an element at each level. An element that ends at a level has been opened
 // there.
+#include "data/xml_handlers.h"
+
 #include <utility>
 
-#include "data/xml_reader.h"
+#include "data/detail/row_builder.h"
+#include "data/detail/tags.h"
 
 namespace corvane {
+
+using detail::kIniplusTag;
+using detail::kIniTag;
+using detail::kListTag;
+using detail::kRowTag;
+using detail::kSectionTag;
 
 SAXContentHandlerImpl::~SAXContentHandlerImpl() = default;
 
@@ -76,30 +85,40 @@ bool RowSAXHandler::close(int level, std::string_view) {
   return level <= 2;
 }
 
+RowsSAXHandler::RowsSAXHandler(Element* target)
+    : DocumentSAXHandler(target), row_(std::make_unique<detail::RowBuilder>()) {}
+
+RowsSAXHandler::~RowsSAXHandler() = default;
+
+void RowsSAXHandler::openRow(std::string_view localName, const AttributeMap& attributes) {
+  closedField();  // a row inside a row: the column before it is still to be named
+  row_->reset(localName, attributes);
+}
+
 void RowsSAXHandler::openColumn(std::string_view localName, const AttributeMap& attributes) {
-  const bool expected = attributes.empty() && row_.expects(localName);
+  const bool expected = attributes.empty() && row_->expects(localName);
   column_ = expected ? Column::kExpected : Column::kInField;
   if (!expected) resetField(localName, attributes);
 }
 
 void RowsSAXHandler::closeColumn() {
   if (column_ == Column::kExpected) {
-    row_.addExpected(field.getValue());
+    row_->addExpected(field.getValue());
     column_ = Column::kAdded;
   } else {
-    row_.addField(closedField());
+    row_->addField(closedField());
   }
 }
 
 Row RowsSAXHandler::closeRow() {
   closedField();
-  return row_.build();
+  return row_->build();
 }
 
 const Field& RowsSAXHandler::closedField() {
   if (column_ == Column::kAdded) {
     field.Element::clear();
-    field.setName(row_.lastExpected());
+    field.setName(row_->lastExpected());
     column_ = Column::kInField;
   }
   return field;
@@ -131,9 +150,9 @@ bool CorvaneStreamSAXHandler::open(int level, std::string_view localName, const 
   if (level > 4) return false;
   if (level == 1)
     reset(*target_, localName, attributes);
-  else if (level == 2 && localName == "list")
+  else if (level == 2 && localName == kListTag)
     reset(list_, localName, attributes);
-  else if (level <= 3 && localName == "row")
+  else if (level <= 3 && localName == kRowTag)
     openRow(localName, attributes);
   else if (level == 2)
     resetField(localName, attributes);
@@ -143,13 +162,13 @@ bool CorvaneStreamSAXHandler::open(int level, std::string_view localName, const 
 }
 
 bool CorvaneStreamSAXHandler::close(int level, std::string_view localName) {
-  if (level == 2 && localName == "list")
+  if (level == 2 && localName == kListTag)
     closeList();
-  else if (level == 2 && localName == "row")
+  else if (level == 2 && localName == kRowTag)
     target_->addRow(closeRow());
   else if (level == 2)
     target_->addField(closedField());
-  else if (level == 3 && localName == "row")
+  else if (level == 3 && localName == kRowTag)
     list_.addRow(closeRow());
   else if (level == 3 || level == 4)
     closeColumn();
@@ -165,9 +184,9 @@ void CorvaneStreamSAXHandler::closeList() {
 }
 
 bool IniSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
-  if (level == 1 && localName == "ini")
+  if (level == 1 && localName == kIniTag)
     reset(*target_, localName, attributes);
-  else if (level == 2 && localName == "section")
+  else if (level == 2 && localName == kSectionTag)
     reset(section_, localName, attributes);
   else if (level == 3)
     resetField(localName, attributes);
@@ -183,11 +202,11 @@ bool IniSAXHandler::close(int level, std::string_view) {
 }
 
 bool IniplusSAXHandler::open(int level, std::string_view localName, const AttributeMap& attributes) {
-  if (level == 1 && localName == "iniplus")
+  if (level == 1 && localName == kIniplusTag)
     reset(*target_, localName, attributes);
-  else if (level == 2 && localName == "section")
+  else if (level == 2 && localName == kSectionTag)
     reset(section_, localName, attributes);
-  else if (level == 3 && localName == "row")
+  else if (level == 3 && localName == kRowTag)
     openRow(localName, attributes);
   else if (level == 4)
     openColumn(localName, attributes);

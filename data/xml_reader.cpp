@@ -1,7 +1,9 @@
 #include "data/xml_reader.h"
 
+#include "data/detail/keys.h"
 #include "data/exception.h"
 #include "data/string_functions.h"
+#include "data/xml_handlers.h"
 #include "platform/code_page.h"
 #include "platform/xml_events.h"
 
@@ -15,25 +17,25 @@ class NarrowEvents : public norvik::XmlEvents {
 
   bool StartElement(std::string_view localName, const norvik::XmlAttributes& attributes) override {
     if (!attributes_.empty()) attributes_.clear();
-    for (std::size_t at = 0; at < attributes.size(); ++at) {
+    for (std::size_t at = 0; at < attributes.Size(); ++at) {
       const std::string_view name = attributes.QualifiedName(at, space_);
       attributes_[norvik::AnsiFromUtf8(name)] = norvik::AnsiFromUtf8(attributes.Value(at));
     }
-    return Kept([&] { return handler_.startElement(Narrow(localName), attributes_); });
+    return Guarded([&] { return handler_.startElement(Narrow(localName), attributes_); });
   }
   bool EndElement(std::string_view localName) override {
-    return Kept([&] { return handler_.endElement(Narrow(localName)); });
+    return Guarded([&] { return handler_.endElement(Narrow(localName)); });
   }
   bool Characters(std::string_view piece) override {
-    return Kept([&] { return handler_.characters(Narrow(piece)); });
+    return Guarded([&] { return handler_.characters(Narrow(piece)); });
   }
   // The key of what an event threw; "" if none did.
-  const std::string& key() const { return key_; }
+  const std::string& Key() const { return key_; }
 
  private:
-  // A document's own failure ends the reading as a refusal does, at a place that can be told.
+  // A failure of the document ends the reading as a refusal does, so that its place is known.
   template <class Event>
-  bool Kept(Event event) {
+  bool Guarded(Event event) {
     try {
       return event();
     } catch (const TException& failure) {
@@ -58,21 +60,29 @@ class NarrowEvents : public norvik::XmlEvents {
 }  // namespace
 
 ParseResult parseXml(std::string_view text, SAXContentHandlerImpl& handler) {
-  if (text.empty()) return {.key = "ET10078", .reason = "the text is empty"};
-  if (!handler.startDocument()) return {.key = "ET10079", .reason = "the handler takes no document"};
+  if (text.empty()) return {.key = detail::key::kEmptyText, .reason = "the text is empty"};
+  if (!handler.startDocument())
+    return {.key = detail::key::kRefusedText, .reason = "the handler takes no document"};
   NarrowEvents events(handler);
   norvik::XmlResult result = norvik::ReadXml(text, events);
   if (result.read) return {};
-  if (!events.key().empty())
-    return {events.key(), result.line, result.column, "the document refuses what was read"};
-  return {"ET10079", result.line, result.column, std::move(result.reason)};
+  if (!events.Key().empty())
+    return {events.Key(), result.line, result.column, "the document refuses what was read"};
+  return {detail::key::kRefusedText, result.line, result.column, std::move(result.reason)};
 }
 
 bool parseXml(std::string_view text, SAXContentHandlerImpl* handler, std::string& error) {
-  const ParseResult result =
-      handler ? parseXml(text, *handler) : ParseResult{.key = "ET10077", .reason = "no handler"};
+  const ParseResult result = handler ? parseXml(text, *handler)
+                                     : ParseResult{.key = detail::key::kNoHandler, .reason = "no handler"};
   if (!result) error = result.key;
   return static_cast<bool>(result);
+}
+
+std::string ParseResult::describe() const {
+  std::string text = reason;
+  if (line != 0) text = "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + reason;
+  const bool fromEvent = !key.empty() && key != detail::key::kEmptyText && key != detail::key::kRefusedText;
+  return fromEvent ? text + " (" + key + ")" : text;
 }
 
 std::string xmlEncoding(std::string_view text) {

@@ -5,6 +5,8 @@
 #include <set>
 #include <utility>
 
+#include "data/detail/keys.h"
+#include "data/detail/tags.h"
 #include "data/exception.h"
 #include "platform/code_page.h"
 #include "platform/large_memory.h"
@@ -26,7 +28,7 @@ constexpr std::array<Kind, 256> kKinds = [] {
   return kinds;
 }();
 
-std::string_view Escaped(char byte, bool inAttribute) {
+std::string_view escaped(char byte, bool inAttribute) {
   switch (byte) {
     case '&':
       return "&amp;";
@@ -50,12 +52,12 @@ constexpr std::string_view kDeclaration = "xmlns:";
 constexpr std::string_view kXmlSpace = "http://www.w3.org/XML/1998/namespace";
 constexpr std::string_view kDeclarationSpace = "http://www.w3.org/2000/xmlns/";
 
-bool IsPrefixed(std::string_view name) {
+bool isPrefixed(std::string_view name) {
   return name.find(':') != std::string_view::npos;
 }
 
 // U+FFFE and U+FFFF, which only UTF-8 can hold of all code pages.
-bool HoldsNoncharacter(std::string_view run) {
+bool holdsNoncharacter(std::string_view run) {
   if (norvik::AnsiBounds()) return false;
   const std::u16string wide = norvik::Widen(run);
   return wide.find(u'\xFFFE') != std::u16string::npos || wide.find(u'\xFFFF') != std::u16string::npos;
@@ -64,9 +66,11 @@ bool HoldsNoncharacter(std::string_view run) {
 }  // namespace
 
 XmlWriter::XmlWriter(std::string_view encoding) {
-  if (!takesLabel(encoding)) throw TException("ET10071");
+  if (!takesLabel(encoding)) throw TException(detail::key::kBadText);
   out_.append("<?xml version=\"1.0\" encoding=\"").append(encoding).append("\"?>");
 }
+
+XmlWriter::~XmlWriter() = default;
 
 bool XmlWriter::takesLabel(std::string_view label) {
   const auto forbidden = [](char byte) { return byte == '"' || (byte >= 0 && byte < 0x20); };
@@ -74,29 +78,29 @@ bool XmlWriter::takesLabel(std::string_view label) {
 }
 
 void XmlWriter::field(const Field& field) {
-  CheckName(field.name(), "ET10062");
-  CheckPrefix(field.name(), "ET10062");
+  checkName(field.name(), detail::key::kBadTag);
+  checkPrefix(field.name(), detail::key::kBadTag);
   const std::string& name = field.name();
-  Leaf({0, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"}, field.getValue());
+  appendLeaf({0, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"}, field.getValue());
 }
 
-void XmlWriter::RowUnder(std::string_view tag, const Row& row) {
-  if (row.shape_ && row.shape_.get() != shape_.get()) Prepare(row.shape_);
-  Write(row, tag, row.size() != 0, [&] {
+void XmlWriter::rowUnder(std::string_view tag, const Row& row) {
+  if (row.shape_ && row.shape_.get() != shape_.get()) prepare(row.shape_);
+  appendElement(row, tag, row.size() != 0, [&] {
     for (const ColumnTags& column : columns_) {
-      if (prefixed_) CheckPrefix(column.name, "ET10062");
-      Leaf(column, row.cells_.value(column.slot));
+      if (prefixed_) checkPrefix(column.name, detail::key::kBadTag);
+      appendLeaf(column, row.cells_.value(column.slot));
     }
   });
 }
 
-void XmlWriter::ListUnder(std::string_view tag, const List& list) {
-  Write(list, tag, list.size() != 0, [&] { Rows(list); });
+void XmlWriter::listUnder(std::string_view tag, const List& list) {
+  appendElement(list, tag, list.size() != 0, [&] { appendRows(list); });
 }
 
 void XmlWriter::stream(const CorvaneStream& stream) {
   const bool hasContent = !stream.fields_.empty() || !stream.rows_.empty() || !stream.lists_.empty();
-  Write(stream, stream.name(), hasContent, [&] {
+  appendElement(stream, stream.name(), hasContent, [&] {
     for (const auto& [key, one] : stream.fields_) field(one);
     for (const Row& one : stream.rows_) row(one);
     for (const auto& [key, one] : stream.lists_) list(one);
@@ -104,25 +108,26 @@ void XmlWriter::stream(const CorvaneStream& stream) {
 }
 
 void XmlWriter::ini(const Ini& ini) {
-  Write(ini, "ini", ini.begin() != ini.end(), [&] {
-    for (const auto& [key, section] : ini) RowUnder("section", section);
+  appendElement(ini, detail::kIniTag, ini.begin() != ini.end(), [&] {
+    for (const auto& [key, section] : ini) rowUnder(detail::kSectionTag, section);
   });
 }
 
 void XmlWriter::iniplus(const Iniplus& iniplus) {
-  Write(iniplus, "iniplus", iniplus.begin() != iniplus.end(), [&] {
-    for (const auto& [key, section] : iniplus) ListUnder("section", section);
+  appendElement(iniplus, detail::kIniplusTag, iniplus.begin() != iniplus.end(), [&] {
+    for (const auto& [key, section] : iniplus) listUnder(detail::kSectionTag, section);
   });
 }
 
 template <class Content>
-void XmlWriter::Write(const Element& element, std::string_view tag, bool hasContent, Content content) {
+void XmlWriter::appendElement(const Element& element, std::string_view tag, bool hasContent,
+                              Content content) {
   const std::size_t outer = bindings_.size();
   const AttributeMap& attributes = element.attributes();
-  CheckName(tag, "ET10062");
+  checkName(tag, detail::key::kBadTag);
   out_.append(1, '<').append(tag);
-  if (!attributes.empty()) Attributes(attributes);
-  CheckPrefix(tag, "ET10062");
+  if (!attributes.empty()) appendAttributes(attributes);
+  checkPrefix(tag, detail::key::kBadTag);
   if (hasContent) {
     out_ += '>';
     content();
@@ -133,48 +138,49 @@ void XmlWriter::Write(const Element& element, std::string_view tag, bool hasCont
   bindings_.resize(outer);
 }
 
-void XmlWriter::Attributes(const AttributeMap& attributes) {
+void XmlWriter::appendAttributes(const AttributeMap& attributes) {
   bool prefixed = false;
   for (const auto& [name, value] : attributes) {
     if (value.empty()) continue;
-    CheckName(name, "ET10072");
+    checkName(name, detail::key::kBadAttributeName);
     out_.append(1, ' ').append(name).append("=\"");
     const std::size_t begin = out_.size();
-    Value(value, true, "ET10073");
+    appendValue(value, true, detail::key::kBadAttributeValue);
     if (name == "xmlns")
-      Bind({}, std::string_view(out_).substr(begin));
+      bind({}, std::string_view(out_).substr(begin));
     else if (name.starts_with(kDeclaration))
-      Bind(std::string_view(name).substr(kDeclaration.size()), std::string_view(out_).substr(begin));
+      bind(std::string_view(name).substr(kDeclaration.size()), std::string_view(out_).substr(begin));
     else
-      prefixed = prefixed || IsPrefixed(name);
+      prefixed = prefixed || isPrefixed(name);
     out_ += '"';
   }
-  if (prefixed) CheckPrefixes(attributes);
+  if (prefixed) checkPrefixes(attributes);
 }
 
-void XmlWriter::Bind(std::string_view prefix, std::string_view space) {
-  if (prefix == "xmlns") throw TException("ET10072");
-  if ((prefix == "xml") != (space == kXmlSpace) || space == kDeclarationSpace) throw TException("ET10073");
+void XmlWriter::bind(std::string_view prefix, std::string_view space) {
+  if (prefix == "xmlns") throw TException(detail::key::kBadAttributeName);
+  if ((prefix == "xml") != (space == kXmlSpace) || space == kDeclarationSpace)
+    throw TException(detail::key::kBadAttributeValue);
   bindings_.push_back({std::string(prefix), std::string(space)});
 }
 
-void XmlWriter::CheckPrefixes(const AttributeMap& attributes) const {
+void XmlWriter::checkPrefixes(const AttributeMap& attributes) const {
   std::set<std::pair<std::string_view, std::string_view>> seen;
   for (const auto& [name, value] : attributes) {
-    if (value.empty() || !IsPrefixed(name) || name.starts_with(kDeclaration)) continue;
+    if (value.empty() || !isPrefixed(name) || name.starts_with(kDeclaration)) continue;
     const std::string_view local = std::string_view(name).substr(name.find(':') + 1);
-    if (!seen.emplace(SpaceOf(name, "ET10072"), local).second) throw TException("ET10074");
+    if (!seen.emplace(spaceOf(name, detail::key::kBadAttributeName), local).second)
+      throw TException(detail::key::kAttributeTwice);
   }
 }
 
-void XmlWriter::CheckName(std::string_view name, const char* key) {
+void XmlWriter::checkName(std::string_view name, const char* key) {
   const bool ascii = norvik::AsciiRun(name) == name.size();
   if (!norvik::IsXmlName(ascii ? name : norvik::Utf8FromAnsi(name))) throw TException(key);
 }
 
-// The namespace of a name's prefix; fails with `key` for a prefix that is not bound.
-std::string_view XmlWriter::SpaceOf(std::string_view name, const char* key) const {
-  if (!IsPrefixed(name)) return {};
+std::string_view XmlWriter::spaceOf(std::string_view name, const char* key) const {
+  if (!isPrefixed(name)) return {};
   const std::string_view prefix = name.substr(0, name.find(':'));
   if (prefix == "xml") return kXmlSpace;
   const auto bound = std::find_if(bindings_.rbegin(), bindings_.rend(),
@@ -183,43 +189,43 @@ std::string_view XmlWriter::SpaceOf(std::string_view name, const char* key) cons
   return bound->space;
 }
 
-void XmlWriter::Leaf(const ColumnTags& tags, std::string_view value) {
+void XmlWriter::appendLeaf(const ColumnTags& tags, std::string_view value) {
   if (value.empty()) {
     out_ += tags.empty;
     return;
   }
   out_ += tags.open;
-  Value(value, false, "ET10071");
+  appendValue(value, false, detail::key::kBadText);
   out_ += tags.close;
 }
 
-void XmlWriter::Rows(const List& list) {
+void XmlWriter::appendRows(const List& list) {
   std::size_t more = 0;
   for (const Row& row : list) more += row.cells_.bytes();
   if (list.size() != 0 && list[0].shape_) {
-    Prepare(list[0].shape_);
+    prepare(list[0].shape_);
     more += list.size() * (tagBytes_ + 2 * list[0].name().size() + 5);
   }
-  Reserve(more);
+  reserve(more);
   for (const Row& one : list) row(one);
 }
 
-void XmlWriter::Prepare(const Shared<RowShape>& shape) {
+void XmlWriter::prepare(const detail::Shared<detail::RowShape>& shape) {
   shape_ = {};
   columns_.clear();
   tagBytes_ = 0;
   prefixed_ = false;
   for (const std::uint32_t slot : shape->order()) {
     const std::string& name = shape->name(slot);
-    CheckName(name, "ET10062");
+    checkName(name, detail::key::kBadTag);
     columns_.push_back({slot, name, "<" + name + ">", "</" + name + ">", "<" + name + "/>"});
-    prefixed_ = prefixed_ || IsPrefixed(name);
+    prefixed_ = prefixed_ || isPrefixed(name);
     tagBytes_ += 2 * name.size() + 5;
   }
   shape_ = shape;
 }
 
-void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key) {
+void XmlWriter::appendValue(std::string_view value, bool inAttribute, const char* key) {
   const auto kindAt = [&](std::size_t at) { return kKinds[static_cast<unsigned char>(value[at])]; };
   for (std::size_t at = 0; at < value.size();) {
     std::size_t end = at;
@@ -229,11 +235,11 @@ void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key)
     if (at == value.size()) return;
     if (kindAt(at) == Kind::kControl) throw TException(key);
     if (kindAt(at) == Kind::kMarkup) {
-      out_ += Escaped(value[at++], inAttribute);
+      out_ += escaped(value[at++], inAttribute);
       continue;
     }
     end = norvik::EndOfValidRun(value, at);
-    if (HoldsNoncharacter(value.substr(at, end - at))) throw TException(key);
+    if (holdsNoncharacter(value.substr(at, end - at))) throw TException(key);
     out_.append(value, at, end - at);
     at = end;
     if (at == value.size() || kindAt(at) != Kind::kForeign) continue;
@@ -242,7 +248,7 @@ void XmlWriter::Value(std::string_view value, bool inAttribute, const char* key)
   }
 }
 
-void XmlWriter::Reserve(std::size_t more) {
+void XmlWriter::reserve(std::size_t more) {
   const std::size_t wanted = out_.size() + more + more / 64 + 256;
   if (wanted <= out_.capacity()) return;
   out_.reserve(wanted);
@@ -252,7 +258,7 @@ void XmlWriter::Reserve(std::size_t more) {
 namespace {
 
 template <class Document, class Content>
-bool Step(const Document& document, std::string& text, Content content) {
+bool step(const Document& document, std::string& text, Content content) {
   try {
     XmlWriter writer(document.encoding());
     (writer.*content)(document);
@@ -266,27 +272,27 @@ bool Step(const Document& document, std::string& text, Content content) {
 }  // namespace
 
 bool writeXml(const Field& field, std::string& text) {
-  return Step(field, text, &XmlWriter::field);
+  return step(field, text, &XmlWriter::field);
 }
 
 bool writeXml(const Row& row, std::string& text) {
-  return Step(row, text, &XmlWriter::row);
+  return step(row, text, &XmlWriter::row);
 }
 
 bool writeXml(const List& list, std::string& text) {
-  return Step(list, text, &XmlWriter::list);
+  return step(list, text, &XmlWriter::list);
 }
 
 bool writeXml(const CorvaneStream& stream, std::string& text) {
-  return Step(stream, text, &XmlWriter::stream);
+  return step(stream, text, &XmlWriter::stream);
 }
 
 bool writeXml(const Ini& ini, std::string& text) {
-  return Step(ini, text, &XmlWriter::ini);
+  return step(ini, text, &XmlWriter::ini);
 }
 
 bool writeXml(const Iniplus& iniplus, std::string& text) {
-  return Step(iniplus, text, &XmlWriter::iniplus);
+  return step(iniplus, text, &XmlWriter::iniplus);
 }
 
 }  // namespace corvane

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "data/character_steps.h"
+#include "data/string_functions.h"
 #include "dialogs/audit_foot.h"
 #include "dialogs/font_fit.h"
 #include "dialogs/memo_break.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-#include "data/character_steps.h"
+#include "data/string_functions.h"
 #include "fuzz/target.h"
 #include "platform/code_page.h"
 

@@ -12,18 +12,20 @@
 
 namespace norvik {
 
-// A lead byte and a second byte that follows it are one character, also where the code page gives the pair no
-// code point. Every other byte is one by itself: a lead byte at the end of a text or before a byte that can't
-// be a second byte, such as '<', is lost alone.
+/// A lead byte and a second byte that follows it are one character, also where the code page gives the pair
+/// no code point. Every other byte is one by itself: a lead byte at the end of a text or before a byte that
+/// can't be a second byte, such as '<', is lost alone.
 class CharacterBounds {
  public:
-  // Makes `byte` a lead byte or a second byte, or both.
+  /// Makes `byte` a lead byte; it may be a second byte too.
   void SetLead(unsigned char byte) { kinds_[byte] |= kLead; }
+  /// Makes `byte` a second byte; it may be a lead byte too.
   void SetSecond(unsigned char byte) { kinds_[byte] |= kSecond; }
 
+  /// True for a byte that opens a pair.
   bool IsLead(unsigned char byte) const { return (kinds_[byte] & kLead) != 0; }
 
-  // Bytes of the character that starts at `at`, which is less than the size of `text`: 1 or 2.
+  /// Bytes of the character that starts at `at`, which is less than the size of `text`: 1 or 2.
   std::size_t Length(std::string_view text, std::size_t at) const {
     const bool pair = IsLead(static_cast<unsigned char>(text[at])) && at + 1 < text.size() &&
                       (kinds_[static_cast<unsigned char>(text[at + 1])] & kSecond) != 0;

@@ -1,3 +1,8 @@
+// The one table of handles behind platform/host_api.h: numbers for modules, windows, mutexes and bank
+// directories.
+//
+// For the .cpp files of this folder alone, which define the functions of the contract; nothing of it leaves
+// the library. An object is held by the table and by whoever is using it.
 #pragma once
 
 #include <memory>
@@ -18,7 +23,7 @@ norvik_handle PutHandle(std::shared_ptr<HandleObject> object) noexcept;
 /// The object of a handle, null if there is none. The caller's share keeps it alive beyond TakeHandle.
 std::shared_ptr<HandleObject> FindHandle(norvik_handle handle) noexcept;
 
-/// Ends a handle and gives out what it stood for; null and no change unless it is `object`.
+/// Ends a handle and returns what it stood for; null and no change unless it is `object`.
 std::shared_ptr<HandleObject> TakeHandle(norvik_handle handle, const HandleObject* object) noexcept;
 
 /// The object of a handle if it is of the kind `T`, else null.

@@ -1,3 +1,4 @@
+// The modules of platform/host_api.h, where their functions are declared.
 #include <dlfcn.h>
 #include <link.h>
 

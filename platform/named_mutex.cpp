@@ -1,3 +1,4 @@
+// The named mutexes of platform/host_api.h, where their functions are declared.
 #include <condition_variable>
 #include <map>
 #include <mutex>

@@ -144,8 +144,8 @@ bool Reading::PassLabel() {
 bool Reading::Feed() {
   const XML_Index done = XML_GetCurrentByteIndex(parser_.get());
   const std::size_t pending = done < 0 ? fed_ : fed_ - static_cast<std::size_t>(done);
-  constexpr std::size_t kLargest = std::numeric_limits<int>::max() / 8;
-  const std::size_t piece = std::min({std::max(kPiece, pending), kLargest, text_.size() - at_});
+  constexpr std::size_t kMaxPiece = std::numeric_limits<int>::max() / 8;
+  const std::size_t piece = std::min({std::max(kPiece, pending), kMaxPiece, text_.size() - at_});
   void* buffer = XML_GetBuffer(parser_.get(), static_cast<int>(3 * (piece + 1)));
   if (!buffer) return false;
   const std::size_t size = DecodeToUtf8(text_, at_, piece, static_cast<char*>(buffer));
@@ -225,8 +225,8 @@ void Reading::Skipped(void* self, const char*, int) {
   static_cast<Reading*>(self)->Stop(kUndeclared);
 }
 
-// Where declarations were not read, expat drops a reference in an attribute's value without telling. This
-// takes no notice of where in the text a reference stands.
+// Where declarations were not read, expat drops a reference in an attribute's value and reports nothing. This
+// looks at every reference, wherever in the text it stands.
 bool Reading::RefersToUndeclared() const {
   constexpr std::array<std::string_view, 5> kPredefined{"lt", "gt", "amp", "apos", "quot"};
   for (std::size_t at = text_.find('&'); at != std::string_view::npos; at = text_.find('&', at + 1)) {
@@ -260,6 +260,8 @@ bool ExpatTakesName(std::string_view name) {
 }
 
 }  // namespace
+
+XmlEvents::~XmlEvents() = default;
 
 XmlAttributes::XmlAttributes(const char** pairs) : pairs_(pairs) {
   while (pairs_[2 * size_]) ++size_;

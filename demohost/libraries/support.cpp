@@ -4,7 +4,7 @@
 #include <atomic>
 #include <cstring>
 
-#include "data/character_steps.h"
+#include "data/string_functions.h"
 #include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"

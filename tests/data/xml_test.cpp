@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "data/corvane.h"
+#include "data/xml_handlers.h"
 #include "data/xml_reader.h"
 #include "data/xml_writer.h"
 #include "platform/code_page.h"

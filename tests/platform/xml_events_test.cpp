@@ -16,7 +16,7 @@ class Log : public norvik::XmlEvents {
     if (name == "throw") throw std::runtime_error("thrown");
     text_.append("<").append(name);
     std::string space;
-    for (std::size_t at = 0; at < attributes.size(); ++at)
+    for (std::size_t at = 0; at < attributes.Size(); ++at)
       text_.append(" ")
           .append(attributes.QualifiedName(at, space))
           .append("='")

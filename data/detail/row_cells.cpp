@@ -1,4 +1,4 @@
-#include "data/row_cells.h"
+#include "data/detail/row_cells.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -7,7 +7,7 @@
 #include <new>
 #include <stdexcept>
 
-namespace corvane {
+namespace corvane::detail {
 
 Shared<PackedCells> PackedCells::make(const std::vector<std::size_t>& ends, std::string_view bytes) {
   if (bytes.size() > std::numeric_limits<std::uint32_t>::max())
@@ -15,9 +15,9 @@ Shared<PackedCells> PackedCells::make(const std::vector<std::size_t>& ends, std:
   const std::size_t table = ends.size() * sizeof(std::uint32_t);
   void* memory = ::operator new(sizeof(PackedCells) + table + bytes.size());
   auto* cells = new (memory) PackedCells(static_cast<std::uint32_t>(ends.size()));
-  std::transform(ends.begin(), ends.end(), cells->Ends(),
+  std::transform(ends.begin(), ends.end(), cells->ends(),
                  [](std::size_t end) { return static_cast<std::uint32_t>(end); });
-  if (!bytes.empty()) std::memcpy(cells->Ends() + ends.size(), bytes.data(), bytes.size());
+  if (!bytes.empty()) std::memcpy(cells->ends() + ends.size(), bytes.data(), bytes.size());
   return Shared<PackedCells>(cells);
 }
 
@@ -27,12 +27,12 @@ void PackedCells::destroy(const PackedCells* cells) {
 }
 
 std::string_view PackedCells::value(std::uint32_t slot) const {
-  const std::uint32_t* ends = Ends();
-  const std::uint32_t begin = slot == 0 ? 0 : ends[slot - 1];
-  return {reinterpret_cast<const char*>(ends + count_) + begin, ends[slot] - begin};
+  const std::uint32_t* const end = ends();
+  const std::uint32_t begin = slot == 0 ? 0 : end[slot - 1];
+  return {reinterpret_cast<const char*>(end + count_) + begin, end[slot] - begin};
 }
 
-RowCells::RowCells(const RowCells& other) : packed_(other.Packed()) {}
+RowCells::RowCells(const RowCells& other) : packed_(other.packed()) {}
 
 RowCells& RowCells::operator=(RowCells other) noexcept {
   std::swap(packed_, other.packed_);
@@ -40,13 +40,13 @@ RowCells& RowCells::operator=(RowCells other) noexcept {
   return *this;
 }
 
-const RowCells::Group* RowCells::GroupOf(std::uint32_t slot) const {
+const RowCells::Group* RowCells::groupOf(std::uint32_t slot) const {
   if (!opened_ || slot / kGroup >= opened_->groups.size()) return nullptr;
   return opened_->groups[slot / kGroup].get();
 }
 
 std::string_view RowCells::value(std::uint32_t slot) const {
-  if (const Group* group = GroupOf(slot)) return (*group)[slot % kGroup];
+  if (const Group* group = groupOf(slot)) return (*group)[slot % kGroup];
   return packed_ && slot < packed_->count() ? packed_->value(slot) : std::string_view();
 }
 
@@ -60,11 +60,11 @@ std::size_t RowCells::bytes() const {
 }
 
 std::string& RowCells::open(std::uint32_t slot) {
-  if (const Group* group = GroupOf(slot)) return const_cast<Group&>(*group)[slot % kGroup];
-  return OpenGroup(slot / kGroup)[slot % kGroup];
+  if (const Group* group = groupOf(slot)) return const_cast<Group&>(*group)[slot % kGroup];
+  return openGroup(slot / kGroup)[slot % kGroup];
 }
 
-RowCells::Group& RowCells::OpenGroup(std::uint32_t index) {
+RowCells::Group& RowCells::openGroup(std::uint32_t index) {
   if (!opened_) opened_ = std::make_unique<Opened>();
   auto& groups = opened_->groups;
   if (index >= groups.size()) groups.resize(index + 1);
@@ -79,7 +79,7 @@ RowCells::Group& RowCells::OpenGroup(std::uint32_t index) {
   return *groups[index];
 }
 
-Shared<PackedCells> RowCells::Packed() const {
+Shared<PackedCells> RowCells::packed() const {
   if (!opened_) return packed_;
   const auto opened = static_cast<std::uint32_t>(opened_->groups.size()) * kGroup;
   const std::uint32_t slots = std::max(opened, packed_ ? packed_->count() : 0);
@@ -93,4 +93,4 @@ Shared<PackedCells> RowCells::Packed() const {
   return PackedCells::make(ends, bytes);
 }
 
-}  // namespace corvane
+}  // namespace corvane::detail

@@ -1,4 +1,7 @@
-// The column names of a row.
+// The column names of a row, and the slot of each.
+//
+// For Row and whoever walks over its columns. Rows of one list share a shape; the values lie in
+// data/detail/row_cells.h.
 #pragma once
 
 #include <atomic>
@@ -9,11 +12,11 @@
 #include <string_view>
 #include <vector>
 
-#include "data/shared.h"
+#include "data/detail/shared.h"
 
-namespace corvane {
+namespace corvane::detail {
 
-// Whether two short texts are the same; names are compared so often that a call for each would show.
+/// Whether two short texts are the same; names are compared so often that a call for each would show.
 inline bool sameText(std::string_view left, std::string_view right) {
   const std::size_t size = left.size();
   if (size != right.size()) return false;
@@ -34,10 +37,10 @@ inline bool sameText(std::string_view left, std::string_view right) {
   return true;
 }
 
-// Which columns a row has, and in which slot of its cells each value lies. Rows of one list share a shape,
-// and so their names. A slot never changes while its column lives; the slot of a removed column serves the
-// next new one. A shape of many columns keeps them in a tree: whatever names a text brings, reading it costs
-// no more than in proportion to its length, but for a logarithm.
+/// Which columns a row has, and in which slot of its cells each value lies. Rows of one list share a shape,
+/// and so their names. A slot never changes while its column lives; the slot of a removed column serves the
+/// next new one. A shape of many columns keeps them in a tree: whatever names a text brings, reading it costs
+/// no more than in proportion to its length, but for a logarithm.
 class RowShape : public Counted<RowShape> {
  public:
   static constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
@@ -48,32 +51,32 @@ class RowShape : public Counted<RowShape> {
   RowShape& operator=(const RowShape&) = delete;
   ~RowShape() = default;
 
-  // The slot of a column, or kNoSlot.
+  /// The slot of a column, or kNoSlot.
   std::uint32_t find(std::string_view key) const;
-  // Adds a column that is not there; returns its slot.
+  /// Adds a column that is not there; returns its slot.
   std::uint32_t add(std::string_view key);
   void remove(std::uint32_t slot);
 
-  // Number of columns, and of slots.
+  /// Number of columns, and of slots.
   std::uint32_t columns() const { return slotCount() - static_cast<std::uint32_t>(free_.size()); }
   std::uint32_t slotCount() const { return static_cast<std::uint32_t>(names_.size()); }
-  // The slots in byte order of their columns' names.
+  /// The slots in byte order of their columns' names.
   const std::vector<std::uint32_t>& order() const {
-    if (stale_.load(std::memory_order_acquire)) Refresh();
+    if (stale_.load(std::memory_order_acquire)) refresh();
     return order_;
   }
   const Label& label(std::uint32_t slot) const { return names_[slot]; }
   const std::string& name(std::uint32_t slot) const { return names_[slot].text(); }
 
-  // The same names; the same names in the same slots.
+  /// The same names; the same names in the same slots.
   bool sameColumns(const RowShape& other) const;
   bool sameSlots(const RowShape& other) const;
 
  private:
-  void Enter(std::uint32_t slot);
-  void Index();
-  void Refresh() const;
-  bool Many() const { return !tree_.empty(); }
+  void enter(std::uint32_t slot);
+  void index();
+  void refresh() const;
+  bool many() const { return !tree_.empty(); }
 
   std::vector<Label> names_;          // by slot
   std::vector<std::uint32_t> free_;   // slots without a column
@@ -83,4 +86,4 @@ class RowShape : public Counted<RowShape> {
   mutable std::atomic<bool> stale_{false};          // the tree has changed since order_ was made
 };
 
-}  // namespace corvane
+}  // namespace corvane::detail

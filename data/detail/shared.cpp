@@ -1,6 +1,6 @@
-#include "data/shared.h"
+#include "data/detail/shared.h"
 
-namespace corvane {
+namespace corvane::detail {
 
 Label::Label(std::string_view text) {
   assign(text);
@@ -14,4 +14,4 @@ void Label::assign(std::string_view text) {
   text_->value = text;
 }
 
-}  // namespace corvane
+}  // namespace corvane::detail

@@ -1,8 +1,8 @@
-#include "data/row_builder.h"
+#include "data/detail/row_builder.h"
 
 #include <utility>
 
-namespace corvane {
+namespace corvane::detail {
 
 void RowBuilder::reset(std::string_view name, const AttributeMap& attributes) {
   row_.clear();
@@ -18,7 +18,7 @@ void RowBuilder::addField(const Field& field) {
     addExpected(field.getValue());
     return;
   }
-  if (!general_) Generalize();
+  if (!general_) generalize();
   row_.addField(field);
 }
 
@@ -44,14 +44,14 @@ Row RowBuilder::build() {
     return built;
   }
   if (!general_) {
-    Generalize();
+    generalize();
     built = row_;
   }
   expected_ = built.shape_;
   return built;
 }
 
-void RowBuilder::Generalize() {
+void RowBuilder::generalize() {
   general_ = true;
   std::size_t begin = 0;
   for (std::size_t slot = 0; slot < ends_.size(); ++slot) {
@@ -61,4 +61,4 @@ void RowBuilder::Generalize() {
   }
 }
 
-}  // namespace corvane
+}  // namespace corvane::detail

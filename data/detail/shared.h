@@ -1,7 +1,8 @@
 // Shared immutable parts of documents: counted pointers, labels, attributes.
 //
-// Copies of documents share their parts; a part that is shared is never changed. Counts are atomic, so that
-// copies may be used on different threads; one object is not to be used on two at once.
+// For the classes of documents. // Copies of documents share their parts; a part that is shared is never
+// changed. Counts are atomic, so that copies may be used on different threads; one object is not to be used
+// on two at once.
 #pragma once
 
 #include <atomic>
@@ -13,9 +14,9 @@
 #include <string_view>
 #include <utility>
 
-namespace corvane {
+namespace corvane::detail {
 
-// The base of a part T that Shared<T> points to.
+/// The base of a part T that Shared<T> points to.
 template <class T>
 class Counted {
  public:
@@ -24,14 +25,14 @@ class Counted {
   Counted& operator=(const Counted&) { return *this; }
 
   void retain() const {
-    if (!Permanent()) references_.fetch_add(1, std::memory_order_relaxed);
+    if (!permanent()) references_.fetch_add(1, std::memory_order_relaxed);
   }
   void release() const {
-    if (Permanent()) return;
+    if (permanent()) return;
     if (references_.fetch_sub(1, std::memory_order_acq_rel) == 1) T::destroy(static_cast<const T*>(this));
   }
   bool unique() const { return references_.load(std::memory_order_acquire) == 1; }
-  // Ends the counting: the part is shared from here on, and never destroyed.
+  /// Ends the counting: the part is shared from here on, and never destroyed.
   void makePermanent() const { references_.store(kPermanent, std::memory_order_relaxed); }
   static void destroy(const T* part) { delete part; }
 
@@ -41,13 +42,13 @@ class Counted {
  private:
   static constexpr std::uint32_t kPermanent = 0x80000000;
 
-  bool Permanent() const { return references_.load(std::memory_order_relaxed) >= kPermanent; }
+  bool permanent() const { return references_.load(std::memory_order_relaxed) >= kPermanent; }
 
   mutable std::atomic<std::uint32_t> references_{0};
 };
 
-// The place of a part that documents may point to at any time, also while static objects are destroyed, and
-// at no cost of counting. For static storage.
+/// The place of a part that documents may point to at any time, also while static objects are destroyed, and
+/// at no cost of counting. For static storage.
 template <class T>
 class PermanentPart {
  public:
@@ -64,7 +65,7 @@ class PermanentPart {
   };
 };
 
-// A pointer that keeps its part alive; null by default and after a move.
+/// A pointer that keeps its part alive; null by default and after a move.
 template <class T>
 class Shared {
  public:
@@ -87,7 +88,7 @@ class Shared {
   T& operator*() const { return *part_; }
   explicit operator bool() const { return part_ != nullptr; }
 
-  // The part for changing: made where there is none, copied first where it is shared.
+  /// The part for changing: made where there is none, copied first where it is shared.
   T& edit() {
     if (!part_)
       *this = Shared(new T);
@@ -100,17 +101,17 @@ class Shared {
   T* part_ = nullptr;
 };
 
-// A short text that many objects bear: a tag, a column's name, an encoding.
+/// A short text that many objects bear: a tag, a column's name, an encoding.
 class Label {
  public:
   Label() = default;
   explicit Label(std::string_view text);
 
-  // The text; empty for a default label.
+  /// The text; empty for a default label.
   const std::string& text() const { return text_ ? text_->value : kEmpty; }
-  // Takes `text`; costs nothing where it is the text already.
+  /// Takes `text`; costs nothing where it is the text already.
   void assign(std::string_view text);
-  // True for labels that share their text; equal texts may be shared or not.
+  /// True for labels that share their text; equal texts may be shared or not.
   bool sharedWith(const Label& other) const { return text_.get() == other.text_.get(); }
 
  private:
@@ -124,8 +125,8 @@ class Label {
   Shared<Text> text_;
 };
 
-// The label that a class of documents bears by default. For static storage; at most 15 characters, which need
-// no memory of their own.
+/// The label that a class of documents bears by default. For static storage; at most 15 characters, which
+/// need no memory of their own.
 class PermanentLabel {
  public:
   explicit PermanentLabel(const char* text) : label_(text_.get()) { text_.get()->value = text; }
@@ -136,12 +137,9 @@ class PermanentLabel {
   Label label_;
 };
 
-// Attributes by name, in byte order.
-using AttributeMap = std::map<std::string, std::string, std::less<>>;
-
-// The attributes of one element; nothing but a null pointer where there are none.
+/// The attributes of one element, an AttributeMap; nothing but a null pointer where there are none.
 struct AttributePart : Counted<AttributePart> {
-  AttributeMap map;
+  std::map<std::string, std::string, std::less<>> map;
 };
 
-}  // namespace corvane
+}  // namespace corvane::detail

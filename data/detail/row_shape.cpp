@@ -1,14 +1,14 @@
-#include "data/row_shape.h"
+#include "data/detail/row_shape.h"
 
 #include <algorithm>
 #include <cstring>
 #include <mutex>
 
-namespace corvane {
+namespace corvane::detail {
 namespace {
 
 // A quick mix of length, beginning and end: names of columns are short.
-std::size_t Hash(std::string_view key) {
+std::size_t hash(std::string_view key) {
   std::uint64_t head = 0;
   std::uint64_t tail = 0;
   const std::size_t size = key.size();
@@ -37,13 +37,13 @@ RowShape::RowShape(const RowShape& other)
       order_(other.order()) {}
 
 std::uint32_t RowShape::find(std::string_view key) const {
-  if (Many()) {
+  if (many()) {
     const auto found = tree_.find(key);
     return found == tree_.end() ? kNoSlot : found->second;
   }
   if (table_.empty()) return kNoSlot;
   const std::size_t mask = table_.size() - 1;
-  for (std::size_t at = Hash(key) & mask; table_[at] != 0; at = (at + 1) & mask) {
+  for (std::size_t at = hash(key) & mask; table_[at] != 0; at = (at + 1) & mask) {
     const std::uint32_t slot = table_[at] - 1;
     if (sameText(name(slot), key)) return slot;
   }
@@ -59,7 +59,7 @@ std::uint32_t RowShape::add(std::string_view key) {
     free_.pop_back();
     names_[slot].assign(key);
   }
-  if (Many()) {
+  if (many()) {
     tree_.emplace(name(slot), slot);
     stale_ = true;
     return slot;
@@ -70,14 +70,14 @@ std::uint32_t RowShape::add(std::string_view key) {
     for (const std::uint32_t each : order_) tree_.emplace(name(each), each);
     table_.clear();
   } else if (table_.size() < 2 * order_.size())
-    Index();
+    index();
   else
-    Enter(slot);
+    enter(slot);
   return slot;
 }
 
 void RowShape::remove(std::uint32_t slot) {
-  if (Many()) {
+  if (many()) {
     tree_.erase(name(slot));
     stale_ = true;
   } else {
@@ -85,7 +85,7 @@ void RowShape::remove(std::uint32_t slot) {
   }
   names_[slot].assign({});
   free_.push_back(slot);
-  if (!Many()) Index();
+  if (!many()) index();
 }
 
 bool RowShape::sameColumns(const RowShape& other) const {
@@ -101,15 +101,15 @@ bool RowShape::sameSlots(const RowShape& other) const {
   return order() == other.order() && slotCount() == other.slotCount() && sameColumns(other);
 }
 
-void RowShape::Enter(std::uint32_t slot) {
+void RowShape::enter(std::uint32_t slot) {
   const std::size_t mask = table_.size() - 1;
-  std::size_t at = Hash(name(slot)) & mask;
+  std::size_t at = hash(name(slot)) & mask;
   while (table_[at] != 0) at = (at + 1) & mask;
   table_[at] = slot + 1;
 }
 
 // Copies of a shape may be read on different threads.
-void RowShape::Refresh() const {
+void RowShape::refresh() const {
   static std::mutex guard;
   const std::lock_guard<std::mutex> lock(guard);
   if (!stale_) return;
@@ -118,11 +118,11 @@ void RowShape::Refresh() const {
   stale_.store(false, std::memory_order_release);
 }
 
-void RowShape::Index() {
+void RowShape::index() {
   std::size_t size = 8;
   while (size < 4 * order().size()) size *= 2;
   table_.assign(size, 0);
-  for (const std::uint32_t slot : order()) Enter(slot);
+  for (const std::uint32_t slot : order()) enter(slot);
 }
 
-}  // namespace corvane
+}  // namespace corvane::detail
