@@ -46,7 +46,7 @@ void ErrorText::ThrowLines() const {
 
 std::string ResultPair::Text() const {
   if (length_ < 0) throw corvane::TIOException(key::kNegativeLength, std::string());
-  if (length_ > kLongestAnswer) throw corvane::TIOException(key::kAbsurdLength, std::string());
+  if (length_ > kMaxAnswerBytes) throw corvane::TIOException(key::kAbsurdLength, std::string());
   if (length_ == 0) return std::string();
   if (!buffer_) throw corvane::TIOException(key::kMissingBuffer, std::string());
   return std::string(buffer_, static_cast<std::size_t>(length_));

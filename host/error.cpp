@@ -1,10 +1,13 @@
 #include "host/error.h"
 
+#include "host/keys.h"
 #include "host/ordinals.h"
 
 namespace {
 
-constexpr norvik::TextService::Terms kTerms = {norvik::ordinals::kError, "CF23001", "CF23002", "CF23003"};
+constexpr norvik::TextService::Terms kTerms = {norvik::ordinals::kError, norvik::key::kNoErrors,
+                                               norvik::key::kErrorsIncomplete,
+                                               norvik::key::kErrorsNotStarted};
 
 }  // namespace
 
@@ -15,11 +18,11 @@ void ErrorIntf::Bind(norvik_handle publicInformation) {
 }
 
 std::string ErrorIntf::GetErrorText(const std::string& keys, std::uint8_t flag) const {
-  return Text(5, keys, flag);
+  return Text(norvik::ordinals::kErrorText, keys, flag);
 }
 
 std::string ErrorIntf::GetReasonText(const std::string& code, std::uint8_t flag) const {
-  return Text(4, code, flag);
+  return Text(norvik::ordinals::kReasonText, code, flag);
 }
 
 std::string ErrorIntf::Text(std::uint32_t ordinal, const std::string& codeOrKeys, std::uint8_t flag) const {

@@ -1,3 +1,6 @@
+// The proxy of the host's error library: keys and reason codes to messages.
+//
+// For the standard reporting (dialogs/messages.h) and the screens, through g_pError. It shows nothing itself.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +14,7 @@
 /// "CF30005" before anything is sent. All calls: user-interface thread, after Bind.
 class ErrorIntf {
  public:
+  /// `module` is the library's handle, 0 where the host has none; nothing is called before Bind.
   explicit ErrorIntf(norvik_handle module);
 
   /// `publicInformation` is what InitModule received. TIOException "CF23001" if there is no library,

@@ -1,5 +1,6 @@
 #include "host/excel.h"
 
+#include "host/keys.h"
 #include "host/ordinals.h"
 
 using norvik::Outgoing;
@@ -23,13 +24,14 @@ struct Texts {
 }  // namespace
 
 ExcelIntf::ExcelIntf(norvik_handle module) : m_module(module) {
-  if (!functions_.Resolve(m_module, norvik::ordinals::kExcel)) throw corvane::TException("CF20023");
+  if (!functions_.Resolve(m_module, norvik::ordinals::kExcel))
+    throw corvane::TException(norvik::key::kExcelIncomplete);
 }
 
 void ExcelIntf::ExportExcel(const std::string& path, const corvane::Row& head, const corvane::List& columns,
                             const corvane::List& data) const {
   using Export = std::uint8_t(const char*, const char*, const char*, const char*, char*);
-  const auto write = functions_.Function<Export>(2);
+  const auto write = functions_.Function<Export>(norvik::ordinals::kExportWorkbook);
   const Texts texts(path, head, columns, data);
   norvik::Order([&](char* error) {
     return write(path.c_str(), texts.head.c_str(), texts.columns.c_str(), texts.data.c_str(), error);
@@ -41,7 +43,7 @@ void ExcelIntf::ExportText(const std::string& path, const corvane::Row& head, co
                            std::int32_t option) const {
   using Export =
       std::uint8_t(const char*, const char*, const char*, const char*, const char*, char*, std::int32_t);
-  const auto write = functions_.Function<Export>(5);
+  const auto write = functions_.Function<Export>(norvik::ordinals::kExportText);
   const Texts texts(path, head, columns, data);
   const char* const between = Outgoing(separator);
   norvik::Order([&](char* error) {

@@ -1,3 +1,6 @@
+// The proxy of the host's spreadsheet library: records to workbooks and text files.
+//
+// For the export of a list, through g_pExcel. What is exported is decided above, in framework/.
 #pragma once
 
 #include <cstdint>

@@ -3,6 +3,7 @@
 #include <array>
 #include <ctime>
 
+#include "host/keys.h"
 #include "host/ordinals.h"
 
 using norvik::Outgoing;
@@ -20,11 +21,12 @@ std::string LocalDateTime() {
 }  // namespace
 
 PrintIntf::PrintIntf(norvik_handle module) : m_module(module) {
-  if (!functions_.Resolve(m_module, norvik::ordinals::kPrint)) throw corvane::TException("CF14010");
+  if (!functions_.Resolve(m_module, norvik::ordinals::kPrint))
+    throw corvane::TException(norvik::key::kPrintIncomplete);
 }
 
 void PrintIntf::Init(norvik_handle publicInformation) {
-  const auto start = functions_.Function<std::uint8_t(norvik_handle, char*)>(1);
+  const auto start = functions_.Function<std::uint8_t(norvik_handle, char*)>(norvik::ordinals::kStart);
   norvik::Order([&](char* error) { return start(publicInformation, error); });
 }
 
@@ -34,7 +36,7 @@ void PrintIntf::PrintList(const std::string& templateName, const std::string& co
   head["COUNT"] = std::to_string(data.size());
   head["MAKEDATE"] = LocalDateTime();
   head["SELCONDITION"] = condition;
-  const auto print = functions_.Function<Print>(3);
+  const auto print = functions_.Function<Print>(norvik::ordinals::kPrintList);
   const std::string headText = head.toString();
   const std::string dataText = data.toString();
   const char* const name = Outgoing(templateName);
@@ -44,5 +46,5 @@ void PrintIntf::PrintList(const std::string& templateName, const std::string& co
 }
 
 void PrintIntf::PrintSetup(const std::string& templateName) const {
-  functions_.Function<void(const char*)>(5)(Outgoing(templateName));
+  functions_.Function<void(const char*)>(norvik::ordinals::kPrintSetup)(Outgoing(templateName));
 }

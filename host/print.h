@@ -1,3 +1,6 @@
+// The proxy of the host's print library: records to paper, by a template of the host.
+//
+// For the print actions, through g_pPrint. It knows no form and no printer.
 #pragma once
 
 #include <string>

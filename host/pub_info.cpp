@@ -1,7 +1,9 @@
 #include "host/pub_info.h"
 
+#include "host/keys.h"
 #include "host/ordinals.h"
 
+namespace ordinals = norvik::ordinals;
 using norvik::Outgoing;
 
 namespace {
@@ -16,23 +18,23 @@ using Remove = std::int32_t(const char*);
 void PubInfoIntf::Bind(norvik_handle module) {
   if (m_bound) return;
   m_module = module;
-  if (!functions_.Resolve(m_module, norvik::ordinals::kPublicInformation))
-    throw corvane::TException("CF15001");
-  functions_.Function<std::int32_t(std::uint32_t)>(1)(m_module);
+  if (!functions_.Resolve(m_module, ordinals::kPublicInformation))
+    throw corvane::TException(norvik::key::kPublicInformationIncomplete);
+  functions_.Function<std::int32_t(std::uint32_t)>(ordinals::kStart)(m_module);
   m_bound = true;
 }
 
 std::uint32_t PubInfoIntf::GetHandle(const std::string& key) {
-  return functions_.Function<std::uint32_t(const char*)>(123)(Outgoing(key));
+  return functions_.Function<std::uint32_t(const char*)>(ordinals::kGetHandle)(Outgoing(key));
 }
 
 void PubInfoIntf::SetHandle(const std::string& key, std::uint32_t value) {
-  functions_.Function<std::int32_t(const char*, std::uint32_t)>(122)(Outgoing(key), value);
+  functions_.Function<std::int32_t(const char*, std::uint32_t)>(ordinals::kSetHandle)(Outgoing(key), value);
 }
 
 template <class Call>
 std::string PubInfoIntf::Read(Call call) const {
-  return norvik::ReadText(functions_.Function<void(char*)>(3), call);
+  return norvik::ReadText(functions_.Function<void(char*)>(ordinals::kGiveBack), call);
 }
 
 // Most reads: the result pair, one to three keys, the error text.
@@ -47,39 +49,39 @@ std::string PubInfoIntf::ReadByKeys(std::uint32_t ordinal, const Text&... keys) 
 }
 
 corvane::Field PubInfoIntf::GetField(const std::string& block, const std::string& name) {
-  return corvane::Field(ReadByKeys(24, block, name));
+  return corvane::Field(ReadByKeys(ordinals::kGetField, block, name));
 }
 
 void PubInfoIntf::SetField(const std::string& block, const corvane::Field& field) {
   const std::string text = field.toString();
-  norvik::ErrorText error(255);
-  const auto write = functions_.Function<WriteField>(23);
+  norvik::ErrorText error(norvik::kReadErrorBytes);
+  const auto write = functions_.Function<WriteField>(ordinals::kSetField);
   if (write(Outgoing(block), Outgoing(text), error.Buffer()) == 0) error.ThrowWhole();
 }
 
 corvane::List PubInfoIntf::GetList(const std::string& key) {
-  return corvane::List(ReadByKeys(40, key));
+  return corvane::List(ReadByKeys(ordinals::kGetList, key));
 }
 
 corvane::Ini PubInfoIntf::GetIni(const std::string& key) {
-  return corvane::Ini(ReadByKeys(60, key));
+  return corvane::Ini(ReadByKeys(ordinals::kGetIni, key));
 }
 
 void PubInfoIntf::SetIni(const std::string& key, const corvane::Ini& ini) {
-  Replace(59, 58, key, ini.toString());
+  Replace(ordinals::kRemoveIni, ordinals::kStoreIni, key, ini.toString());
 }
 
 std::string PubInfoIntf::GetIniValue(const std::string& key, const std::string& section,
                                      const std::string& item) {
-  return ReadByKeys(68, key, section, item);
+  return ReadByKeys(ordinals::kGetIniValue, key, section, item);
 }
 
 corvane::Iniplus PubInfoIntf::GetIniplus(const std::string& key) {
-  return corvane::Iniplus(ReadByKeys(82, key));
+  return corvane::Iniplus(ReadByKeys(ordinals::kGetIniplus, key));
 }
 
 void PubInfoIntf::SetIniplus(const std::string& key, const corvane::Iniplus& iniplus) {
-  Replace(81, 80, key, iniplus.toString());
+  Replace(ordinals::kRemoveIniplus, ordinals::kStoreIniplus, key, iniplus.toString());
 }
 
 // Everything that can fail has been done before the old document goes.
@@ -95,7 +97,7 @@ void PubInfoIntf::Replace(std::uint32_t removeOrdinal, std::uint32_t storeOrdina
 
 corvane::Row PubInfoIntf::GetIniplusRow(const std::string& key, const std::string& section,
                                         std::int32_t index) {
-  const auto function = functions_.Function<ReadRow>(87);
+  const auto function = functions_.Function<ReadRow>(ordinals::kGetIniplusRow);
   const char* const name = Outgoing(key);
   const char* const part = Outgoing(section);
   return corvane::Row(Read([&](char** buffer, std::int32_t* length, char* error) {
@@ -104,5 +106,5 @@ corvane::Row PubInfoIntf::GetIniplusRow(const std::string& key, const std::strin
 }
 
 corvane::List PubInfoIntf::GetIniplusList(const std::string& key, const std::string& section) {
-  return corvane::List(ReadByKeys(90, key, section));
+  return corvane::List(ReadByKeys(ordinals::kGetIniplusList, key, section));
 }

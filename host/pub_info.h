@@ -1,3 +1,6 @@
+// The proxy of the host's public information library: configuration, dictionaries and handles by key.
+//
+// For all folders above, through g_pPubInfo. It caches nothing: each read asks the host.
 #pragma once
 
 #include <cstdint>
@@ -14,8 +17,11 @@
 /// Bind.
 class PubInfoIntf {
  public:
+  /// Nothing is called before Bind.
   PubInfoIntf() = default;
+  /// A proxy is not copied.
   PubInfoIntf(const PubInfoIntf&) = delete;
+  /// A proxy is not assigned to.
   PubInfoIntf& operator=(const PubInfoIntf&) = delete;
   virtual ~PubInfoIntf() = default;
 
@@ -25,28 +31,33 @@ class PubInfoIntf {
 
   /// The value under the key; what an unknown key gives is up to the host.
   std::uint32_t GetHandle(const std::string& key);
+  /// Stores a value under the key.
   void SetHandle(const std::string& key, std::uint32_t value);
 
+  /// Reads the field of that name in a block.
   corvane::Field GetField(const std::string& block, const std::string& name);
 
   /// Stores the field in the block under the field's own name. TIOException with the host's text if it
   /// refuses.
   void SetField(const std::string& block, const corvane::Field& field);
 
+  /// Reads a list.
   corvane::List GetList(const std::string& key);
 
+  /// Reads an Ini document.
   corvane::Ini GetIni(const std::string& key);
 
-  /// Puts the document in the place of the old one, which stays if the new one can't be written. The host
+  /// Replaces an Ini document; the old one stays if the new one can't be written. The host
   /// reports no failure.
   void SetIni(const std::string& key, const corvane::Ini& ini);
 
   /// One value of an Ini document, byte for byte.
   std::string GetIniValue(const std::string& key, const std::string& section, const std::string& item);
 
+  /// Reads an Iniplus document.
   corvane::Iniplus GetIniplus(const std::string& key);
 
-  /// As SetIni.
+  /// Replaces an Iniplus document, as SetIni.
   void SetIniplus(const std::string& key, const corvane::Iniplus& iniplus);
 
   /// One row of a section, counted from 0.

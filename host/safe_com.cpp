@@ -14,7 +14,8 @@ constexpr std::int64_t kEndOfYear9999 = 253402300799999;  // milliseconds since 
 }  // namespace
 
 SafeComIntf::SafeComIntf(norvik_handle module) : m_module(module) {
-  if (!functions_.Resolve(m_module, norvik::ordinals::kSafeCom)) throw corvane::TException("ET16024");
+  if (!functions_.Resolve(m_module, norvik::ordinals::kSafeCom))
+    throw corvane::TException(norvik::key::kSafeComIncomplete);
   m_language = g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language");
 }
 
@@ -38,18 +39,19 @@ std::string SafeComIntf::SendText(const std::string& code, const std::string& te
 
 std::string SafeComIntf::Exchange(const std::string& code, const std::string& text, std::int32_t flag) const {
   using Send = std::uint8_t(const char*, const char*, std::int32_t, char**, std::int32_t*, char*);
-  const auto send = functions_.Function<Send>(5);
+  const auto send = functions_.Function<Send>(norvik::ordinals::kSend);
   const char* const name = norvik::Outgoing(code);
   const char* const request = norvik::Outgoing(text);
-  norvik::ErrorText error(256);
-  norvik::ResultPair answer(functions_.Function<void(char*)>(4), norvik::ResultPair::OnNull::kSkip);
+  norvik::ErrorText error(norvik::kOrderErrorBytes);
+  norvik::ResultPair answer(functions_.Function<void(char*)>(norvik::ordinals::kGiveAnswerBack),
+                            norvik::ResultPair::OnNull::kSkip);
   if (send(name, request, flag, answer.Buffer(), answer.Length(), error.Buffer()) == 0) error.ThrowLines();
   return answer.Text();
 }
 
 corvane::TSysDateTime& SafeComIntf::GetServerTime() {
   std::int64_t milliseconds = 0;
-  functions_.Function<void(std::int64_t*)>(8)(&milliseconds);
+  functions_.Function<void(std::int64_t*)>(norvik::ordinals::kServerTime)(&milliseconds);
   corvane::TSysDateTime time;
   time.setTime(milliseconds);
   // Where local time is ahead, the year 10000 begins earlier.

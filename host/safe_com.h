@@ -1,3 +1,7 @@
+// The proxy of the host's secure communication library: exchanges with the bank, and the bank's time.
+//
+// For CMInterface::SendRequest, which shows that the user waits, and for whoever needs the bank's date,
+// through g_pSafeCom.
 #pragma once
 
 #include <cstdint>
@@ -13,9 +17,11 @@
 class SafeComIntf {
  public:
   /// Binds the twelve functions and reads the user's language, once. TException "ET16024" if any function is
-  /// missing; a failure of g_pPubInfo goes up.
+  /// missing; a failure of g_pPubInfo propagates.
   explicit SafeComIntf(norvik_handle module);
+  /// A proxy is not copied.
   SafeComIntf(const SafeComIntf&) = delete;
+  /// A proxy is not assigned to.
   SafeComIntf& operator=(const SafeComIntf&) = delete;
   virtual ~SafeComIntf() = default;
 

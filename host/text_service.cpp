@@ -1,5 +1,7 @@
 #include "host/text_service.h"
 
+#include "host/ordinals.h"
+
 namespace norvik {
 
 void TextService::Bind(norvik_handle publicInformation) {
@@ -8,8 +10,8 @@ void TextService::Bind(norvik_handle publicInformation) {
   if (!functions_.Resolve(m_module, terms_.ordinals)) {
     throw corvane::TIOException(terms_.missingOrdinalKey, std::string());
   }
-  // Only the low 8 bits of the result are told of both libraries.
-  const std::uint8_t started = Function<std::uint8_t(norvik_handle)>(1)(publicInformation);
+  // Of both libraries only the low 8 bits of the result are promised.
+  const std::uint8_t started = Function<std::uint8_t(norvik_handle)>(ordinals::kStart)(publicInformation);
   if (started == 0 && terms_.refusedKey) throw corvane::TIOException(terms_.refusedKey, std::string());
   m_bound = true;
 }

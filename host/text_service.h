@@ -1,3 +1,6 @@
+// What the translation and the error library have in common, for their two proxies.
+//
+// host/translate.h and host/error.h are the doors to it; nobody else includes this.
 #pragma once
 
 #include <cstdint>
@@ -5,6 +8,7 @@
 #include <string>
 
 #include "host/binding.h"
+#include "host/ordinals.h"
 
 namespace norvik {
 
@@ -12,12 +16,16 @@ namespace norvik {
 /// to take buffers back.
 class TextService {
  public:
-  /// What tells the two apart.
+  /// In what the two differ.
   struct Terms {
+    /// The ordinals that the library must answer.
     std::span<const std::uint32_t> ordinals;
+    /// The key of the failure where there is no library.
     const char* noModuleKey;
+    /// The key of the failure where a function is missing.
     const char* missingOrdinalKey;
-    /// Null where the result of ordinal 1 doesn't count.
+    /// The key of the failure where the library doesn't start; null where the result of ordinal 1 doesn't
+    /// count.
     const char* refusedKey;
   };
 
@@ -31,9 +39,10 @@ class TextService {
   /// As ReadText; buffers go back through ordinal 3.
   template <class Call>
   std::string Read(Call call) const {
-    return ReadText(functions_.Function<void(char*)>(3), call);
+    return ReadText(functions_.Function<void(char*)>(ordinals::kGiveBack), call);
   }
 
+  /// The function with that ordinal, as FunctionTable::Function.
   template <class Signature>
   HostFunction<Signature> Function(std::uint32_t ordinal) const {
     return functions_.Function<Signature>(ordinal);

@@ -1,12 +1,14 @@
 #include "host/translate.h"
 
+#include "host/keys.h"
 #include "host/ordinals.h"
 
 using norvik::Outgoing;
 
 namespace {
 
-constexpr norvik::TextService::Terms kTerms = {norvik::ordinals::kTranslate, "CF19001", "CF19002", nullptr};
+constexpr norvik::TextService::Terms kTerms = {norvik::ordinals::kTranslate, norvik::key::kNoTranslation,
+                                               norvik::key::kTranslationIncomplete, nullptr};
 constexpr std::size_t kSectionLength = 4;
 
 }  // namespace
@@ -23,7 +25,7 @@ std::string TranslateIntf::Translate(const std::string& key) const {
 
 std::string TranslateIntf::Lookup(const std::string& section, const std::string& key) const {
   using Lookup = std::uint8_t(char**, std::int32_t*, const char*, const char*, char*);
-  const auto lookup = service_.Function<Lookup>(4);
+  const auto lookup = service_.Function<Lookup>(norvik::ordinals::kLookUp);
   const char* const part = Outgoing(section);
   const char* const name = Outgoing(key);
   return service_.Read([&](char** buffer, std::int32_t* length, char* error) {
@@ -33,7 +35,7 @@ std::string TranslateIntf::Lookup(const std::string& section, const std::string&
 
 std::string TranslateIntf::Convert(const std::string& text, std::uint8_t direction) const {
   using Convert = std::uint8_t(char**, std::int32_t*, const char*, std::uint8_t, char*);
-  const auto convert = service_.Function<Convert>(6);
+  const auto convert = service_.Function<Convert>(norvik::ordinals::kConvert);
   const char* const whole = Outgoing(text);
   return service_.Read([&](char** buffer, std::int32_t* length, char* error) {
     return convert(buffer, length, whole, direction, error);

@@ -1,3 +1,7 @@
+// The proxy of the host's translation library: texts by key, and Simplified to Traditional Chinese and back.
+//
+// For captions and messages, through g_pTranslate, and for the exchange in Traditional Chinese
+// (host/safe_com.h).
 #pragma once
 
 #include <cstdint>
@@ -12,8 +16,10 @@
 /// "CF30005" before anything is sent. All calls: user-interface thread, after Bind.
 class TranslateIntf {
  public:
+  /// Which text of an exchange is converted.
   enum Direction : std::uint8_t { kRequest = 0, kAnswer = 1 };
 
+  /// `module` is the library's handle, 0 where the host has none; nothing is called before Bind.
   explicit TranslateIntf(norvik_handle module);
 
   /// `publicInformation` is what InitModule received. TIOException "CF19001" if there is no library,
@@ -23,6 +29,7 @@ class TranslateIntf {
   /// The text of a key; its first four bytes are the section. Empty if the host has an empty text.
   std::string Translate(const std::string& key) const;
 
+  /// The text of a key in a section. Empty if the host has an empty text.
   std::string Lookup(const std::string& section, const std::string& key) const;
 
   /// The text as the other side of an exchange writes it: 0 for a request, 1 for an answer.
