@@ -1,5 +1,7 @@
 #include "dialogs/messages.h"
 
+#include <QtGlobal>
+
 #include "dialogs/com_msg.h"
 #include "dialogs/error_msg.h"
 #include "dialogs/form_owner.h"
@@ -38,5 +40,7 @@ void ShowErrorMsg(const std::string& text, TForm* owner) {
 }
 
 void ReportException(const corvane::TException& failure, TForm* owner) {
+  // The message is made of the keys; where and why a text was refused is for whoever reads the host's log.
+  if (!failure.getReason().empty()) qWarning("%s", failure.what());
   ShowErrorMsg(g_pError->GetErrorText(failure.getMessage(kLineEnd, false), 1), owner);
 }

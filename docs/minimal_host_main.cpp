@@ -31,7 +31,7 @@ int Run(void* module, const std::string& item) {
     callFunc(("<row><ItemName>" + item + "</ItemName></row>").c_str(), 0);
     status = QApplication::exec();
   } catch (const corvane::TException& failure) {
-    std::fprintf(stderr, "%s\n", failure.getMessage("\r\n").c_str());
+    std::fprintf(stderr, "%s\n", failure.what());
     status = 1;
   }
   release();

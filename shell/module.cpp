@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
-#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -34,7 +33,7 @@ void ReportEscaped(TObject*, std::exception_ptr error) {
   try {
     std::rethrow_exception(std::move(error));
   } catch (const corvane::TException& exception) {
-    if (nested) throw std::runtime_error(exception.getMessage("; "));
+    if (nested) throw;
     ReportKeys(exception);
   } catch (const std::exception& exception) {
     if (nested) throw;

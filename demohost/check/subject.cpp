@@ -34,7 +34,7 @@ CallEnd Caught(const std::function<void()>& call) {
   } catch (const corvane::TException& exception) {
     end.kind = CallEnd::kContract;
     for (const std::string& key : exception.getErrors()) end.keys.push_back(key);
-    end.words = "it threw corvane::TException with " + Quoted(exception.getMessage("\r\n"));
+    end.words = "it threw corvane::TException with " + Quoted(exception.what());
   } catch (const std::exception& exception) {
     end.kind = CallEnd::kForeign;
     end.words = "it threw " + ExceptionType() + " with " + Quoted(exception.what());
