@@ -29,6 +29,13 @@ function(norvik_library target kind)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
 endfunction()
 
+# norvik_exports(<target> <list>): a shared library out of which leaves what bears its export macro and is on the list.
+function(norvik_exports target list)
+  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+                                             LINK_DEPENDS ${list})
+  target_link_options(${target} PRIVATE LINKER:--version-script=${list})
+endfunction()
+
 set(NORVIK_COMMON_HEADERS <QApplication> <QPointer> <QWidget> <algorithm> <functional> <map> <memory> <optional> <string>
     <vector>)
 

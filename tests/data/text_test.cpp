@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -199,6 +200,46 @@ TEST(Exceptions, CarryTheirTexts) {
   } catch (const TException& caught) {
     EXPECT_EQ(caught.getMessage(","), "CF00001");
     EXPECT_EQ(dynamic_cast<const TIOException&>(caught).getDetail(), "the host's words");
+  }
+}
+
+TEST(Exceptions, SayWhatWasRefusedAndWhy) {
+  struct Case {
+    std::string name;
+    std::function<void()> call;
+    std::string keys;
+    std::string what;
+  };
+  const std::vector<Case> cases = {
+      {"malformed", [] { CorvaneStream("<s>\n<row></s>"); }, "ET10016",
+       "ET10016: line 2, column 8: mismatched tag"},
+      {"too deep", [] { Row("<r><A><B/></A></r>"); }, "ET10057",
+       "ET10057: line 1, column 7: element not expected here"},
+      {"other columns", [] { List("<list><row><A/></row><row><B/></row></list>"); }, "ET10052",
+       "ET10052: line 1, column 31: the document refuses what was read (ET10101)"},
+      {"another root", [] { List("<rows/>"); }, "ET10100", "ET10100: the root element is no \"list\""},
+      {"empty", [] { Field(""); }, "ET10044", "ET10044: the text is empty"},
+      {"no text", [] { throw TIOException("CF30004", "a\\b"); }, "CF30004", "CF30004"},
+      {"several",
+       [] {
+         throw TException({"a;", "b"});
+       },
+       "a;|b", "a;; b"},
+      {"grown copy",
+       [] {
+         TException failure("ET10016", "line 1");
+         failure.addErrors({"x"});
+         throw TException(failure);
+       },
+       "ET10016|x", "ET10016; x: line 1"},
+  };
+  for (const Case& one : cases) {
+    EXPECT_EQ(KeyOf(one.call), one.keys) << one.name;
+    try {
+      one.call();
+    } catch (const std::exception& failure) {
+      EXPECT_EQ(failure.what(), one.what) << one.name;
+    }
   }
 }
 
