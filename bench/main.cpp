@@ -2,7 +2,7 @@
 //
 // The parent writes the answers to files and starts itself once for each peer, task, size and repeat, peers
 // in turn, so that what disturbs the machine disturbs all of them. A child loads the text, does its task and
-// prints one line. Times are processor time, the least of the repeats, since a machine only ever disturbs
+// prints one line. Times are processor time, the minimum of the repeats, since a machine only ever disturbs
 // upwards; peak memory is what the process grew by, the text included.
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -64,7 +64,7 @@ Measure TimeRead(const Peer& peer, const std::string& path, std::size_t passes) 
   for (std::size_t pass = 0; pass < passes; ++pass) {
     const double start = Seconds();
     const std::unique_ptr<Model> model = peer.read(text);
-    measure.sum = model->ReadAll().total();
+    measure.sum = model->ReadAll().Total();
     measure.seconds += Seconds() - start;
   }
   measure.seconds /= static_cast<double>(passes);
@@ -87,7 +87,7 @@ Measure TimeWrite(const Peer& peer, const std::string& path, std::size_t passes)
   }
   measure.seconds /= static_cast<double>(passes);
   measure.peak = Status("VmHWM") - before;
-  measure.sum = ReadPlain(text)->ReadAll().total();
+  measure.sum = ReadPlain(text)->ReadAll().Total();
   return measure;
 }
 
@@ -119,7 +119,7 @@ int Child(const std::vector<std::string>& arguments) {
   return 1;
 }
 
-double Least(const std::vector<double>& values) {
+double Minimum(const std::vector<double>& values) {
   return *std::min_element(values.begin(), values.end());
 }
 
@@ -153,7 +153,7 @@ std::vector<Line> RunJob(const Job& job, std::size_t repeats, const std::string&
   std::vector<Line> lines;
   for (const Peer& peer : AllPeers())
     if (seconds.count(peer.name) != 0)
-      lines.push_back({peer.name, Least(seconds[peer.name]), Least(peaks[peer.name])});
+      lines.push_back({peer.name, Minimum(seconds[peer.name]), Minimum(peaks[peer.name])});
   return lines;
 }
 
@@ -164,9 +164,9 @@ void PrintHead() {
 
 // How far the first peer's cost of a row spreads over the sizes.
 void PrintSpread(const std::string& task, const std::vector<double>& rowCosts) {
-  const auto [least, most] = std::minmax_element(rowCosts.begin(), rowCosts.end());
+  const auto [minimum, maximum] = std::minmax_element(rowCosts.begin(), rowCosts.end());
   std::printf("%s: the cost of a row spreads by %.0f%% over the sizes\n", task.c_str(),
-              100 * (*most / *least - 1));
+              100 * (*maximum / *minimum - 1));
 }
 
 void Print(const Job& job, const std::vector<Line>& lines, double size) {

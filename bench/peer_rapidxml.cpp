@@ -4,7 +4,7 @@
 #include "bench/peers.h"
 #include "platform/code_page.h"
 
-// The printer calls these before it defines them, which a compiler of today has to be told beforehand.
+// The printer calls these before it defines them, so a compiler of today needs their declarations first.
 namespace rapidxml::internal {
 template <class OutIt, class Ch>
 OutIt print_children(OutIt out, const xml_node<Ch>* node, int flags, int indent);

@@ -73,11 +73,15 @@ class Row;
 /// until its entry is erased.
 class CORVANE_EXPORT FieldIterator {
  public:
-  /// The types of a standard input iterator.
+  /// A standard iterator that is read from and goes both ways.
   using iterator_category = std::input_iterator_tag;
+  /// A pair of key and Field.
   using value_type = SortedFields::value_type;
+  /// A pair for reading.
   using reference = const value_type&;
+  /// The address of a pair for reading.
   using pointer = const value_type*;
+  /// Steps between two places.
   using difference_type = std::ptrdiff_t;
 
   /// Stands nowhere until it is assigned to.

@@ -1,6 +1,6 @@
 // replay SEEDS COUNT: runs a target without a fuzzer, on each file of the folder SEEDS and then on COUNT
 // texts made of them by chance, the same at every start. What a target finds ends the program; the last line
-// tells the run.
+// is the number of the run.
 #include <algorithm>
 #include <csignal>
 #include <cstddef>
@@ -18,14 +18,14 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
 
 namespace {
 
-constexpr std::size_t kLongest = 4096;
+constexpr std::size_t kMaxBytes = 4096;
 constexpr std::string_view kTokens[] = {"<row>",    "</row>", "<row/>", "<list>", "</list>",   "<A>",
                                         "</A>",     "&amp;",  "&#0;",   "<!--",   "<![CDATA[", "]]>",
                                         "\xC4\xE3", "\x81",   "\\",     "|"};
 
 volatile std::sig_atomic_t g_run = 0;
 
-void TellRun(int) {
+void SayRun(int) {
   std::fprintf(stderr, "in run %d\n", static_cast<int>(g_run));
 }
 
@@ -53,7 +53,7 @@ class Changes {
   std::string Next() {
     std::string text = seeds_[Below(seeds_.size())];
     for (std::size_t change = 1 + Below(6); change > 0; --change) Change(text);
-    text.resize(std::min(text.size(), kLongest));
+    text.resize(std::min(text.size(), kMaxBytes));
     return text;
   }
 
@@ -93,7 +93,7 @@ int main(int count, char** arguments) {
     std::fprintf(stderr, "usage: replay SEEDS COUNT\n");
     return 2;
   }
-  std::signal(SIGABRT, TellRun);
+  std::signal(SIGABRT, SayRun);
   const std::vector<std::string> seeds = ReadSeeds(arguments[1]);
   if (seeds.empty()) {
     std::fprintf(stderr, "no seeds in %s\n", arguments[1]);

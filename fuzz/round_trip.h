@@ -18,7 +18,7 @@ namespace fuzz {
 
 using Keys = std::initializer_list<std::string_view>;
 
-// Runs `step`; false if it throws a TException with one of `keys`.
+/// Runs `step`; false if it throws a TException with one of `keys`.
 template <class Step>
 bool Passes(Keys keys, Step step) {
   try {
@@ -32,8 +32,8 @@ bool Passes(Keys keys, Step step) {
   }
 }
 
-// Parts of a document as a text in which no two documents are alike, but for attributes without a value,
-// which have no text form.
+/// Parts of a document as a text in which no two documents are alike, but for attributes without a value,
+/// which have no text form.
 inline void Show(std::string_view text, std::string& out) {
   out.append(std::to_string(text.size())).append(1, ':').append(text);
 }
@@ -95,6 +95,7 @@ inline void Show(const corvane::CorvaneStream& stream, std::string& out) {
   }
 }
 
+/// All of a document as a text.
 template <class Document>
 std::string Shown(const Document& document) {
   std::string out;
@@ -103,7 +104,7 @@ std::string Shown(const Document& document) {
   return out;
 }
 
-// What a refused text has left in a document is a document, too.
+/// What a refused text has left in a document is a document, too.
 template <class Document>
 void WriteRest(std::string_view text, Keys readKeys, Keys writeKeys) {
   if constexpr (requires(Document document) { document.fromString(text); }) {
@@ -113,13 +114,14 @@ void WriteRest(std::string_view text, Keys readKeys, Keys writeKeys) {
   }
 }
 
-inline bool TagsTell(const corvane::Element&) {
+/// True where a document that was written is read again as the same kinds of elements.
+inline bool TagsDecide(const corvane::Element&) {
   return true;
 }
 
-// In a stream the tag tells a field from a row or a list, so that no field of those names is read again as
-// one; mixed content can make them.
-inline bool TagsTell(const corvane::CorvaneStream& stream) {
+/// In a stream the tag decides between a field and a row or a list, so that no field of those names is read
+/// again as one; mixed content can make them.
+inline bool TagsDecide(const corvane::CorvaneStream& stream) {
   const corvane::MapField fields = stream.getFields();
   if (fields.contains("row") || fields.contains("list")) return false;
   for (int at = 0; at < stream.getRowCount(); ++at)
@@ -127,6 +129,7 @@ inline bool TagsTell(const corvane::CorvaneStream& stream) {
   return true;
 }
 
+/// Reads, writes and reads again, in three code pages; ends the run where the rules of this file do not hold.
 template <class Document>
 void RoundTrip(std::string_view text, Keys readKeys, Keys writeKeys) {
   for (const unsigned codePage : {936U, 949U, 65001U}) {
@@ -139,7 +142,7 @@ void RoundTrip(std::string_view text, Keys readKeys, Keys writeKeys) {
     // The label is scanned for in the bytes, which ends at a blank.
     if (first->encoding().find(' ') != std::string::npos) first->setEncoding("UTF-8");
     std::string written;
-    if (!Passes(writeKeys, [&] { written = first->toString(); }) || !TagsTell(*first)) continue;
+    if (!Passes(writeKeys, [&] { written = first->toString(); }) || !TagsDecide(*first)) continue;
     std::optional<Document> second;
     Require(Passes(readKeys, [&] { second.emplace(written); }), "what was written is read");
     Require(Shown(*first) == Shown(*second), "what was written and read is the same document");

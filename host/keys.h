@@ -1,7 +1,7 @@
 // The keys of failures that the proxies throw, each named once.
 //
-// For the proxies and for whoever tells a broken host from a refusal. What a refusal itself says are the
-// host's own keys.
+// For the proxies and for whoever has to know a broken host from a refusal. What a refusal itself says are
+// the host's own keys.
 #pragma once
 
 #include <array>

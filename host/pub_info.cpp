@@ -37,7 +37,7 @@ std::string PubInfoIntf::Read(Call call) const {
   return norvik::ReadText(functions_.Function<void(char*)>(ordinals::kGiveBack), call);
 }
 
-// Most reads: the result pair, one to three keys, the error text.
+// Nearly all reads: the result pair, one to three keys, the error text.
 template <class... Text>
 std::string PubInfoIntf::ReadByKeys(std::uint32_t ordinal, const Text&... keys) const {
   using Function = std::uint8_t(char**, std::int32_t*, decltype(keys.c_str())..., char*);

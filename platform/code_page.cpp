@@ -57,14 +57,14 @@ Utf8Character Utf8At(std::string_view text, std::size_t at) {
   const unsigned char first = byte(0);
   if (first < 0x80) return {first, 1, true};
   const std::size_t size = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-  constexpr std::array<std::uint32_t, 5> kSmallest{0, 0, 0x80, 0x800, 0x10000};
+  constexpr std::array<std::uint32_t, 5> kMinimum{0, 0, 0x80, 0x800, 0x10000};
   if (first < 0xC2 || first > 0xF4 || text.size() - at < size) return {kReplacement, 1, false};
   std::uint32_t value = first & (0x7FU >> size);
   for (std::size_t offset = 1; offset < size; ++offset) {
     if ((byte(offset) & 0xC0) != 0x80) return {kReplacement, 1, false};
     value = value << 6 | (byte(offset) & 0x3FU);
   }
-  if (value < kSmallest[size] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
+  if (value < kMinimum[size] || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
     return {kReplacement, 1, false};
   return {value, size, true};
 }
@@ -113,7 +113,7 @@ unsigned NarrowCode(const CodePageTables& page, Utf8Character character) {
 // page than in UTF-8.
 unsigned NextNarrowCode(const CodePageTables& page, std::string_view utf8, std::size_t& at) {
   const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(utf8[at + offset]); };
-  // Most are of three bytes; E0 and ED, which don't go with every second byte, take the long way.
+  // Most are of three bytes; E0 and ED, which don't go with every second byte, are decoded in full.
   if (at + 3 <= utf8.size() && byte(0) > 0xE0 && byte(0) < 0xF0 && byte(0) != 0xED &&
       (byte(1) & 0xC0) == 0x80 && (byte(2) & 0xC0) == 0x80) {
     const unsigned unit = (byte(0) & 0x0FU) << 12 | (byte(1) & 0x3FU) << 6 | (byte(2) & 0x3FU);

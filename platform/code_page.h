@@ -8,8 +8,8 @@
 // characters among them. One rule holds for what a code page lacks: a character without a code point widens
 // to one U+FFFD, one that it cannot express (a surrogate pair is one, a lone surrogate too) narrows to one
 // '?', and its neighbours stay whole. Where a character ends is said in platform/character_bounds.h. A second
-// byte may look like an ASCII character: 126 pairs of code page 936 end in 0x5C. Whoever searches or cuts
-// narrow text steps by CharacterLength, or uses data/string_functions.h, which does.
+// byte may look like an ASCII character: the second byte of 126 pairs of code page 936 is 0x5C. Whoever
+// searches or cuts narrow text steps by CharacterLength, or uses data/string_functions.h, which does.
 #pragma once
 
 #include <cstddef>

@@ -17,7 +17,9 @@ inline constexpr char16_t kReplacement = 0xFFFD;
 
 /// A UTF-16 unit as UTF-8.
 struct Utf8Unit {
+  /// The bytes, of which `size` count.
   std::array<char, 3> bytes;
+  /// 1 to 3.
   std::uint8_t size;
 };
 

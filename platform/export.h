@@ -1,5 +1,5 @@
-/* The mark of what leaves libnorvik_platform.so, which is built with hidden visibility: the contract of host_api.h, and what
-   the record library and the module use of this folder. C11 and C++. */
+/* The mark of what leaves libnorvik_platform.so, which is built with hidden visibility: the contract of
+   host_api.h, and what the record library and the module use of this folder. C11 and C++. */
 #ifndef NORVIK_PLATFORM_EXPORT_H
 #define NORVIK_PLATFORM_EXPORT_H
 

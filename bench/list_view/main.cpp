@@ -3,8 +3,8 @@
 //
 // The parent starts itself once for each peer and repeat, peers in turn, so that what disturbs the machine
 // disturbs all of them. A child makes the records, does the tasks and prints one line. Times are processor
-// time and hold the repaint behind each change; memory is what the process grew by from before the records
-// to behind the first paint, beside the records alone.
+// time and hold the repaint after each change; memory is what the process grew by from before the records
+// to after the first paint, beside the records alone.
 #include <malloc.h>
 #include <unistd.h>
 
@@ -222,7 +222,7 @@ int Parent(int rows, int repeats) {
 }  // namespace
 }  // namespace list_bench
 
-// norvik_list_bench [rows [repeats]]: 100000 rows and 5 repeats unless told.
+// norvik_list_bench [rows [repeats]]: 100000 rows and 5 repeats by default.
 int main(int argc, char** argv) {
   const auto number = [&](int at, int otherwise) {
     return argc > at ? std::max(1, std::atoi(argv[at])) : otherwise;

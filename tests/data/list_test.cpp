@@ -153,7 +153,7 @@ TEST(List, SharesNamesOfRowsBuiltOneByOne) {
   EXPECT_FALSE(list[2].hasField("C"));
 }
 
-TEST(List, ReadsAndTellsItsFailures) {
+TEST(List, ReadsAndReportsItsFailures) {
   struct Case {
     std::string text;
     std::string key;
@@ -178,14 +178,13 @@ TEST(List, ReadsAndTellsItsFailures) {
   EXPECT_EQ(KeyOf([] { List list("<rows/>"); }), "ET10100");
 }
 
-TEST(List, WritesAndTellsItsFailures) {
+TEST(List, WritesAndReportsItsFailures) {
   List list = Three();
   list.setAttribute("name", "resultList");
   list.removeRow(2);
   EXPECT_EQ(list.toString(),
-            "<?xml version=\"1.0\" encoding=\"UTF-8\"?><list "
-            "name=\"resultList\"><row><A>1</A><B>x</B></row><row><A>2</A>"
-            "<B>x</B></row></list>");
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?><list name=\"resultList\">"
+            "<row><A>1</A><B>x</B></row><row><A>2</A><B>x</B></row></list>");
   list.setAttribute("name", "");
   list.clear();
   list.setAttribute("name", "");

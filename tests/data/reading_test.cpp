@@ -101,7 +101,7 @@ class Sample {
     if (!refused) model.Text(value);
   }
   template <class Event>
-  void Tell(Event event) {
+  void Run(Event event) {
     if (!refused) refused = KeyOf([&] { refused = !event(); }) != "none" || refused;
   }
   void Put(const std::string& name, int level) {
@@ -109,7 +109,7 @@ class Sample {
     text += "<" + name;
     for (const auto& [key, value] : attributes) text += " " + key + "='" + value + "'";
     text += ">";
-    Tell([&] { return model.Start(name, attributes); });
+    Run([&] { return model.Start(name, attributes); });
     Text();
     const unsigned children = level == 4 ? (Chance(1) ? 1 : 0) : level == 5 ? 0 : random_() % 4;
     for (unsigned place = 0; place < children; ++place) {
@@ -118,7 +118,7 @@ class Sample {
       Text();
     }
     text += "</" + name + ">";
-    Tell([&] {
+    Run([&] {
       model.End(name);
       return true;
     });

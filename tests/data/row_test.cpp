@@ -49,7 +49,7 @@ TEST(Field, KeepsAttributesAndNeverWritesThem) {
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?><CODE>A&amp;B</CODE>");
 }
 
-TEST(Field, TellsItsFailures) {
+TEST(Field, ReportsItsFailures) {
   for (const char* text : {"", "<A><B/></A>", "<A>", "x"})
     EXPECT_EQ(KeyOf([&] { Field one(text); }), "ET10044") << text;
   for (const char* name : {"", "1A", "A B", "A<", "x:A"})

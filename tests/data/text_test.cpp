@@ -256,7 +256,7 @@ class InZone {
   }
 };
 
-TEST(Clock, TellsLocalTime) {
+TEST(Clock, ShowsLocalTime) {
   const InZone zone("CST-8");
   TSysDateTime clock;
   clock.setTime(1709222399000);  // 2024-02-29 15:59:59 UTC

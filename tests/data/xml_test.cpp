@@ -16,7 +16,7 @@ namespace {
 
 using namespace corvane;
 
-TEST(XmlReader, TellsKeyPlaceAndReason) {
+TEST(XmlReader, SaysKeyPlaceAndReason) {
   struct Case {
     std::string text;
     std::string key;
@@ -217,7 +217,7 @@ TEST(XmlWriter, RefusesAnAttributeUnderTwoPrefixesOfOneNamespace) {
   EXPECT_EQ(KeyOf([&] { CorvaneStream(stream.toString()); }), "none");
 }
 
-TEST(XmlWriter, ForgetsAPrefixBehindItsElement) {
+TEST(XmlWriter, ForgetsAPrefixAfterItsElement) {
   List list;
   Row row;
   row.setAttribute("xmlns:x", "u");

@@ -162,18 +162,18 @@ std::vector<Operation> All() {
 }
 
 TEST(BrokenHost, AnAnswerThatCannotBeTrueIsAFailureAndItsBufferGoesBackOnce) {
-  constexpr std::int32_t kMost = 256 * 1024 * 1024;
+  constexpr std::int32_t kMaxBytes = 256 * 1024 * 1024;
   const struct {
     const char* name;
     Answer answer;
     const char* key;
   } rows[] = {{"negative length", {.text = "t", .length = -1}, "CF30001"},
-              {"most negative length", {.text = "t", .length = INT32_MIN}, "CF30001"},
-              {"length above the cap", {.text = "t", .length = kMost + 1}, "CF30002"},
-              {"largest length", {.text = "t", .length = INT32_MAX}, "CF30002"},
+              {"minimum length", {.text = "t", .length = INT32_MIN}, "CF30001"},
+              {"length above the cap", {.text = "t", .length = kMaxBytes + 1}, "CF30002"},
+              {"maximum length", {.text = "t", .length = INT32_MAX}, "CF30002"},
               {"no buffer", {.text = "t", .length = 1, .noBuffer = true}, "CF30003"},
               {"no buffer, negative length", {.text = "t", .length = -5, .noBuffer = true}, "CF30001"},
-              {"no buffer, the cap", {.text = "t", .length = kMost, .noBuffer = true}, "CF30003"}};
+              {"no buffer, the cap", {.text = "t", .length = kMaxBytes, .noBuffer = true}, "CF30003"}};
   for (const auto& operation : Reads()) {
     for (const auto& row : rows) {
       SCOPED_TRACE(operation.name + ": "s + row.name);

@@ -41,11 +41,11 @@ std::uint32_t AskWithFlag(char** buffer, std::int32_t* length, const char* text,
 
 // (arguments..., error), (arguments...)
 template <Library L, std::uint32_t O, class... Arguments>
-std::uint32_t Tell(Arguments... arguments, char* error) {
+std::uint32_t Obey(Arguments... arguments, char* error) {
   return Reply(L, O, nullptr, nullptr, error, arguments...);
 }
 template <Library L, std::uint32_t O, class... Arguments>
-std::uint32_t TellOnly(Arguments... arguments) {
+std::uint32_t ObeyOnly(Arguments... arguments) {
   return Reply(L, O, nullptr, nullptr, nullptr, arguments...);
 }
 
@@ -65,7 +65,7 @@ std::uint32_t GetHandle(const char* key) {
 
 std::uint32_t SetHandle(const char* key, std::uint32_t value) {
   g_host->handles[key] = value;
-  return TellOnly<kPub, 122, const char*, std::uint32_t>(key, value);
+  return ObeyOnly<kPub, 122, const char*, std::uint32_t>(key, value);
 }
 
 std::uint32_t Convert(char** buffer, std::int32_t* length, const char* text, std::uint8_t direction,
@@ -104,40 +104,40 @@ void* Pointer(Function* function) {
 Functions Called(Library library) {
   switch (library) {
     case Library::kPublicInformation:
-      return {{1, Pointer(TellOnly<kPub, 1, std::uint32_t>)},
+      return {{1, Pointer(ObeyOnly<kPub, 1, std::uint32_t>)},
               {3, Pointer(Release<kPub, 3>)},
-              {23, Pointer(Tell<kPub, 23, Word, Word>)},
+              {23, Pointer(Obey<kPub, 23, Word, Word>)},
               {24, Pointer(Ask<kPub, 24, Word, Word>)},
               {40, Pointer(Ask<kPub, 40, Word>)},
-              {58, Pointer(TellOnly<kPub, 58, Word, Word>)},
-              {59, Pointer(TellOnly<kPub, 59, Word>)},
+              {58, Pointer(ObeyOnly<kPub, 58, Word, Word>)},
+              {59, Pointer(ObeyOnly<kPub, 59, Word>)},
               {60, Pointer(Ask<kPub, 60, Word>)},
               {68, Pointer(Ask<kPub, 68, Word, Word, Word>)},
-              {80, Pointer(TellOnly<kPub, 80, Word, Word>)},
-              {81, Pointer(TellOnly<kPub, 81, Word>)},
+              {80, Pointer(ObeyOnly<kPub, 80, Word, Word>)},
+              {81, Pointer(ObeyOnly<kPub, 81, Word>)},
               {82, Pointer(Ask<kPub, 82, Word>)},
               {87, Pointer(GetRow)},
               {90, Pointer(Ask<kPub, 90, Word, Word>)},
               {122, Pointer(SetHandle)},
               {123, Pointer(GetHandle)}};
     case Library::kTranslate:
-      return {{1, Pointer(TellOnly<Library::kTranslate, 1, std::uint32_t>)},
+      return {{1, Pointer(ObeyOnly<Library::kTranslate, 1, std::uint32_t>)},
               {3, Pointer(Release<Library::kTranslate, 3>)},
               {4, Pointer(Ask<Library::kTranslate, 4, Word, Word>)},
               {6, Pointer(Convert)}};
     case Library::kError:
-      return {{1, Pointer(TellOnly<Library::kError, 1, std::uint32_t>)},
+      return {{1, Pointer(ObeyOnly<Library::kError, 1, std::uint32_t>)},
               {3, Pointer(Release<Library::kError, 3>)},
               {4, Pointer(AskWithFlag<Library::kError, 4>)},
               {5, Pointer(AskWithFlag<Library::kError, 5>)}};
     case Library::kSafeCom:
       return {{4, Pointer(Release<Library::kSafeCom, 4>)}, {5, Pointer(Send)}, {8, Pointer(ServerTime)}};
     case Library::kExcel:
-      return {{2, Pointer(Tell<Library::kExcel, 2, Word, Word, Word, Word>)}, {5, Pointer(ExportText)}};
+      return {{2, Pointer(Obey<Library::kExcel, 2, Word, Word, Word, Word>)}, {5, Pointer(ExportText)}};
     case Library::kPrint:
-      return {{1, Pointer(Tell<Library::kPrint, 1, std::uint32_t>)},
-              {3, Pointer(Tell<Library::kPrint, 3, Word, Word, Word>)},
-              {5, Pointer(TellOnly<Library::kPrint, 5, Word>)}};
+      return {{1, Pointer(Obey<Library::kPrint, 1, std::uint32_t>)},
+              {3, Pointer(Obey<Library::kPrint, 3, Word, Word, Word>)},
+              {5, Pointer(ObeyOnly<Library::kPrint, 5, Word>)}};
   }
   return {};
 }

@@ -41,7 +41,7 @@ TEST(PubInfo, SendsItsKeysInOrderAndReadsTheDocument) {
   EXPECT_EQ(host.released, 6);
 }
 
-TEST(PubInfo, ReadsAsManyBytesAsTheHostTells) {
+TEST(PubInfo, ReadsAsManyBytesAsTheHostSays) {
   FakeHost host;
   Services services(host);
   host.SetAnswer(kPub, 68, fakehost::Text("a\0b"s));

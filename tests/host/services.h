@@ -1,3 +1,6 @@
+// The proxies over a fake host, bound as InitModule does it, and what an action on them threw.
+//
+// For the tests of host/; forms are tested over tests/support/form_host.h.
 #pragma once
 
 #include <functional>

@@ -1,3 +1,5 @@
+/* A host in C, compiled as C11: what the tests of platform/host_api.h run to see that the header is enough
+   for one. */
 #pragma once
 
 #include "platform/host_api.h"

@@ -144,7 +144,7 @@ TEST(XmlEvents, RefusesTheRest) {
   EXPECT_TRUE(norvik::ReadXml(Nested(256), log).read);
 }
 
-TEST(XmlEvents, TellsPlaceAndReason) {
+TEST(XmlEvents, SaysPlaceAndReason) {
   Log log;
   const norvik::XmlResult result = norvik::ReadXml("<a>\n \xC4\xE3<b></a>", log);
   EXPECT_EQ(result.line, 2U);

@@ -1,4 +1,4 @@
-// What leaves a shared library, for the tests that hold it against the headers.
+// What leaves a shared library, for the tests that compare it with the headers. Needs the program nm.
 #pragma once
 
 #include <dlfcn.h>
@@ -8,8 +8,8 @@
 #include <set>
 #include <string>
 
-// The names of what the library that holds `function` exports, each up to the end of its class or function:
-// "corvane::Row", "norvik_module_open". Empty where the library can't be looked into.
+/// The names of what the library that holds `function` exports, each up to the end of its class or function:
+/// "corvane::Row", "norvik_module_open". Empty where the library can't be looked into.
 template <class Function>
 std::set<std::string> ExportedNames(Function* function) {
   std::set<std::string> names;
