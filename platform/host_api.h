@@ -44,8 +44,8 @@ typedef struct norvik_ordinal {
 } norvik_ordinal;
 
 /** Loads the shared object at `path` with RTLD_NOW and RTLD_LOCAL; its functions are the symbols
-   `ordinal_<n>` (decimal, no leading zero) that it exports itself, not those of the objects it depends on. Every open has
-   its own handle. 0 if it can't be loaded, and dlerror() on this thread then says why.
+   `ordinal_<n>` (decimal, no leading zero) that it exports itself, not those of the objects it depends on.
+   Every open has its own handle. 0 if it can't be loaded, and dlerror() on this thread then says why.
    [any thread, any time] */
 NORVIK_EXPORT norvik_handle norvik_module_open(const char* path);
 
