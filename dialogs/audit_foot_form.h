@@ -4,8 +4,8 @@
 #include "data/corvane.h"
 #include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 
 class TfrmEBillAuditFoot : public TBaseForm {

@@ -5,6 +5,7 @@
 #include "dialogs/busy_form.h"
 #include "dialogs/form_owner.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 
 namespace {
 

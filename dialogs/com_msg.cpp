@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "dialogs/font_fit.h"
-#include "toolkit/application.h"
+#include "toolkit/screen.h"
 
 namespace {
 

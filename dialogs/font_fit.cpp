@@ -3,8 +3,8 @@
 #include <QFontMetrics>
 #include <algorithm>
 
-#include "toolkit/application.h"
 #include "toolkit/buttons.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 namespace {

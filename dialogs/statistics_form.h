@@ -9,8 +9,8 @@
 #include "framework/base/base_form.h"
 #include "toolkit/buttons.h"
 #include "toolkit/decimal.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 
 class TfrmStatistics : public TBaseForm {

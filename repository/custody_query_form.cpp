@@ -11,7 +11,7 @@
 #include "toolkit/buttons.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/date_edit.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/panels.h"
 #include "toolkit/radio_group.h"
 #include "toolkit/text.h"

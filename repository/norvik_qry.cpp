@@ -12,8 +12,8 @@
 #include "toolkit/action.h"
 #include "toolkit/buttons.h"
 #include "toolkit/date_edit.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/list_box.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 
 using norvik::Condition;

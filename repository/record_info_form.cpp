@@ -4,11 +4,11 @@
 
 #include "host/translate.h"
 #include "repository/caption_value.h"
-#include "toolkit/application.h"
 #include "toolkit/buttons.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
 #include "toolkit/panels.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 namespace {

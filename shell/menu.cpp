@@ -9,6 +9,7 @@
 #include "repository/norvik_qry.h"
 #include "toolkit/application.h"
 #include "toolkit/form.h"
+#include "toolkit/screen.h"
 
 namespace norvik {
 namespace {

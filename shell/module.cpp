@@ -82,14 +82,14 @@ void StartModule(norvik_handle publicInformation) {
   } catch (const LifeEnded&) {
     // The host has released the module while it was starting; a start of its own may stand in this one's
     // place.
-    const Services* newest = ServicesOf(NewestLife());
+    const Services* newest = ServicesOf(NewestApplication());
     if (newest == nullptr || !newest->started) throw corvane::TException(key::kNotInitialised);
   }
 }
 
 void StopModule() {
   DeleteEndedLives();
-  TApplication* const life = NewestLife();
+  TApplication* const life = NewestApplication();
   if (life == nullptr) return;
   const TLifeScope scope(life, TLifeScope::Returns::kToHost);
   Services* const services = ServicesOf(life);
@@ -111,7 +111,7 @@ void CallItem(const std::string& request) {
   const auto picked =
       std::find_if(menu.begin(), menu.end(), [&](const MenuItem& item) { return item.item == name; });
   if (picked == menu.end()) return;
-  TApplication* const life = NewestLife();
+  TApplication* const life = NewestApplication();
   const Services* services = ServicesOf(life);
   if (services == nullptr || !services->started) throw corvane::TException(key::kNotInitialised);
   const TLifeScope scope(life, TLifeScope::Returns::kToHost);

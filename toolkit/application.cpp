@@ -1,14 +1,16 @@
 #include "toolkit/application.h"
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QPointer>
-#include <QScreen>
 #include <QWidget>
 
 #include "platform/host_api.h"
 #include "platform/window.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/form.h"
+#include "toolkit/screen.h"
+
+TApplication* Application = nullptr;
 
 struct TApplication::QueuedCall {
   QPointer<QObject> context;
@@ -33,9 +35,7 @@ class Anchor : public QObject {
 
 }  // namespace
 
-TApplication::TApplication() : TComponent(nullptr), screen_(std::make_unique<TScreen>()) {
-  life_ = this;
-}
+TApplication::TApplication() : TComponent(nullptr, this), screen_(std::make_unique<TScreen>()) {}
 
 TApplication::~TApplication() {
   // What is deleted finds the pointers of its own life.
@@ -50,7 +50,26 @@ TApplication::~TApplication() {
   Unanchor();
   OnLeave = nullptr;
   Serve(served);
-  ForgetLife(this);
+}
+
+void TApplication::Enter() {
+  Application = this;
+  Screen = screen_.get();
+  if (OnEnter) OnEnter();
+}
+
+void TApplication::Leave() {
+  if (OnLeave) OnLeave();
+  Application = nullptr;
+  Screen = nullptr;
+}
+
+void TApplication::AddForm(TForm* form) {
+  screen_->Add(form);
+}
+
+void TApplication::RemoveForm(TForm* form) {
+  screen_->Remove(form);
 }
 
 void TApplication::SetHandle(std::uint32_t handle) {
@@ -80,7 +99,7 @@ void TApplication::LoseMainWidget() {
 }
 
 void TApplication::ProcessMessages() {
-  if (pumping_ || ended_) return;
+  if (pumping_ || Ended()) return;
   const TLifeScope scope(this);
   pumping_ = true;
   QCoreApplication::processEvents();
@@ -110,7 +129,7 @@ void TApplication::RunQueued() {
   std::vector<QueuedCall> calls;
   calls.swap(queue_);
   for (const QueuedCall& queued : calls) {
-    if (queued.context && !ended_) RunGuarded(queued.context, queued.call);
+    if (queued.context && !Ended()) RunGuarded(queued.context, queued.call);
   }
 }
 
@@ -144,7 +163,7 @@ void TApplication::CloseAll(const std::vector<TForm*>& first) {
 
 void TApplication::HandleException(TObject* sender) noexcept {
   const std::exception_ptr error = std::current_exception();
-  if (error == nullptr || ended_) return;
+  if (error == nullptr || Ended()) return;
   try {
     if (OnException) {
       OnException(sender, error);
@@ -168,28 +187,20 @@ THold::~THold() {
   if (life_ != nullptr) life_->Unhold();
 }
 
-TScreen::TScreen() : TComponent(nullptr) {}
-
-namespace {
-
-const QScreen* MainScreen() {
-  const QWidget* main = Application == nullptr ? nullptr : Application->MainWidget();
-  return main == nullptr ? QGuiApplication::primaryScreen() : main->screen();
+TApplication* NewestApplication() {
+  return static_cast<TApplication*>(NewestLife());
 }
 
-}  // namespace
-
-int TScreen::Width() const {
-  return MainScreen() == nullptr ? 0 : MainScreen()->geometry().width();
+void CreateApplication() {
+  if (NewestLife() != nullptr) return;
+  DeleteEndedLives();
+  Serve(new TApplication);
 }
 
-int TScreen::Height() const {
-  return MainScreen() == nullptr ? 0 : MainScreen()->geometry().height();
-}
-
-TForm* TScreen::ActiveForm() const {
-  for (TForm* form : forms_) {
-    if (form->Active()) return form;
-  }
-  return nullptr;
+void DestroyApplication() {
+  TApplication* const life = NewestApplication();
+  if (life == nullptr) return;
+  const TLifeScope scope(life, TLifeScope::Returns::kToHost);
+  life->CloseAll({});
+  life->End();
 }

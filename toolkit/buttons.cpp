@@ -6,7 +6,6 @@
 #include <QToolButton>
 
 #include "toolkit/action.h"
-#include "toolkit/application.h"
 #include "toolkit/form.h"
 #include "toolkit/image_list.h"
 #include "toolkit/menu.h"

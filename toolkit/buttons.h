@@ -2,7 +2,7 @@
 
 #include <QPointer>
 
-#include "toolkit/control.h"
+#include "toolkit/win_control.h"
 
 class QAbstractButton;
 class TImageList;

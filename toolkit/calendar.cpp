@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "toolkit/application.h"
 #include "toolkit/edits.h"
+#include "toolkit/event_guard.h"
 
 TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
   auto* calendar = new QCalendarWidget;

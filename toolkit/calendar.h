@@ -1,7 +1,7 @@
 #pragma once
 
-#include "toolkit/control.h"
 #include "toolkit/conversion.h"
+#include "toolkit/win_control.h"
 
 class QCalendarWidget;
 class QTableView;

@@ -12,7 +12,7 @@
 #include <QWheelEvent>
 
 #include "data/row.h"
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/strings_model.h"
 #include "toolkit/text.h"
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "toolkit/control.h"
 #include "toolkit/string_list.h"
+#include "toolkit/win_control.h"
 
 class QComboBox;
 class TStringsModel;

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
-#include "toolkit/application.h"
+#include "toolkit/life.h"
 #include "toolkit/text.h"
 
-TComponent::TComponent(TComponent* owner)
-    : QObject(owner), owner_(owner), life_(owner == nullptr ? Application : owner->life_) {
+TComponent::TComponent(TComponent* owner) : TComponent(owner, ServedLife()) {}
+
+TComponent::TComponent(TComponent* owner, TLife* life)
+    : QObject(owner), owner_(owner), life_(owner == nullptr ? life : owner->life_) {
   if (owner_ != nullptr) owner_->components_.push_back(this);
 }
 
@@ -45,4 +47,9 @@ void TComponent::DestroyComponents() {
 
 std::string ClassName(const TObject* object) {
   return object == nullptr ? std::string() : object->metaObject()->className();
+}
+
+TLife* LifeOf(const TObject* object) {
+  const auto* component = qobject_cast<const TComponent*>(object);
+  return component == nullptr || component->Life() == nullptr ? ServedLife() : component->Life();
 }

@@ -5,11 +5,12 @@
 #include <algorithm>
 
 #include "toolkit/action.h"
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/events.h"
 #include "toolkit/form.h"
 #include "toolkit/menu.h"
 #include "toolkit/text.h"
+#include "toolkit/win_control.h"
 
 TControl::TControl(TComponent* owner) : TComponent(owner), font_(new TFont(this)) {
   font_->OnChange = [this] { FontChanged(); };
@@ -17,7 +18,7 @@ TControl::TControl(TComponent* owner) : TComponent(owner), font_(new TFont(this)
 
 TControl::~TControl() {
   font_->OnChange = nullptr;
-  if (action_) static_cast<TAction*>(action_.data())->Unbind(this);
+  if (action_ != nullptr) action_->Unbind(this);
   if (parent_ != nullptr) std::erase(parent_->controls_, this);
   for (const QPointer<QWidget>& widget : watched_) {
     if (widget) widget->removeEventFilter(this);
@@ -144,12 +145,8 @@ QPoint TControl::ClientToScreen(int x, int y) const {
   return widget_ ? widget_->mapToGlobal(QPoint(x, y)) : QPoint(x, y);
 }
 
-TAction* TControl::Action() const {
-  return static_cast<TAction*>(action_.data());
-}
-
 void TControl::SetAction(TAction* action) {
-  if (action_) Action()->Unbind(this);
+  if (action_ != nullptr) action_->Unbind(this);
   action_ = action;
   if (action == nullptr) return;
   action->Bind(this);
@@ -174,8 +171,8 @@ void TControl::Click() {
   if (!Enabled()) return;
   if (OnClick) {
     FireEvent(OnClick, this);
-  } else if (action_) {
-    Action()->Execute();
+  } else if (action_ != nullptr) {
+    action_->Execute();
   }
 }
 
@@ -201,7 +198,7 @@ void TControl::FontChanged() {
 }
 
 bool TControl::eventFilter(QObject* watched, QEvent* event) {
-  TApplication* const life = LifeOf(this);
+  TLife* const life = LifeOf(this);
   if (HasEnded(life)) return false;
   const TLifeScope scope(life);
   const QPointer<QObject> kept(watched);
@@ -252,9 +249,4 @@ bool TControl::MouseEvent(QWidget* widget, QMouseEvent* event) {
     }
   }
   return EndsMouseEvents();
-}
-
-void TbsSkinControl::SetUseSkinFontColor(bool use) {
-  use_skin_font_color_ = use;
-  FontChanged();
 }

@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QToolButton>
 
-#include "toolkit/application.h"
-#include "toolkit/image_list.h"
+#include "toolkit/event_guard.h"
+#include "toolkit/stock_images.h"
 #include "toolkit/text.h"
 
 static constexpr int kButtonRoom = 2;

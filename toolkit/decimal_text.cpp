@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-static constexpr std::size_t kMostDigits = 30;
-static constexpr int kAmountFormat = 2;
-static constexpr int kNumberFormat = 4;
+static constexpr std::size_t kMaxDigits = 30;
 
 namespace {
 
@@ -42,7 +40,7 @@ std::optional<TNumber> ParseNumber(std::string_view text) {
     return {};
   std::ranges::copy_if(whole, std::back_inserter(number.whole), IsDigit);
   const std::size_t digits = number.whole.size() + number.decimals.size();
-  if (digits == 0 || digits > kMostDigits) return {};
+  if (digits == 0 || digits > kMaxDigits) return {};
   return number;
 }
 
@@ -90,11 +88,11 @@ std::string GroupNumber(std::string_view number) {
 }
 
 std::string CellText(int format, const std::string& text) {
-  if (format == kAmountFormat) {
+  if (format == cfAmount) {
     const std::optional<THundredths> amount = ParseAmount(text);
     return amount ? GroupNumber(AmountText(*amount)) : text;
   }
-  if (format == kNumberFormat) {
+  if (format == cfNumber) {
     const std::optional<TNumber> number = ParseNumber(text);
     if (!number) return text;
     const std::string decimals = number->decimals.empty() ? "" : "." + std::string(number->decimals);

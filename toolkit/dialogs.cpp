@@ -8,7 +8,7 @@
 #include <QMimeDatabase>
 #include <QPointer>
 
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/form.h"
 #include "toolkit/text.h"
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/text.h"
 
 /// Holds the user's changes to the edit's limits, before they show.

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "toolkit/control.h"
 #include "toolkit/input_limits.h"
+#include "toolkit/win_control.h"
 
 class QLineEdit;
 class QPlainTextEdit;

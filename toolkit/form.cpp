@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "platform/host_api.h"
-#include "toolkit/application.h"
 #include "toolkit/buttons.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/panels.h"
 #include "toolkit/text.h"
 
@@ -38,7 +38,7 @@ class FormWindow : public QWidget {
 /// An owner form's window; without one, the host's main window.
 QWidget* ParentWindow(const TComponent* owner) {
   if (const auto* form = qobject_cast<const TForm*>(owner)) return form->Widget();
-  return Application == nullptr ? nullptr : Application->MainWidget();
+  return ServedLife() == nullptr ? nullptr : ServedLife()->MainWidget();
 }
 
 /// Keeps a window above the modal one that was on top before it, whoever owns it: a window manager that
@@ -61,12 +61,12 @@ std::intptr_t FormProcedure(void* context, std::uint32_t message, std::uintptr_t
 
 TForm::TForm(TComponent* owner) : TWinControl(owner) {
   SetWidget(new FormWindow(this, ParentWindow(owner)));
-  if (Screen != nullptr) Screen->forms_.push_back(this);
+  if (Life() != nullptr) Life()->AddForm(this);
 }
 
 TForm::~TForm() {
   if (loop_ != nullptr) loop_->quit();
-  if (Screen != nullptr) std::erase(Screen->forms_, this);
+  if (Life() != nullptr) Life()->RemoveForm(this);
   if (handle_ != 0) norvik_window_unregister(handle_);
   if (Widget() != nullptr) {
     Widget()->removeEventFilter(this);
@@ -92,7 +92,7 @@ void TForm::BeforeDestruction() {
 
 void DestroyForm(TForm* form) {
   if (form == nullptr) return;
-  const TApplication* const life = LifeOf(form);
+  const TLife* const life = LifeOf(form);
   if (!HasEnded(life)) form->BeforeDestruction();
   if (HasEnded(life) || (life != nullptr && life->Closing())) {
     form->Hide();
@@ -162,8 +162,9 @@ QPoint TForm::OpeningPlace() const {
     const auto* owner = qobject_cast<const TForm*>(Owner());
     if (owner != nullptr && owner->Showing()) centre = owner->Widget();
   }
-  if (centre == nullptr && position_ != poScreenCenter && Application != nullptr)
-    centre = Application->MainWidget();
+  if (centre == nullptr && position_ != poScreenCenter && ServedLife() != nullptr) {
+    centre = ServedLife()->MainWidget();
+  }
   const QRect screen = (centre == nullptr ? window : centre)->screen()->availableGeometry();
   const QRect room = centre == nullptr || !centre->isVisible() ? screen : centre->window()->frameGeometry();
   QRect at(QPoint(0, 0), window->size());

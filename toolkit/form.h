@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "toolkit/control.h"
 #include "toolkit/life.h"
+#include "toolkit/win_control.h"
 
 class QEventLoop;
 class TbsSkinButton;

@@ -1,44 +1,13 @@
+// The pictures of a form's buttons, menus and labels, counted from 0. They are the layer's own (see
+// stock_images.h) or come from files; masks, overlays and drawing of the original's lists are not there.
 #pragma once
 
 #include <QIcon>
-#include <QPixmap>
 #include <string>
 #include <vector>
 
 #include "toolkit/component.h"
-
-/// Pictures that the layer draws by itself.
-enum TStockImage {
-  siNone,
-  siWarning,
-  siInformation,
-  siQuestion,
-  siError,
-  siQuery,
-  siPrint,
-  siPrintSetup,
-  siExport,
-  siColumns,
-  siDesktop,
-  siSynchronize,
-  siReason,
-  siSum,
-  siDetail,
-  siAudit,
-  siDelete,
-  siClose,
-  siCalendar,
-  siClock,
-  siBill,
-  siUp,
-  siDown
-};
-
-/// One of the stock pictures at a size in pixels.
-QPixmap StockPixmap(TStockImage image, int size);
-
-/// One of the stock pictures, drawn at the size that it is asked for in.
-QIcon StockIcon(TStockImage image);
+#include "toolkit/stock_images.h"
 
 /// Pictures counted from 0.
 class TImageList : public TComponent {

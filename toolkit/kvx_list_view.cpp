@@ -1,3 +1,5 @@
+#include "toolkit/kvx_list_view.h"
+
 #include <QItemSelectionModel>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -8,10 +10,7 @@
 #include "toolkit/decimal_text.h"
 #include "toolkit/list_model.h"
 #include "toolkit/list_tree.h"
-#include "toolkit/list_view.h"
 #include "toolkit/text.h"
-
-static constexpr int kAmountFormat = 2;
 
 TKVXCustomListView::TKVXCustomListView(TComponent* owner)
     : TCustomListView(owner), column_ids_(std::make_unique<corvane::StringVector>()) {
@@ -48,13 +47,11 @@ static void EvenOut(std::vector<corvane::Property>& records) {
 }
 
 void TKVXCustomListView::GetDataVector(corvane::List& rows, int mode) const {
-  constexpr int kSelected = 1;
-  constexpr int kChecked = 2;
   std::vector<corvane::Property> records;
   const int selected = ItemIndex();
   for (int i = 0; i < Model()->Count(); ++i) {
     const TListRow& row = Model()->Row(i);
-    const bool wanted = mode == kChecked ? row.checked : mode != kSelected || i == selected;
+    const bool wanted = mode == dvChecked ? row.checked : mode != dvSelected || i == selected;
     if (wanted && row.record) records.push_back(*row.record);
   }
   EvenOut(records);
@@ -148,8 +145,7 @@ std::string TKVXCustomListView::GetTotalMoney(int column, bool checkedOnly) cons
 }
 
 std::string TKVXCustomListView::SumText(int column) const {
-  return Columns()[column]->Tag() == kAmountFormat ? GroupNumber(GetTotalMoney(column + 1, false))
-                                                   : std::string();
+  return Columns()[column]->Tag() == cfAmount ? GroupNumber(GetTotalMoney(column + 1, false)) : std::string();
 }
 
 void TKVXCustomListView::SetShowSumRow(bool show) {

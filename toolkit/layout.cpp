@@ -3,8 +3,8 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 
-#include "toolkit/control.h"
 #include "toolkit/labels.h"
+#include "toolkit/win_control.h"
 
 namespace {
 

@@ -6,7 +6,6 @@
 #include <QScopedValueRollback>
 
 #include "data/string_vector.h"
-#include "toolkit/application.h"
 #include "toolkit/strings_model.h"
 
 /// Qt's own rule turns round each entry that a typed text finds and each one that a drag passes. Here the

@@ -1,6 +1,6 @@
-#include <algorithm>
+#include "toolkit/list_column.h"
 
-#include "toolkit/list_model.h"
+#include <algorithm>
 
 void TListColumn::SetCaption(const std::string& caption) {
   caption_ = caption;
@@ -38,29 +38,38 @@ void TListColumn::SetTag(int tag) {
 }
 
 int TListColumn::Index() const {
-  const TListColumns& columns = view_->Columns();
   int index = 0;
-  while (columns[index] != this) ++index;
+  while ((*columns_)[index] != this) ++index;
   return index;
 }
 
+void TListColumn::TakeDraggedWidth(int width) {
+  width_ = std::max(Bounded(width), 1);
+}
+
 void TListColumn::Changed() {
-  view_->ShowColumn(Index());
+  columns_->OnChange(Index());
 }
 
 TListColumn* TListColumns::Add() {
-  view_->Model()->ChangeColumns(Count(), Count(), true,
-                                [this] { columns_.emplace_back(new TListColumn(view_, next_id_++)); });
-  view_->ShowColumn(Count() - 1);
+  OnCountChange(Count(), Count(), true,
+                [this] { columns_.push_back(std::make_unique<TListColumn>(this, next_id_++)); });
+  OnChange(Count() - 1);
   return columns_.back().get();
 }
 
 void TListColumns::Clear() {
   if (columns_.empty()) return;
-  view_->Model()->ChangeColumns(0, Count() - 1, false, [this] { columns_.clear(); });
+  OnCountChange(0, Count() - 1, false, [this] { columns_.clear(); });
 }
 
 TListColumn* TListColumns::FindItemID(int id) const {
   const auto found = std::ranges::find(columns_, id, [](const auto& column) { return column->ID(); });
   return found == columns_.end() ? nullptr : found->get();
+}
+
+void TListColumns::Move(int from, int to) {
+  auto column = std::move(columns_[static_cast<std::size_t>(from)]);
+  columns_.erase(columns_.begin() + from);
+  columns_.insert(columns_.begin() + to, std::move(column));
 }

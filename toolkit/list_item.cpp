@@ -1,6 +1,10 @@
+#include "toolkit/list_item.h"
+
+#include <algorithm>
 #include <stdexcept>
 
 #include "toolkit/list_model.h"
+#include "toolkit/list_view.h"
 
 std::string TListItem::Caption() const {
   return model_->Text(*row_, 0);

@@ -6,14 +6,13 @@
 
 #include "toolkit/conversion.h"
 #include "toolkit/decimal_text.h"
+#include "toolkit/list_view.h"
 #include "toolkit/text.h"
-
-static constexpr int kRightTextFormat = 5;
 
 // As a number: of a value of the flags' own type Qt would remember where this library describes the type, and
 // look there again once the library is gone.
 static int ToQtAlignment(const TListColumn& column) {
-  const bool right = column.Alignment() == taRightJustify || column.Tag() == kRightTextFormat;
+  const bool right = column.Alignment() == taRightJustify || column.Tag() == cfRightText;
   const Qt::Alignment across = right                            ? Qt::AlignRight
                                : column.Alignment() == taCenter ? Qt::AlignHCenter
                                                                 : Qt::AlignLeft;
@@ -50,11 +49,11 @@ void TListModel::SetText(TListRow& row, int column, const std::string& text) {
   RecordChanged(row);
 }
 
-void TListModel::Count(TListRow& row, int by) {
+void TListModel::CountTick(TListRow& row, int by) {
   checked_ += by;
   if (by > 0 && !row.kinds && kinds_of_ && row.record) row.kinds = kinds_of_(*row.record);
   const unsigned kinds = row.kinds.value_or(0);
-  for (unsigned kind = 0; kind < kMostKinds; ++kind) {
+  for (unsigned kind = 0; kind < kMaxKinds; ++kind) {
     if ((kinds >> kind & 1U) != 0) checked_of_kind_[kind] += by;
   }
 }
@@ -65,28 +64,28 @@ void TListModel::SetKinds(std::function<std::uint8_t(const corvane::Property& re
   checked_of_kind_ = {};
   for (const auto& row : rows_) {
     row->kinds.reset();
-    if (row->checked) Count(*row, 1);
+    if (row->checked) CountTick(*row, 1);
   }
 }
 
 void TListModel::RecordChanged(TListRow& row) {
-  if (row.checked) Count(row, -1);
+  if (row.checked) CountTick(row, -1);
   row.kinds.reset();
-  if (row.checked) Count(row, 1);
+  if (row.checked) CountTick(row, 1);
   Touch(IndexOf(&row));
 }
 
 void TListModel::SetChecked(TListRow& row, bool checked) {
   if (row.checked == checked) return;
   row.checked = checked;
-  Count(row, checked ? 1 : -1);
+  CountTick(row, checked ? 1 : -1);
   Touch(IndexOf(&row));
 }
 
 void TListModel::CheckAll(bool checked) {
   if (rows_.empty()) return;
   for (const auto& row : rows_) {
-    if (row->checked != checked) Count(*row, checked ? 1 : -1);
+    if (row->checked != checked) CountTick(*row, checked ? 1 : -1);
     row->checked = checked;
   }
   // Only the columns with ticks: a view looks at each cell that it is told of.
@@ -124,7 +123,7 @@ void TListModel::Append(std::vector<std::unique_ptr<TListRow>> rows) {
 }
 
 void TListModel::Delete(int index) {
-  if (TListRow& row = Row(index); row.checked) Count(row, -1);
+  if (TListRow& row = Row(index); row.checked) CountTick(row, -1);
   beginRemoveRows({}, index, index);
   rows_.erase(rows_.begin() + index);
   endRemoveRows();
@@ -136,7 +135,7 @@ void TListModel::DeleteIf(const std::function<bool(int index)>& goes) {
   beginResetModel();
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     if (goes(static_cast<int>(i))) {
-      if (rows_[i]->checked) Count(*rows_[i], -1);
+      if (rows_[i]->checked) CountTick(*rows_[i], -1);
       continue;
     }
     rows_[i]->index = static_cast<int>(kept.size());
@@ -234,7 +233,7 @@ bool TListModel::setData(const QModelIndex& index, const QVariant& value, int ro
   const bool checked = value.toInt() == Qt::Checked;
   if (row.checked == checked) return true;
   SetChecked(row, checked);
-  view_->UserChecked(&row.item);
+  if (OnUserCheck) OnUserCheck(&row.item);
   return true;
 }
 

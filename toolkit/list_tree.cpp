@@ -10,14 +10,13 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
-#include "toolkit/list_view.h"
 #include "toolkit/text.h"
 
 static constexpr int kRowRoom = 6;
 static constexpr int kTextRoom = 4;
 // Left and right of a caption together.
 static constexpr int kCaptionRoom = 14;
-static constexpr int kLeastRows = 3;
+static constexpr int kMinRows = 3;
 
 namespace {
 
@@ -116,7 +115,7 @@ class TListSumBar : public QWidget {
   bool fresh_ = false;
 };
 
-TListTree::TListTree(TCustomListView* list) : list_(list) {
+TListTree::TListTree() {
   setHeader(new ListHeader(this));
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
@@ -141,6 +140,11 @@ void TListTree::SetGridLines(bool on) {
   viewport()->update();
 }
 
+void TListTree::SetHideSelection(bool on) {
+  hide_selection_ = on;
+  ShowSelection();
+}
+
 void TListTree::SetSums(std::function<QString(int column)> sums) {
   delete sum_bar_;
   sum_bar_ = sums ? new TListSumBar(this, std::move(sums)) : nullptr;
@@ -160,7 +164,7 @@ QSize TListTree::minimumSizeHint() const {
   const int head = isHeaderHidden() ? 0 : header()->sizeHint().height();
   const int foot =
       horizontalScrollBar()->sizeHint().height() + (sum_bar_ == nullptr ? 0 : sum_bar_->Height());
-  const int height = head + kLeastRows * RowHeight() + foot + 2 * frameWidth();
+  const int height = head + kMinRows * RowHeight() + foot + 2 * frameWidth();
   return {QTreeView::minimumSizeHint().width(), height};
 }
 
@@ -204,7 +208,7 @@ void TListTree::focusOutEvent(QFocusEvent* event) {
 }
 
 bool TListTree::HidesSelection() const {
-  return list_->HideSelection() && !hasFocus();
+  return hide_selection_ && !hasFocus();
 }
 
 // A style takes the row's colour from the palette and a skin the cells' from their state (see RowDelegate).
@@ -218,7 +222,7 @@ void TListTree::ShowSelection() {
 }
 
 void TListTree::Report(QMouseEvent* event) {
-  list_->TreeMouse(event);
+  OnMouse(event);
   event->accept();
 }
 

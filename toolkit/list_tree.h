@@ -1,21 +1,26 @@
+// The Qt view under a list view: a tree widget that behaves as a list, with room in its rows, captions cut at
+// their end, grid lines and a strip of sums. Only the list view uses it; it knows rows and columns as Qt's
+// model has them.
 #pragma once
 
 #include <QString>
 #include <QTreeView>
 #include <functional>
 
-class TCustomListView;
 class TListSumBar;
 
 /// The Qt view of a list view: a tree without branches, whose rows are all of one height.
 class TListTree : public QTreeView {
  public:
-  explicit TListTree(TCustomListView* list);
+  TListTree();
 
+  /// Draws lines between rows and columns, or none.
   void SetGridLines(bool on);
+  /// Whether the selection shows only with the focus; true at the start.
+  void SetHideSelection(bool on);
   /// Text of a column's cell in the strip below the rows; unset: no strip.
   void SetSums(std::function<QString(int column)> sums);
-  /// Whether the selected row isn't marked: with HideSelection, and without the focus.
+  /// Whether the selected row isn't marked: the selection is to be hidden, and the focus is elsewhere.
   bool HidesSelection() const;
   /// Marks the selected row, or not, as things are now.
   void ShowSelection();
@@ -23,6 +28,9 @@ class TListTree : public QTreeView {
   QSize minimumSizeHint() const override;
   /// No higher than that: a list takes the room that others leave over.
   QSize sizeHint() const override;
+
+  /// Runs after the view has done what a mouse event on it asks for.
+  std::function<void(QMouseEvent* event)> OnMouse;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -41,7 +49,7 @@ class TListTree : public QTreeView {
   bool OnCheckBox(const QPoint& point) const;
   void Report(QMouseEvent* event);
 
-  TCustomListView* list_;
   TListSumBar* sum_bar_ = nullptr;
   bool grid_lines_ = false;
+  bool hide_selection_ = true;
 };

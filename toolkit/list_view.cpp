@@ -7,21 +7,27 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/list_model.h"
 #include "toolkit/list_tree.h"
 
 /// A column that is shown can't be dragged narrower than this, so that it doesn't get lost.
-static constexpr int kLeastDraggedWidth = 16;
+static constexpr int kMinDraggedWidth = 16;
 
 TCustomListView::TCustomListView(TComponent* owner)
-    : TbsSkinControl(owner), model_(new TListModel(this)), columns_(this), items_(model_) {
-  auto* tree = new TListTree(this);
+    : TbsSkinControl(owner), model_(new TListModel(this)), items_(model_) {
+  auto* tree = new TListTree;
   SetWidget(tree);
   SetTabStop(true);
   tree->setModel(model_);
   tree->ShowSelection();
   ConnectHeader();
+  tree->OnMouse = [this](QMouseEvent* event) { TreeMouse(event); };
+  columns_.OnChange = [this](int index) { ShowColumn(index); };
+  columns_.OnCountChange = [this](int first, int last, bool come, const std::function<void()>& change) {
+    model_->ChangeColumns(first, last, come, change);
+  };
+  model_->OnUserCheck = [this](TListItem* item) { FireEvent(OnItemCheck, this, item); };
   connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this](const QItemSelection& selected, const QItemSelection& deselected) {
             const int gone = deselected.isEmpty() ? -1 : deselected.first().top();
@@ -107,7 +113,7 @@ void TCustomListView::SetGridLines(bool on) {
 
 void TCustomListView::SetHideSelection(bool on) {
   hide_selection_ = on;
-  if (Tree() != nullptr) Tree()->ShowSelection();
+  if (Tree() != nullptr) Tree()->SetHideSelection(on);
 }
 
 void TCustomListView::SetShowColumnHeaders(bool on) {
@@ -130,17 +136,13 @@ void TCustomListView::TreeMouse(QMouseEvent* event) {
   if (Tree() != nullptr) TbsSkinControl::WidgetEvent(Tree()->viewport(), event);
 }
 
-void TCustomListView::UserChecked(TListItem* item) {
-  FireEvent(OnItemCheck, this, item);
-}
-
 void TCustomListView::ReportSelection(int row, bool selected) {
   if (row < model_->Count()) FireEvent(OnSelectItem, this, &model_->Row(row).item, selected);
 }
 
 void TCustomListView::ConnectHeader() {
   QHeaderView* header = Tree()->header();
-  header->setMinimumSectionSize(kLeastDraggedWidth);
+  header->setMinimumSectionSize(kMinDraggedWidth);
   connect(header, &QHeaderView::sectionResized, this,
           [this](int index, int, int width) { SectionResized(index, width); });
   connect(header, &QHeaderView::sectionMoved, this,
@@ -161,10 +163,10 @@ void TCustomListView::SectionResized(int index, int width) {
   if (arranging_ || index >= columns_.Count()) return;
   TListColumn& column = *columns_[index];
   if (column.Hidden()) return;
-  column.width_ = std::max(column.Bounded(width), 1);
-  if (column.width_ == width) return;
+  column.TakeDraggedWidth(width);
+  if (column.Width() == width) return;
   const QScopedValueRollback arranging(arranging_, true);
-  Tree()->header()->resizeSection(index, column.width_);
+  Tree()->header()->resizeSection(index, column.Width());
 }
 
 // The collection takes the user's order, and the header's own order goes back to the collection's.
@@ -172,9 +174,7 @@ void TCustomListView::SectionMoved(int from, int to) {
   if (arranging_ || from >= columns_.Count() || to >= columns_.Count()) return;
   const QScopedValueRollback arranging(arranging_, true);
   Tree()->header()->moveSection(to, from);
-  auto column = std::move(columns_.columns_[static_cast<std::size_t>(from)]);
-  columns_.columns_.erase(columns_.columns_.begin() + from);
-  columns_.columns_.insert(columns_.columns_.begin() + to, std::move(column));
+  columns_.Move(from, to);
   model_->MoveTexts(from, to);
   ColumnMoved(from, to);
   for (int i = 0; i < columns_.Count(); ++i) {

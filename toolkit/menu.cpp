@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "toolkit/action.h"
-#include "toolkit/application.h"
 #include "toolkit/control.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/form.h"
 #include "toolkit/image_list.h"
 #include "toolkit/skin.h"

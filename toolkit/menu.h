@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/action_client.h"
 #include "toolkit/component.h"
 
 class QMenu;
@@ -12,7 +13,7 @@ class TImageList;
 class TMenu;
 
 /// An entry of a menu, or with entries of its own a submenu. The caption "-" makes a separator.
-class TMenuItem : public TComponent {
+class TMenuItem : public TComponent, public TActionClient {
   Q_OBJECT
   Q_PROPERTY(QString Caption READ PublishedCaption WRITE SetPublishedCaption)
   Q_PROPERTY(QString Hint READ PublishedHint WRITE SetPublishedHint)
@@ -21,25 +22,32 @@ class TMenuItem : public TComponent {
   explicit TMenuItem(TComponent* owner);
   ~TMenuItem() override;
 
-  std::string Caption() const { return caption_; }
-  void SetCaption(const std::string& caption) { caption_ = caption; }
-  std::string Hint() const { return hint_; }
-  void SetHint(const std::string& hint) { hint_ = hint; }
+  /// Text of the entry, empty at the start.
+  std::string Caption() const final { return caption_; }
+  void SetCaption(const std::string& caption) final { caption_ = caption; }
+  /// Kept for the forms; menus show no hints.
+  std::string Hint() const final { return hint_; }
+  void SetHint(const std::string& hint) final { hint_ = hint; }
+  /// Whether the entry is a separator.
   bool IsLine() const { return caption_ == "-"; }
-  bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled) { enabled_ = enabled; }
-  bool Visible() const { return visible_; }
-  void SetVisible(bool visible) { visible_ = visible; }
+  /// Whether the entry can be clicked; true at the start.
+  bool Enabled() const final { return enabled_; }
+  void SetEnabled(bool enabled) final { enabled_ = enabled; }
+  /// Whether the entry shows in the menu; true at the start.
+  bool Visible() const final { return visible_; }
+  void SetVisible(bool visible) final { visible_ = visible; }
+  /// Whether the entry bears a tick; false at the start.
   bool Checked() const { return checked_; }
   void SetChecked(bool checked) { checked_ = checked; }
   /// Whether a click turns Checked round before OnClick runs.
   bool AutoCheck() const { return auto_check_; }
   void SetAutoCheck(bool on) { auto_check_ = on; }
-  int ImageIndex() const { return image_index_; }
+  /// Index of the picture in the images of the action's list, or else of the menu; -1: none.
+  int ImageIndex() const final { return image_index_; }
   void SetImageIndex(int index) { image_index_ = index; }
   /// The action that names, enables, shows and executes the entry; null takes it off.
   TAction* Action() const { return action_; }
-  void SetAction(TAction* action);
+  void SetAction(TAction* action) final;
 
   /// The entries of the submenu, counted from 0.
   int Count() const { return static_cast<int>(items_.size()); }
@@ -67,10 +75,8 @@ class TMenuItem : public TComponent {
   void SetPublishedHint(const QString& hint);
 
  private:
-  friend class TAction;
-  friend class TMenu;
-  void TakeChecked(bool checked) { checked_ = checked; }
-  void TakeImage(const TAction& action);
+  void TakeChecked(bool checked) final { checked_ = checked; }
+  void TakeImage(const TAction& action) final;
 
   std::string caption_;
   std::string hint_;

@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/text.h"
 
 namespace {

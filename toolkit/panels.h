@@ -4,8 +4,8 @@
 #include <QPointer>
 #include <string>
 
-#include "toolkit/control.h"
 #include "toolkit/string_list.h"
+#include "toolkit/win_control.h"
 
 class QLabel;
 class QScrollArea;

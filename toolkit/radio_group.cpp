@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/text.h"
 
 TbsSkinRadioGroup::TbsSkinRadioGroup(TComponent* owner) : TbsSkinControl(owner) {

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/control.h"
 #include "toolkit/string_list.h"
+#include "toolkit/win_control.h"
 
 class QButtonGroup;
 class QGridLayout;

@@ -1,9 +1,41 @@
-#include <QPainter>
-#include <QPainterPath>
+#include "toolkit/stock_images.h"
 
-#include "toolkit/image_list.h"
+#include <QApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+#include <algorithm>
+#include <utility>
 
 namespace {
+
+// A picture that is made when it is asked for. Qt's own engine would put each into the process's pixmap
+// cache, which goes on holding it when the module has gone.
+class PictureEngine : public QIconEngine {
+ public:
+  using Make = std::function<QPixmap(const QSize& size)>;
+
+  explicit PictureEngine(Make make) : make_(std::move(make)) {}
+
+  QIconEngine* clone() const override { return new PictureEngine(make_); }
+
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
+    const QSize size = area.size() * painter->device()->devicePixelRatio();
+    painter->drawPixmap(area, pixmap(size, mode, state));
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    QPixmap picture = make_(size);
+    if (mode == QIcon::Normal || mode == QIcon::Active) return picture;
+    QStyleOption option;
+    option.palette = QGuiApplication::palette();
+    return QApplication::style()->generatedIconPixmap(mode, picture, &option);
+  }
+
+ private:
+  Make make_;
+};
 
 // All pictures are drawn on a field of 16 by 16.
 const QColor kInk(0x34, 0x4F, 0x72);
@@ -196,4 +228,13 @@ QPixmap StockPixmap(TStockImage image, int size) {
   painter.scale(size / 16.0, size / 16.0);
   kDrawings[image](painter);
   return picture;
+}
+
+QIcon StockIcon(TStockImage image) {
+  return MadeIcon(
+      [image](const QSize& size) { return StockPixmap(image, std::min(size.width(), size.height())); });
+}
+
+QIcon MadeIcon(std::function<QPixmap(const QSize& size)> make) {
+  return QIcon(new PictureEngine(std::move(make)));
 }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "toolkit/control.h"
+#include "toolkit/win_control.h"
 
 class QTabWidget;
 

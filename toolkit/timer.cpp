@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "toolkit/application.h"
+#include "toolkit/event_guard.h"
 
 TTimer::TTimer(TComponent* owner) : TComponent(owner), timer_(new QTimer(this)) {
   QObject::connect(timer_, &QTimer::timeout, this, [this] { Tick(); });

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/control.h"
+#include "toolkit/win_control.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;

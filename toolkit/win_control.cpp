@@ -1,3 +1,5 @@
+#include "toolkit/win_control.h"
+
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -6,8 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "toolkit/application.h"
-#include "toolkit/control.h"
+#include "toolkit/event_guard.h"
 #include "toolkit/events.h"
 #include "toolkit/form.h"
 #include "toolkit/text.h"
@@ -155,4 +156,9 @@ void TWinControl::AlignControls() {
     }
   };
   for (const TAlign align : {alTop, alBottom, alLeft, alRight, alClient}) place(align);
+}
+
+void TbsSkinControl::SetUseSkinFontColor(bool use) {
+  use_skin_font_color_ = use;
+  FontChanged();
 }

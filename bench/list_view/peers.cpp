@@ -9,7 +9,7 @@
 #include "toolkit/application.h"
 #include "toolkit/decimal_text.h"
 #include "toolkit/form.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/text.h"
 
 namespace list_bench {

@@ -8,8 +8,8 @@
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "platform/host_api.h"
-#include "toolkit/application.h"
 #include "toolkit/conversion.h"
+#include "toolkit/life.h"
 #include "toolkit/properties.h"
 #include "toolkit/text.h"
 

@@ -6,7 +6,7 @@
 #include "toolkit/action.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/form.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/properties.h"
 #include "toolkit/tabs.h"

@@ -5,7 +5,7 @@
 #include "framework/base/base_form.h"
 #include "host/error.h"
 #include "toolkit/conversion.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 
 namespace norvik {
 

@@ -16,8 +16,8 @@
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/conversion.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 
 namespace {
 

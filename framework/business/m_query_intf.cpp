@@ -9,7 +9,7 @@
 #include "host/safe_com.h"
 #include "host/translate.h"
 #include "toolkit/date_edit.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/radio_group.h"
 
 using norvik::DateRange;

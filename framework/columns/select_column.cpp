@@ -6,9 +6,9 @@
 #include "host/translate.h"
 #include "toolkit/buttons.h"
 #include "toolkit/conversion.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 
 namespace {

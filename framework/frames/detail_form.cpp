@@ -3,8 +3,8 @@
 #include "framework/base/action_table.h"
 #include "host/translate.h"
 #include "toolkit/buttons.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
 

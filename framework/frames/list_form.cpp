@@ -11,15 +11,15 @@
 #include "host/error.h"
 #include "host/pub_info.h"
 #include "toolkit/action.h"
-#include "toolkit/application.h"
 #include "toolkit/buttons.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/image_list.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 namespace {

@@ -14,9 +14,10 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
+#include "toolkit/event_guard.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
 

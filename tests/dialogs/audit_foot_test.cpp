@@ -7,6 +7,7 @@
 #include "dialogs/view_bsn_flow.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;

@@ -7,7 +7,6 @@
 #include "dialogs/audit_form.h"
 #include "dialogs/com_msg.h"
 #include "tests/support/form_host.h"
-#include "toolkit/application.h"
 #include "toolkit/text.h"
 
 namespace {

@@ -5,7 +5,6 @@
 #include "dialogs/booking_form.h"
 #include "dialogs/com_msg.h"
 #include "tests/support/screen_host.h"
-#include "toolkit/application.h"
 #include "toolkit/text.h"
 
 namespace {

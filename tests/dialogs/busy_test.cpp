@@ -12,6 +12,7 @@
 #include "dialogs/busy_frames.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 
 using fakehost::Library;
 

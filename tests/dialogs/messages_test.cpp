@@ -16,6 +16,7 @@
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
 #include "toolkit/clipboard.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;

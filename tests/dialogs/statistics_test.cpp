@@ -6,6 +6,7 @@
 #include "dialogs/statistics_form.h"
 #include "tests/support/form_host.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;

@@ -9,7 +9,7 @@
 #include "tests/data/keys.h"
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 
 namespace {
 

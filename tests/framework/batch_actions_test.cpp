@@ -11,8 +11,8 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/edits.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 
 using fakehost::Library;

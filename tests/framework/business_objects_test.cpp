@@ -9,8 +9,9 @@
 #include "tests/support/screen_host.h"
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;

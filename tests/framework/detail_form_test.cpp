@@ -9,7 +9,7 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
 

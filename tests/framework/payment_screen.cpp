@@ -4,9 +4,9 @@
 #include "toolkit/action.h"
 #include "toolkit/buttons.h"
 #include "toolkit/edits.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 
 namespace {

@@ -15,7 +15,7 @@
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
 #include "toolkit/dialogs.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
 

@@ -8,8 +8,8 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 
 using fakehost::Library;
 

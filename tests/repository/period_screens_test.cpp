@@ -8,10 +8,11 @@
 #include "toolkit/application.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/date_edit.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
-#include "toolkit/list_view.h"
 #include "toolkit/panels.h"
 #include "toolkit/radio_group.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 namespace {

@@ -8,6 +8,7 @@
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 using fakehost::Library;

@@ -1,4 +1,6 @@
 #include "toolkit/application.h"
+#include "toolkit/event_guard.h"
+#include "toolkit/screen.h"
 
 #include <gtest/gtest.h>
 

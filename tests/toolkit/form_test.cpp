@@ -8,6 +8,7 @@
 #include "platform/host_api.h"
 #include "tests/toolkit/test_form.h"
 #include "toolkit/application.h"
+#include "toolkit/screen.h"
 
 using Log = std::vector<std::string>;
 

@@ -8,8 +8,8 @@
 #include "data/list.h"
 #include "data/string_vector.h"
 #include "tests/toolkit/kvx_fixture.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/layout.h"
-#include "toolkit/list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/text.h"
 

@@ -31,8 +31,9 @@
 #include "tests/walk/look.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/panels.h"
+#include "toolkit/screen.h"
 #include "toolkit/text.h"
 
 namespace fs = std::filesystem;

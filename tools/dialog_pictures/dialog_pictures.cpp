@@ -21,8 +21,9 @@
 #include "shell/module.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"
-#include "toolkit/list_view.h"
+#include "toolkit/kvx_list_view.h"
 #include "toolkit/menu.h"
+#include "toolkit/screen.h"
 #include "tools/dialog_pictures/fitting.h"
 
 namespace {
