@@ -12,6 +12,7 @@
 #include "host/pub_info.h"
 #include "toolkit/application.h"
 #include "toolkit/conversion.h"
+#include "toolkit/decimal_text.h"
 #include "toolkit/layout.h"
 
 namespace {
@@ -24,8 +25,6 @@ constexpr int kRowGap = 4;                   // so that the form fits a low scre
 constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
 constexpr int kPurposeCharacters = 39;       // full-width ones in a line, 78 bytes
 constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
-constexpr int kAmountTag = 2;
-constexpr int kRightTag = 5;
 
 constexpr const char* kFlowTransaction = "COMQRYFW";
 constexpr const char* kFirstLevel = "PSTLEVEL0";
@@ -157,7 +156,7 @@ void TfrmEBillAuditFoot::BuildColumns() {
     std::string caption;
     business.AddListColumn(m_lvMain, fieldDef, columnRow, caption);
     TListColumn* column = m_lvMain->Columns()[m_lvMain->Columns().Count() - 1];
-    if (column->Tag() != kAmountTag && column->Tag() != kRightTag) column->SetTag(0);
+    if (column->Tag() != cfAmount && column->Tag() != cfRightText) column->SetTag(cfText);
   }
 }
 

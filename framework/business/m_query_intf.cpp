@@ -17,7 +17,6 @@ using norvik::QuickDate;
 
 namespace {
 
-constexpr int kCheckedRows = 2;          // GetDataVector: the ticked rows
 constexpr std::size_t kHourDigits = 10;  // "yyyymmddhh"
 constexpr const char* kBatchAudit = "1";
 constexpr const char* kBooked = "UI52019";
@@ -25,7 +24,7 @@ constexpr const char* kPastBooking = "UI53317";
 
 corvane::List TickedRecords(TKVXListView* listView) {
   corvane::List records;
-  listView->GetDataVector(records, kCheckedRows);
+  listView->GetDataVector(records, dvChecked);
   return records;
 }
 

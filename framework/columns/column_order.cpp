@@ -3,6 +3,8 @@
 #include <set>
 #include <string>
 
+#include "toolkit/decimal_text.h"
+
 namespace norvik {
 
 std::vector<unsigned> ColumnOrder(corvane::List& fieldDefs, corvane::List& savedLayout) {
@@ -23,11 +25,11 @@ std::vector<unsigned> ColumnOrder(corvane::List& fieldDefs, corvane::List& saved
 }
 
 int ColumnTag(const std::string& format) {
-  if (format == "M") return 2;
-  if (format == "N") return 4;
-  if (format == "R") return 5;
-  if (format == "X") return kInternalColumnTag;
-  return 0;
+  if (format == "M") return cfAmount;
+  if (format == "N") return cfNumber;
+  if (format == "R") return cfRightText;
+  if (format == "X") return cfInternal;
+  return cfText;
 }
 
 }  // namespace norvik

@@ -12,11 +12,9 @@ namespace norvik {
 // name that the table lacks is skipped, and no column comes twice.
 std::vector<unsigned> ColumnOrder(corvane::List& fieldDefs, corvane::List& savedLayout);
 
-// The display format of a column (`TListColumn::Tag`) for the table's COLFMT; 0 for a text it does not know.
+// The display format of a column (a TColumnFormat, `TListColumn::Tag`) for the table's COLFMT; cfText for a
+// text it does not know. An internal column (cfInternal) is neither offered to the user nor saved.
 int ColumnTag(const std::string& format);
-
-// The format of an internal column, which is neither offered to the user nor saved.
-inline constexpr int kInternalColumnTag = 100;
 
 // The text key of the caption of a column that only carries data.
 inline constexpr const char* kDataColumnKey = "UI99999";

@@ -6,6 +6,7 @@
 #include "host/translate.h"
 #include "toolkit/buttons.h"
 #include "toolkit/conversion.h"
+#include "toolkit/decimal_text.h"
 #include "toolkit/kvx_list_view.h"
 #include "toolkit/labels.h"
 #include "toolkit/layout.h"
@@ -24,7 +25,7 @@ constexpr int kGreatestSavedWidth = 10000;
 enum SubItem { kColumnId = 0, kColumnIdentity = 1, kColumnIndex = 2 };
 
 bool IsOffered(const TListColumn* column) {
-  return !column->Caption().empty() && column->Tag() != norvik::kInternalColumnTag;
+  return !column->Caption().empty() && column->Tag() != cfInternal;
 }
 
 bool IsShown(const TListColumn* column) {

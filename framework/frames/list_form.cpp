@@ -29,7 +29,6 @@ constexpr int kFreeWidth = 120;
 constexpr int kFreeHeight = 220;
 
 constexpr int kAnnouncedForm = 1;  // Tag of a form that the host is told of
-constexpr int kCheckedRows = 2;    // GetDataVector: the ticked rows
 constexpr std::uint8_t kReasonFlag = 1;
 
 // The choices of the save dialog's filter, in its order.
@@ -168,7 +167,7 @@ void TListForm::m_actSumExecute(TObject*) {
 
 corvane::List TListForm::CheckedRecords() {
   corvane::List records;
-  m_lvMain->GetDataVector(records, kCheckedRows);
+  m_lvMain->GetDataVector(records, dvChecked);
   return records;
 }
 
