@@ -55,7 +55,7 @@ void TAction::SetChecked(bool checked) {
 
 void TAction::SetImageIndex(int index) {
   Change(
-      image_index_, index, [](const TActionClient& client) { return client.ImageIndex(); },
+      imageIndex_, index, [](const TActionClient& client) { return client.ImageIndex(); },
       [this](TActionClient& client) { client.TakeImage(*this); });
 }
 

@@ -40,7 +40,7 @@ class TAction : public TComponent {
   bool Checked() const { return checked_; }
   void SetChecked(bool checked);
   /// Index of the picture in the action list's images, -1: none.
-  int ImageIndex() const { return image_index_; }
+  int ImageIndex() const { return imageIndex_; }
   void SetImageIndex(int index);
 
   /// The list that the action belongs to; null takes it out.
@@ -58,6 +58,7 @@ class TAction : public TComponent {
   /// Removes a client; the client's SetAction calls it.
   void Unbind(TActionClient* client);
 
+  /// Published properties (see properties.h).
   QString PublishedCaption() const;
   void SetPublishedCaption(const QString& caption);
   QString PublishedHint() const;
@@ -73,7 +74,7 @@ class TAction : public TComponent {
   bool enabled_ = true;
   bool visible_ = true;
   bool checked_ = false;
-  int image_index_ = -1;
+  int imageIndex_ = -1;
   TCustomActionList* list_ = nullptr;
   std::vector<TActionClient*> clients_;
 };

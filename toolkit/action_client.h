@@ -16,12 +16,16 @@ class TActionClient {
   /// being deleted unbinds its clients.
   virtual void SetAction(TAction* action) = 0;
 
+  /// The client's own text.
   virtual std::string Caption() const = 0;
   virtual void SetCaption(const std::string& caption) = 0;
+  /// The client's own tool tip.
   virtual std::string Hint() const = 0;
   virtual void SetHint(const std::string& hint) = 0;
+  /// Whether the client can be clicked.
   virtual bool Enabled() const = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  /// Whether the client is to show.
   virtual bool Visible() const = 0;
   virtual void SetVisible(bool visible) = 0;
   /// Index of the picture that the client shows, -1: none.

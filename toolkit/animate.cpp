@@ -12,7 +12,7 @@ constexpr int kRound = 32;
 const QColor kTrack(0xD5, 0xDE, 0xEA);
 const QColor kMover(0x2F, 0x6D, 0xB5);
 
-/// A block that runs along a track, and fades in and out at the ends.
+// A block that runs along a track, and fades in and out at the ends.
 void PaintMover(QPainter& painter, const QRectF& area, int step) {
   const qreal height = qMin<qreal>(area.height() / 3, 8);
   QRectF track(area.left() + 12, area.center().y() - height / 2, area.width() - 24, height);
@@ -25,7 +25,7 @@ void PaintMover(QPainter& painter, const QRectF& area, int step) {
   painter.drawRoundedRect(QRectF(at, track.top(), width, height), height / 2, height / 2);
 }
 
-/// Dots on a ring, of which the darkest goes round.
+// Dots on a ring, of which the darkest goes round.
 void PaintRing(QPainter& painter, const QRectF& area, int step) {
   constexpr int kDots = 8;
   const qreal radius = qMin(area.width(), area.height()) / 3;
@@ -42,14 +42,14 @@ void PaintRing(QPainter& painter, const QRectF& area, int step) {
 
 }  // namespace
 
-/// Shows the frames one after the other while it is running.
+// Shows the frames one after the other while it is running.
 class TAnimate::Canvas : public QWidget {
  public:
   explicit Canvas(const TAnimate* control) : control_(control) {
     QObject::connect(&timer_, &QTimer::timeout, this, [this] { ++step_, update(); });
   }
 
-  void Load() { frames_ = ReadFile(control_->file_name_); }
+  void Load() { frames_ = ReadFile(control_->fileName_); }
   const std::vector<QImage>& Frames() const { return frames_; }
 
   void Run(bool on) {
@@ -71,12 +71,12 @@ class TAnimate::Canvas : public QWidget {
 
  private:
   static std::vector<QImage> ReadFile(const std::string& path) {
-    constexpr std::size_t kMostFrames = 256;
+    constexpr std::size_t kMaxFrames = 256;
     std::vector<QImage> frames;
     if (path.empty()) return frames;
     QImageReader reader(ToQt(path));
     reader.setDecideFormatFromContent(true);
-    while (frames.size() < kMostFrames && reader.canRead()) {
+    while (frames.size() < kMaxFrames && reader.canRead()) {
       QImage frame = reader.read();
       if (frame.isNull()) break;
       frames.push_back(std::move(frame));
@@ -103,7 +103,7 @@ TAnimate::Canvas* TAnimate::ShownOn() const {
 }
 
 void TAnimate::SetFileName(const std::string& path) {
-  file_name_ = path;
+  fileName_ = path;
   if (ShownOn() != nullptr) ShownOn()->Load();
 }
 

@@ -1,3 +1,5 @@
+// The moving picture of the busy display. A form places it like any control; the painter of the busy display
+// draws the same frames while the event loop is blocked. Sound and the original's film files are not there.
 #pragma once
 
 #include <QImage>
@@ -6,10 +8,11 @@
 
 #include "toolkit/win_control.h"
 
+/// The built-in animations.
 enum TCommonAVI { aviNone, aviFindFolder, aviCopyFiles };
 
 /// A place for a looping animation: frames of a file, or a built-in one. The pictures come from the event
-/// loop; where that stands still, the painter of the busy display draws the same frames.
+/// loop; where that is blocked, the painter of the busy display draws the same frames.
 class TAnimate : public TWinControl {
   Q_OBJECT
 
@@ -19,23 +22,24 @@ class TAnimate : public TWinControl {
 
   /// File of frames that the platform can read (GIF, WebP, animated PNG), which is played to its end; one
   /// that it can't leaves the built-in one.
-  std::string FileName() const { return file_name_; }
+  std::string FileName() const { return fileName_; }
   void SetFileName(const std::string& path);
+  /// The built-in animation, which shows where there is no file.
   TCommonAVI CommonAVI() const { return common_; }
   void SetCommonAVI(TCommonAVI animation);
-  /// Last frame of the original's built-in animation; kept for the forms, since those here end where they
-  /// begin.
-  int StopFrame() const { return stop_frame_; }
-  void SetStopFrame(int frame) { stop_frame_ = frame; }
+  /// Last frame of the original's built-in animation. Stored only: the animations here end where they begin.
+  int StopFrame() const { return stopFrame_; }
+  void SetStopFrame(int frame) { stopFrame_ = frame; }
+  /// Whether the frames move; false at the start.
   bool Active() const { return active_; }
   void SetActive(bool active);
 
   /// The frames of one round at a size in pixels, for a painter that has no event loop.
   std::vector<QImage> Frames(QSize size) const;
-  /// Time that each frame stands, milliseconds.
+  /// Time that each frame shows, milliseconds.
   static constexpr int kFrameTime = 80;
-  /// Paints a frame of the built-in animation into a rectangle; step counts on without end. Safe on any
-  /// thread.
+  /// Paints a frame of the built-in animation into a rectangle; step is any number that grows by 1 from frame
+  /// to frame. Safe on any thread.
   static void PaintBuiltIn(class QPainter& painter, const class QRectF& area, TCommonAVI animation, int step);
 
  protected:
@@ -45,8 +49,8 @@ class TAnimate : public TWinControl {
   class Canvas;
   Canvas* ShownOn() const;
 
-  std::string file_name_;
+  std::string fileName_;
   TCommonAVI common_ = aviNone;
-  int stop_frame_ = 0;
+  int stopFrame_ = 0;
   bool active_ = false;
 };

@@ -19,8 +19,8 @@ struct TApplication::QueuedCall {
 
 namespace {
 
-/// A child of the host's main window, older than the forms' windows there: it goes before them, and they can
-/// be saved.
+// A child of the host's main window, older than the forms' windows there: it goes before them, and they can
+// be saved.
 class Anchor : public QObject {
  public:
   Anchor(QObject* main, std::function<void()> gone) : QObject(main), gone_(std::move(gone)) {}

@@ -13,15 +13,15 @@
 
 namespace {
 
-/// A push button of a usual width, but never narrower than its caption: a skin must not say the least width,
-/// since a layout takes that for enough, whatever the font.
+// A push button of a usual width, but never narrower than its caption: a skin must not give the minimum
+// width, since a layout takes that for enough, whatever the font.
 class PushButton : public QPushButton {
  public:
-  QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({kLeastWidth, 0}); }
+  QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({kMinWidth, 0}); }
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  private:
-  static constexpr int kLeastWidth = 90;
+  static constexpr int kMinWidth = 90;
 };
 
 }  // namespace
@@ -48,7 +48,7 @@ void TbsSkinCustomButton::FontChanged() {
 }
 
 void TbsSkinCustomButton::SetImage(TImageList* images, int index) {
-  image_index_ = index;
+  imageIndex_ = index;
   if (Button() != nullptr) Button()->setIcon(images == nullptr ? QIcon() : images->Icon(index));
 }
 
@@ -68,7 +68,7 @@ void TbsSkinButton::Click() {
   const QPointer<TbsSkinButton> self(this);
   if (!Enabled()) return;
   TbsSkinCustomButton::Click();
-  if (self && modal_result_ != 0 && ParentForm() != nullptr) ParentForm()->SetModalResult(modal_result_);
+  if (self && modalResult_ != 0 && ParentForm() != nullptr) ParentForm()->SetModalResult(modalResult_);
 }
 
 void TbsSkinButton::MarkDefault() {

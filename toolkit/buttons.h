@@ -1,3 +1,6 @@
+// What the user presses: push buttons, flat buttons, menu buttons, check boxes and radio buttons. Forms bind
+// them to actions or to OnClick. Repeating buttons, groups that stay down and gauges of the original's
+// buttons are not there.
 #pragma once
 
 #include <QPointer>
@@ -15,12 +18,13 @@ class TbsSkinCustomButton : public TbsSkinControl {
 
  public:
   /// Picture of the button: from the action's list, or given here; -1: none.
-  int ImageIndex() const override { return image_index_; }
+  int ImageIndex() const override { return imageIndex_; }
+  /// Shows a picture of a list; null or an unknown index shows none.
   void SetImage(TImageList* images, int index);
 
  protected:
   explicit TbsSkinCustomButton(TComponent* owner) : TbsSkinControl(owner) {}
-  /// Takes the button's widget and hears its clicks.
+  /// Takes the button's widget, whose clicks become Pressed.
   void SetButton(QAbstractButton* button);
   QAbstractButton* Button() const;
   void CaptionChanged() override;
@@ -31,7 +35,7 @@ class TbsSkinCustomButton : public TbsSkinControl {
   virtual void Pressed() { Click(); }
 
  private:
-  int image_index_ = -1;
+  int imageIndex_ = -1;
 };
 
 /// A push button. With a modal result other than 0 a press also ends its form's ShowModal with it.
@@ -41,20 +45,21 @@ class TbsSkinButton : public TbsSkinCustomButton {
  public:
   explicit TbsSkinButton(TComponent* owner);
 
-  int ModalResult() const { return modal_result_; }
-  void SetModalResult(int result) { modal_result_ = result; }
+  /// Result that a press ends ShowModal with, 0: none.
+  int ModalResult() const { return modalResult_; }
+  void SetModalResult(int result) { modalResult_ = result; }
   void Click() override;
-  /// Draws the button as the one that Return presses; TForm::SetDefaultButton calls it.
-  void MarkDefault();
+  void MarkDefault() override;
 
  protected:
+  bool IsButton() const override { return true; }
   bool ReturnPressed() override {
     Click();
     return true;
   }
 
  private:
-  int modal_result_ = 0;
+  int modalResult_ = 0;
 };
 
 /// A flat button that takes no focus, for toolbars and the rows above lists.
@@ -75,6 +80,7 @@ class TbsSkinMenuButton : public TbsSkinButton {
  public:
   explicit TbsSkinMenuButton(TComponent* owner);
 
+  /// The menu, null: none. Not owned.
   TPopupMenu* SkinPopupMenu() const;
   void SetSkinPopupMenu(TPopupMenu* menu);
   /// Opens the menu, or does what a button does when there is none.
@@ -90,11 +96,14 @@ class TbsSkinCheckRadioBox : public TbsSkinCustomButton {
   Q_OBJECT
 
  public:
+  /// radio: a radio button instead of a check box.
   explicit TbsSkinCheckRadioBox(TComponent* owner, bool radio = false);
 
+  /// Whether the box is ticked or the radio button chosen.
   bool Checked() const;
   /// Sets the check without running OnClick.
   void SetChecked(bool checked);
+  /// Whether it is a radio button.
   bool Radio() const { return radio_; }
 
  protected:

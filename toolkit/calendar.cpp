@@ -18,7 +18,7 @@ TMonthCalendar::TMonthCalendar(TComponent* owner) : TbsSkinControl(owner) {
   SetTabStop(true);
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar->setGridVisible(true);
-  // Days and weeks share the room that there is; under a skin their least size is more than that.
+  // Days and weeks share the room that there is; under a skin their minimum size is more than that.
   for (QHeaderView* header : {Days()->horizontalHeader(), Days()->verticalHeader()})
     header->setMinimumSectionSize(1);
   calendar->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
@@ -60,7 +60,7 @@ void TMonthCalendar::SetDate(TDateTime date) {
   Calendar()->setCurrentPage(year, month);
 }
 
-// The first click of two may turn the month; the second then stands on a day that was not chosen.
+// The first click of two may turn the month; the second is then on a day that was not chosen.
 bool TMonthCalendar::WidgetEvent(QWidget* widget, QEvent* event) {
   if (widget != Days()->viewport()) return TbsSkinControl::WidgetEvent(widget, event);
   if (event->type() != QEvent::MouseButtonDblClick) return false;

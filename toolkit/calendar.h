@@ -1,3 +1,5 @@
+// What the calendar form is made of: a month to pick a day from, and arrow buttons that count in an edit.
+// Ranges of days, today's mark and acceleration of the original's controls are not there.
 #pragma once
 
 #include "toolkit/conversion.h"
@@ -7,8 +9,8 @@ class QCalendarWidget;
 class QTableView;
 class TCustomEdit;
 
-/// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when he picks it
-/// by a double click or by Return, whether the desktop activates entries on a single click or not.
+/// A month on which the user picks a day. OnClick runs when the user picks one, OnDblClick when the user
+/// picks it by a double click or by Return, whether the desktop activates entries on a single click or not.
 class TMonthCalendar : public TbsSkinControl {
   Q_OBJECT
 
@@ -45,9 +47,11 @@ class TUpDown : public TbsSkinControl {
   /// The edit that shows the number; not owned, and its OnKeyDown is the control's. The position is read from
   /// it at each press.
   void SetAssociate(TCustomEdit* edit);
+  /// Lower bound, included; 0 at the start.
   int Min() const { return min_; }
+  /// Upper bound, included; 100 at the start.
   int Max() const { return max_; }
-  /// Bounds, both included; 0 and 100 at the start.
+  /// Sets both bounds.
   void SetRange(int min, int max);
   /// The number in the edit, or the last one set when it holds none; within the bounds.
   int Position() const;

@@ -16,20 +16,20 @@
 #include "toolkit/strings_model.h"
 #include "toolkit/text.h"
 
-/// Letters that a box shows at least; longer entries don't make it wider.
-static constexpr int kLeastLetters = 8;
+// Letters that a box shows at least; longer entries don't make it wider.
+static constexpr int kMinLetters = 8;
 
-/// The Qt box: cuts what is too long, and leaves the wheel to the scroll box around it until it has the
-/// focus, so that scrolling a condition panel changes no condition.
+// The Qt box: cuts what is too long, and leaves the wheel to the scroll box around it until it has the
+// focus, so that scrolling a condition panel changes no condition.
 class TCustomComboBox::Box : public QComboBox {
  public:
   Box() {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(kLeastLetters);
+    setMinimumContentsLength(kMinLetters);
     setFocusPolicy(Qt::StrongFocus);
   }
 
-  /// Both hints are the same here, but Qt keeps the smallest one when the font changes.
+  // Both hints are the same here, but Qt keeps the smallest one when the font changes.
   QSize minimumSizeHint() const override { return sizeHint(); }
 
   void showPopup() override {

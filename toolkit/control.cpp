@@ -73,11 +73,11 @@ void TControl::SetEnabled(bool enabled) {
 
 void TControl::SetHint(const std::string& hint) {
   hint_ = hint;
-  if (widget_) widget_->setToolTip(show_hint_ ? ToToolTip(hint_) : QString());
+  if (widget_) widget_->setToolTip(showHint_ ? ToToolTip(hint_) : QString());
 }
 
 void TControl::SetShowHint(bool show) {
-  show_hint_ = show;
+  showHint_ = show;
   SetHint(hint_);
 }
 
@@ -160,11 +160,11 @@ void TControl::SetAction(TAction* action) {
 }
 
 TPopupMenu* TControl::PopupMenu() const {
-  return static_cast<TPopupMenu*>(popup_menu_.data());
+  return static_cast<TPopupMenu*>(popupMenu_.data());
 }
 
 void TControl::SetPopupMenu(TPopupMenu* menu) {
-  popup_menu_ = menu;
+  popupMenu_ = menu;
 }
 
 void TControl::Click() {
@@ -213,7 +213,7 @@ bool TControl::WidgetEvent(QWidget* widget, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       return MouseEvent(widget, static_cast<QMouseEvent*>(event));
     case QEvent::ContextMenu: {
-      if (!popup_menu_) return false;
+      if (!popupMenu_) return false;
       const QPoint at = static_cast<QContextMenuEvent*>(event)->globalPos();
       PopupMenu()->SetPopupComponent(this);
       PopupMenu()->Popup(at.x(), at.y());

@@ -34,7 +34,7 @@ class TControl : public TComponent, public TActionClient {
   TWinControl* Parent() const { return parent_; }
   /// Moves the control, and its widget, into another; null takes it out.
   void SetParent(TWinControl* parent);
-  /// The form that the control stands on, null when it stands on none.
+  /// The form that the control is on, null when it is on none.
   TForm* ParentForm() const;
 
   /// The control's own wish; it shows only when all its parents show, too.
@@ -47,22 +47,27 @@ class TControl : public TComponent, public TActionClient {
   std::string Hint() const final { return hint_; }
   void SetHint(const std::string& hint) final;
   /// Whether the hint shows; false at the start.
-  bool ShowHint() const { return show_hint_; }
+  bool ShowHint() const { return showHint_; }
   void SetShowHint(bool show);
 
   /// Caption of the control; controls without one keep it and show nothing.
   std::string Caption() const override { return caption_; }
   void SetCaption(const std::string& caption) override;
 
-  /// Place in the parent, pixels. Within a layout only a width or a height that was set counts.
+  /// Distance from the parent's left edge, pixels. Within a layout only a width or a height that was set
+  /// counts.
   int Left() const;
+  /// Distance from the parent's upper edge, pixels.
   int Top() const;
+  /// Pixels.
   int Width() const;
+  /// Pixels.
   int Height() const;
   void SetLeft(int left);
   void SetTop(int top);
   virtual void SetWidth(int width);
   virtual void SetHeight(int height);
+  /// Sets all four.
   void SetBounds(int left, int top, int width, int height);
   /// How a parent without a layout places the control.
   TAlign Align() const { return align_; }
@@ -70,14 +75,15 @@ class TControl : public TComponent, public TActionClient {
   /// A point of the control in screen coordinates.
   QPoint ClientToScreen(int x, int y) const;
 
+  /// The font of the control, never null; the control owns it.
   TFont* Font() const { return font_; }
 
-  /// The action that names, enables, shows and executes the control; null takes it off. The control takes all
+  /// The action that names, enables, shows and executes the control; null unbinds. The control takes all
   /// values of the action when it is bound and those that change afterwards (see TAction). The widget bears
   /// its name in the property "action", so that a script or a test finds it.
   TAction* Action() const { return action_; }
   void SetAction(TAction* action) final;
-  /// Menu opened by the right mouse button.
+  /// Menu opened by the right mouse button, null: none. Not owned.
   TPopupMenu* PopupMenu() const;
   void SetPopupMenu(TPopupMenu* menu);
   /// Index of the picture that the control shows, -1: none.
@@ -85,11 +91,16 @@ class TControl : public TComponent, public TActionClient {
   /// What a click does: OnClick, or the action when there is no OnClick. Nothing while disabled.
   virtual void Click();
 
+  /// Runs for a click in place of the action.
   TNotifyEvent OnClick;
+  /// Runs for the second of two quick clicks of the left button.
   TNotifyEvent OnDblClick;
+  /// Runs when a button of the mouse goes down on the control.
   TMouseEvent OnMouseDown;
+  /// Runs when the button is released, after OnClick.
   TMouseEvent OnMouseUp;
 
+  /// Published properties (see properties.h).
   QString PublishedHint() const;
   void SetPublishedHint(const QString& hint);
   QString PublishedCaption() const;
@@ -99,7 +110,7 @@ class TControl : public TComponent, public TActionClient {
 
  protected:
   explicit TControl(TComponent* owner);
-  /// Takes the control's widget; called once, in a constructor.
+  /// Takes the control's widget; called once, in a constructor. The control deletes it.
   void SetWidget(QWidget* widget);
   /// Watches a further widget inside the control for the control's events.
   void WatchWidget(QWidget* widget);
@@ -107,15 +118,15 @@ class TControl : public TComponent, public TActionClient {
   virtual void CaptionChanged() {}
   /// Puts the font on the widget.
   virtual void FontChanged();
-  /// Takes the action's check; nothing in a control without one.
+  /// A control with a check takes the action's.
   void TakeChecked(bool) override {}
-  /// Takes the action's picture; nothing in a control without one.
+  /// A control with a picture takes the action's.
   void TakeImage(const TAction&) override {}
-  /// An event of a watched widget; true ends its way.
+  /// An event of a watched widget; true: nobody else sees it.
   virtual bool WidgetEvent(QWidget* widget, QEvent* event);
   /// Whether a click of the left button is the control's Click (buttons report theirs by themselves).
   virtual bool ClicksByMouse() const { return true; }
-  /// Whether mouse events end here instead of going on to what lies behind the control.
+  /// Whether mouse events end here instead of going on to the control's parent.
   virtual bool EndsMouseEvents() const { return false; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -128,13 +139,13 @@ class TControl : public TComponent, public TActionClient {
   TWinControl* parent_ = nullptr;
   TFont* font_;
   TAction* action_ = nullptr;
-  QPointer<QObject> popup_menu_;
+  QPointer<QObject> popupMenu_;
   std::string hint_;
   std::string caption_;
   TAlign align_ = alNone;
   bool visible_ = true;
   bool enabled_ = true;
-  bool show_hint_ = false;
+  bool showHint_ = false;
   bool pressed_ = false;
 };
 

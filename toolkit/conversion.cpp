@@ -36,6 +36,12 @@ void AppendPadded(std::string& text, int number, std::size_t digits) {
 
 }  // namespace
 
+std::string_view WithoutBlanks(std::string_view text) {
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  return text;
+}
+
 std::optional<std::int64_t> ParseInteger(std::string_view text) {
   std::int64_t value = 0;
   const char* end = text.data() + text.size();

@@ -13,7 +13,7 @@
 static constexpr int kButtonRoom = 2;
 static constexpr int kPictureSize = 16;
 
-/// Digits of each kind of value.
+// Digits of each kind of value.
 static int Digits(TKVXDateType type) {
   switch (type) {
     case dtDate:
@@ -59,7 +59,7 @@ void TKVXCustomDateTimeEdit::SetDateTimeForm(TKVXDateTimeForm form) {
 }
 
 void TKVXCustomDateTimeEdit::SetLabelCaption(const std::string& caption) {
-  label_caption_ = caption;
+  labelCaption_ = caption;
   if (Edit() == nullptr) return;
   label_->setText(ToQt(caption));
   label_->setVisible(!caption.empty());
@@ -98,7 +98,7 @@ bool TKVXCustomDateTimeEdit::WidgetEvent(QWidget* widget, QEvent* event) {
 
 void TKVXCustomDateTimeEdit::PlaceParts() {
   const QRect room = Edit()->rect().adjusted(kButtonRoom, kButtonRoom, -kButtonRoom, -kButtonRoom);
-  const int labelWidth = label_caption_.empty() ? 0 : label_->sizeHint().width() + kButtonRoom;
+  const int labelWidth = labelCaption_.empty() ? 0 : label_->sizeHint().width() + kButtonRoom;
   const int buttonWidth = button_->sizeHint().width();
   label_->setGeometry(room.left() + kButtonRoom, room.top(), labelWidth, room.height());
   button_->setGeometry(room.right() - buttonWidth + 1, room.top(), buttonWidth, room.height());

@@ -1,3 +1,5 @@
+// The edit for dates and times, whose picker the form gives. What is typed is limited to digits; whether it
+// is a date is the validators' question (dialogs/validators.h).
 #pragma once
 
 #include <functional>
@@ -20,14 +22,16 @@ class TKVXCustomDateTimeEdit : public TCustomEdit {
   Q_OBJECT
 
  public:
+  /// Kind of value; dtDate at the start.
   TKVXDateType DateType() const { return type_; }
   void SetDateType(TKVXDateType type);
-  /// The picker behind the button; without one the button is off. A choice that differs runs OnChange; what
-  /// the picker gives is not limited.
+  /// The picker that the button opens; without one the button is off. A choice that differs runs OnChange;
+  /// what the picker gives is not limited.
   void SetDateTimeForm(TKVXDateTimeForm form);
   /// Text of the label inside the control, in front of the digits; empty: no label.
-  std::string LabelCaption() const { return label_caption_; }
+  std::string LabelCaption() const { return labelCaption_; }
   void SetLabelCaption(const std::string& caption);
+  /// Names the button after the edit, too: the name and "_button".
   void SetName(const std::string& name) override;
   /// Opens the picker as the button does; nothing while the edit is disabled, read-only or without a picker.
   void PickDate();
@@ -42,11 +46,12 @@ class TKVXCustomDateTimeEdit : public TCustomEdit {
 
   TKVXDateType type_ = dtDate;
   TKVXDateTimeForm form_;
-  std::string label_caption_;
+  std::string labelCaption_;
   QLabel* label_;
   QToolButton* button_;
 };
 
+/// The date edit that a form holds.
 class TKVXDateTime : public TKVXCustomDateTimeEdit {
   Q_OBJECT
 

@@ -12,24 +12,18 @@ namespace {
 
 constexpr std::int64_t kMaxExponent = 308;
 
-std::string_view TrimBlanks(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 bool AreDigits(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// What follows "e"; nothing where it is no exponent.
+// What follows "e"; nothing where it is no exponent.
 std::optional<std::int64_t> Exponent(std::string_view text) {
   if (text.starts_with('+') && AreDigits(text.substr(1))) text.remove_prefix(1);
   const std::optional<std::int64_t> exponent = ParseInteger(text);
   return exponent && *exponent >= -kMaxExponent && *exponent <= kMaxExponent ? exponent : std::nullopt;
 }
 
-/// larger + sign * smaller, from the right to the left.
+// larger + sign * smaller, from the right to the left.
 void Combine(std::string& larger, std::string_view smaller, int sign) {
   int carry = 0;
   for (std::size_t i = 0; i < larger.size() && (i < smaller.size() || carry != 0); ++i) {
@@ -53,7 +47,7 @@ void DropLeadingZeros(std::string& digits) {
 }  // namespace
 
 TDecimal::TDecimal(std::string_view text) {
-  std::string_view number = TrimBlanks(text);
+  std::string_view number = WithoutBlanks(text);
   if (number.starts_with('-') || number.starts_with('+')) {
     negative_ = number.front() == '-';
     number.remove_prefix(1);

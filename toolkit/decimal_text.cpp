@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "toolkit/conversion.h"
+
 static constexpr std::size_t kMaxDigits = 30;
 
 namespace {
@@ -11,18 +13,12 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// A number as it is written, its parts without sign, blanks and separators.
+// A number as it is written, its parts without sign, blanks and separators.
 struct TNumber {
   bool negative = false;
   std::string whole;
   std::string_view decimals;
 };
-
-std::string_view WithoutBlanks(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
 
 std::optional<TNumber> ParseNumber(std::string_view text) {
   text = WithoutBlanks(text);

@@ -10,7 +10,7 @@
 /// Hundredths of a currency unit. Amounts of 30 digits fit, and the sum of as many as a list can hold.
 __extension__ using THundredths = __int128;
 
-/// The amount that a text stands for: an optional sign, digits with or without thousands separators, an
+/// The amount that a text means: an optional sign, digits with or without thousands separators, an
 /// optional point with digits, blanks around allowed, at most 30 digits. Decimals after the second are left
 /// out. Nothing for any other text.
 std::optional<THundredths> ParseAmount(std::string_view text);

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// The texts of a filter as the file dialog takes them: the pattern in brackets behind each text that lacks
-/// it.
+// The texts of a filter as the file dialog takes them: the pattern in brackets after each text that lacks
+// it.
 QStringList NameFilters(const QString& filter) {
   const QStringList parts = filter.split(QLatin1Char('|'));
   QStringList names;
@@ -28,7 +28,7 @@ QStringList NameFilters(const QString& filter) {
   return names;
 }
 
-/// What a file is goes by its name: a look into the file could wait for ever where reading it waits.
+// What a file is is taken from its name: a look into the file could wait for ever where reading it waits.
 class NamedFiles : public QFileIconProvider {
  public:
   using QFileIconProvider::icon;
@@ -41,8 +41,8 @@ class NamedFiles : public QFileIconProvider {
 }  // namespace
 
 std::string TSaveDialog::WithExtension(const std::string& name) const {
-  if (default_ext_.empty() || !QFileInfo(ToQt(name)).suffix().isEmpty()) return name;
-  return name + (default_ext_[0] == '.' ? "" : ".") + default_ext_;
+  if (defaultExt_.empty() || !QFileInfo(ToQt(name)).suffix().isEmpty()) return name;
+  return name + (defaultExt_[0] == '.' ? "" : ".") + defaultExt_;
 }
 
 bool TSaveDialog::Execute(TForm* parent) {
@@ -62,17 +62,17 @@ bool TSaveDialog::Execute(TForm* parent) {
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   if (!title_.empty()) dialog->setWindowTitle(ToQt(title_));
   dialog->setNameFilters(names);
-  if (filter_index_ >= 1 && filter_index_ <= names.size()) dialog->selectNameFilter(names[filter_index_ - 1]);
-  if (!file_name_.empty()) dialog->selectFile(ToQt(file_name_));
+  if (filterIndex_ >= 1 && filterIndex_ <= names.size()) dialog->selectNameFilter(names[filterIndex_ - 1]);
+  if (!fileName_.empty()) dialog->selectFile(ToQt(fileName_));
   QObject::connect(dialog, &QFileDialog::filterSelected, this, [this, names](const QString& name) {
-    filter_index_ = static_cast<int>(names.indexOf(name)) + 1;
+    filterIndex_ = static_cast<int>(names.indexOf(name)) + 1;
     FireEvent(OnTypeChange, this);
   });
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (self == nullptr || HasEnded(Life())) delete dialog.data();
   scope.Check();
   if (dialog == nullptr) return false;
-  if (accepted) file_name_ = WithExtension(FromQt(dialog->selectedFiles().value(0)));
+  if (accepted) fileName_ = WithExtension(FromQt(dialog->selectedFiles().value(0)));
   delete dialog.data();
   return accepted;
 }

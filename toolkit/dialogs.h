@@ -1,3 +1,5 @@
+// The dialog that asks for a file to write. Exports use it. Opening files, printing and colours of the
+// original's dialogs are not there; messages are forms of the module.
 #pragma once
 
 #include <string>
@@ -13,23 +15,25 @@ class TSaveDialog : public TComponent {
  public:
   explicit TSaveDialog(TComponent* owner) : TComponent(owner) {}
 
-  /// Pairs of text and pattern, all parted by "|": "Text (*.txt)|*.txt|XML (*.xml)|*.xml".
+  /// Pairs of text and pattern, all separated by "|": "Text (*.txt)|*.txt|XML (*.xml)|*.xml".
   std::string Filter() const { return filter_; }
   void SetFilter(const std::string& filter) { filter_ = filter; }
   /// The chosen pair, counted from 1.
-  int FilterIndex() const { return filter_index_; }
-  void SetFilterIndex(int index) { filter_index_ = index; }
+  int FilterIndex() const { return filterIndex_; }
+  void SetFilterIndex(int index) { filterIndex_ = index; }
   /// Extension, with or without its dot, that a name without one gets.
-  std::string DefaultExt() const { return default_ext_; }
-  void SetDefaultExt(const std::string& extension) { default_ext_ = extension; }
-  std::string FileName() const { return file_name_; }
-  void SetFileName(const std::string& name) { file_name_ = name; }
+  std::string DefaultExt() const { return defaultExt_; }
+  void SetDefaultExt(const std::string& extension) { defaultExt_ = extension; }
+  /// The file that is offered, and after Execute the chosen one.
+  std::string FileName() const { return fileName_; }
+  void SetFileName(const std::string& name) { fileName_ = name; }
+  /// Title of the dialog; empty: the platform's.
   std::string Title() const { return title_; }
   void SetTitle(const std::string& title) { title_ = title; }
 
   /// Shows the dialog, a QFileDialog that bears the component's name, over a form or the active window, and
-  /// waits for it. True when the user took a name; it is in FileName with the default extension added where
-  /// it has none.
+  /// waits for it. True when the user accepted a name; it is in FileName with the default extension added
+  /// where it has none.
   bool Execute(TForm* parent = nullptr);
 
   /// Runs when the user picks another pair of the filter, after FilterIndex has changed.
@@ -39,8 +43,8 @@ class TSaveDialog : public TComponent {
   std::string WithExtension(const std::string& name) const;
 
   std::string filter_;
-  std::string default_ext_;
-  std::string file_name_;
+  std::string defaultExt_;
+  std::string fileName_;
   std::string title_;
-  int filter_index_ = 1;
+  int filterIndex_ = 1;
 };

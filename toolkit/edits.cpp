@@ -11,7 +11,7 @@
 #include "toolkit/event_guard.h"
 #include "toolkit/text.h"
 
-/// Holds the user's changes to the edit's limits, before they show.
+// Holds the user's changes to the edit's limits, before they show.
 class TCustomEdit::Validator : public QValidator {
  public:
   Validator(TCustomEdit* edit, QObject* parent) : QValidator(parent), edit_(edit) {}
@@ -115,12 +115,12 @@ bool AllowsCharacter(TKVXInputKind kind, std::string_view character) {
   return false;
 }
 
-bool IsCurrency(const std::string& text, int integer_digits, int decimalDigits) {
+bool IsCurrency(const std::string& text, int integerDigits, int decimalDigits) {
   const std::size_t point = std::min(text.find('.'), text.size());
   const std::string_view whole = std::string_view(text).substr(0, point);
   const std::string_view rest = std::string_view(text).substr(std::min(point + 1, text.size()));
   return std::all_of(whole.begin(), whole.end(), IsDigit) && std::all_of(rest.begin(), rest.end(), IsDigit) &&
-         whole.size() <= static_cast<std::size_t>(integer_digits) &&
+         whole.size() <= static_cast<std::size_t>(integerDigits) &&
          rest.size() <= static_cast<std::size_t>(decimalDigits);
 }
 
@@ -137,7 +137,7 @@ void TKVXEdit::SetInputRule(const TKVXInputRule& rule) {
   Limits().accepts = nullptr;
   if (rule.kind != ikCurrency) return;
   Limits().accepts = [rule](const std::string& text) {
-    return IsCurrency(text, rule.integer_digits, rule.decimalDigits);
+    return IsCurrency(text, rule.integerDigits, rule.decimalDigits);
   };
   SetAlignment(taRightJustify);
 }

@@ -1,3 +1,5 @@
+// Fields for text: lines, lines with a rule for what goes in, and texts of several lines. Conditions, dialogs
+// and messages are made of them. Passwords, masks, borders and undo of the original's edits are not there.
 #pragma once
 
 #include <string>
@@ -17,20 +19,27 @@ class TCustomEdit : public TbsSkinControl {
   Q_PROPERTY(QString ImeName READ PublishedImeName WRITE SetPublishedImeName)
 
  public:
+  /// The text, narrow.
   virtual std::string Text() const;
   virtual void SetText(const std::string& text);
+  /// Empties the field.
   void Clear() { SetText({}); }
+  /// Whether the user can't change the text; false at the start.
   bool ReadOnly() const;
   void SetReadOnly(bool readOnly);
-  /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
+  /// Maximum bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
   int MaxLength() const { return limits_.maxLength; }
   void SetMaxLength(int bytes) { limits_.maxLength = bytes; }
+  /// Where the text is in the field; taLeftJustify at the start.
   TAlignment Alignment() const;
   void SetAlignment(TAlignment alignment);
+  /// Selects the complete text.
   void SelectAll();
 
+  /// Runs after each change by the user.
   TNotifyEvent OnChange;
 
+  /// Published properties (see properties.h).
   QString PublishedText() const;
   void SetPublishedText(const QString& text);
 
@@ -49,6 +58,7 @@ class TCustomEdit : public TbsSkinControl {
   bool setting_ = false;
 };
 
+/// A line of text without a rule.
 class TEdit : public TCustomEdit {
   Q_OBJECT
 
@@ -62,11 +72,12 @@ enum TKVXInputKind { ikAny, ikDigits, ikLettersDigitsChinese, ikCurrency };
 
 /// What may be typed into a KVX edit.
 struct TKVXInputRule {
+  /// Which characters go in.
   TKVXInputKind kind = ikAny;
-  /// Most bytes of narrow text, 0: no limit.
+  /// Maximum bytes of narrow text, 0: no limit.
   int maxLength = 0;
-  /// Currency: most digits before and behind the point.
-  int integer_digits = 0;
+  /// Currency: maximum digits before and after the point.
+  int integerDigits = 0;
   int decimalDigits = 0;
 };
 
@@ -77,6 +88,7 @@ class TKVXEdit : public TCustomEdit {
  public:
   explicit TKVXEdit(TComponent* owner);
 
+  /// The rule; any text of any length at the start.
   const TKVXInputRule& InputRule() const { return rule_; }
   /// Sets the rule and its length limit; a currency edit becomes right-aligned.
   void SetInputRule(const TKVXInputRule& rule);
@@ -85,7 +97,8 @@ class TKVXEdit : public TCustomEdit {
   TKVXInputRule rule_;
 };
 
-/// A text of several lines, parted by "\r\n". OnChange runs after each change by the user, not for SetText.
+/// A text of several lines, separated by "\r\n". OnChange runs after each change by the user, not for
+/// SetText.
 class TMemo : public TWinControl {
   Q_OBJECT
   Q_PROPERTY(int ImeMode READ ImeMode WRITE SetImeMode)
@@ -94,21 +107,25 @@ class TMemo : public TWinControl {
  public:
   explicit TMemo(TComponent* owner);
 
+  /// The text, narrow.
   std::string Text() const;
   void SetText(const std::string& text);
+  /// Empties the field.
   void Clear() { SetText({}); }
+  /// Whether the user can't change the text; false at the start.
   bool ReadOnly() const;
   void SetReadOnly(bool readOnly);
-  /// Most bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
+  /// Maximum bytes of narrow text that the user can enter, 0: no limit. SetText is not cut.
   /// A line end counts as two.
   int MaxLength() const { return limits_.maxLength; }
   void SetMaxLength(int bytes) { limits_.maxLength = bytes; }
-  /// Most characters that the user can enter, 0: no limit; counted as in TInputLimits.
+  /// Maximum characters that the user can enter, 0: no limit; counted as in TInputLimits.
   int MaxCharacters() const { return limits_.maxCharacters; }
   void SetMaxCharacters(int characters) { limits_.maxCharacters = characters; }
   /// Which scroll bars may appear; without a horizontal one the lines wrap.
   void SetScrollBars(TScrollStyle style);
 
+  /// Runs after each change by the user.
   TNotifyEvent OnChange;
 
  protected:

@@ -1,3 +1,5 @@
+// The font of a control and its colour, as values that forms set and the layer puts on the Qt widget. Where a
+// skin decides, the values are kept and not used; character spacing and the original's devices are not there.
 #pragma once
 
 #include <QColor>
@@ -9,11 +11,14 @@
 
 /// A colour as 0x00BBGGRR; clWindowText and its like leave the choice to the skin.
 using TColor = std::int32_t;
+/// The colour of text that the skin chooses.
 inline constexpr TColor clWindowText = -16777208;
+/// Colours of their own.
 inline constexpr TColor clBlack = 0x000000;
 inline constexpr TColor clRed = 0x0000FF;
 inline constexpr TColor clWhite = 0xFFFFFF;
 
+/// Styles of a font, joined with |.
 enum TFontStyle : unsigned { fsPlain = 0, fsBold = 1, fsItalic = 2, fsUnderline = 4 };
 
 /// The font of a control. A change shows at once. What was never set follows the application's font.
@@ -32,6 +37,7 @@ class TFont : public QObject {
   /// Character set of the original platform: 134, 136 or 0. It is kept and has no effect on drawing.
   std::uint8_t Charset() const { return charset_; }
   void SetCharset(std::uint8_t charset);
+  /// Colour of the text; clWindowText at the start.
   TColor Color() const { return color_; }
   void SetColor(TColor color);
   /// fsBold, fsItalic and fsUnderline, joined with |.

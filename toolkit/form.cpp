@@ -10,14 +10,12 @@
 #include <utility>
 
 #include "platform/host_api.h"
-#include "toolkit/buttons.h"
 #include "toolkit/event_guard.h"
-#include "toolkit/panels.h"
 #include "toolkit/text.h"
 
 namespace {
 
-/// The window of a form. The Tab key goes by the form's own tab order.
+// The window of a form. The Tab key goes by the form's own tab order.
 class FormWindow : public QWidget {
  public:
   FormWindow(TForm* form, QWidget* parent) : QWidget(parent, Qt::Window), form_(form) {
@@ -35,14 +33,14 @@ class FormWindow : public QWidget {
   TForm* form_;
 };
 
-/// An owner form's window; without one, the host's main window.
+// An owner form's window; without one, the host's main window.
 QWidget* ParentWindow(const TComponent* owner) {
   if (const auto* form = qobject_cast<const TForm*>(owner)) return form->Widget();
   return ServedLife() == nullptr ? nullptr : ServedLife()->MainWidget();
 }
 
-/// Keeps a window above the modal one that was on top before it, whoever owns it: a window manager that
-/// raises the lower one at a click would hide the only window that takes input.
+// Keeps a window above the modal one that was on top before it, whoever owns it: a window manager that
+// raises the lower one at a click would hide the only window that takes input.
 void StayAbove(QWidget* window, const QWidget* below) {
   if (below == nullptr || below == window) return;
   window->winId();
@@ -136,22 +134,22 @@ void TForm::OpenWindow() {
   if (Widget() == nullptr || HasEnded(Life())) return;
   QWidget* window = Widget();
   window->ensurePolished();
-  // What was added since a layout measured itself counts only once it has been told.
+  // What was added since a layout measured itself counts only after these events.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   const QSize wanted = window->layout() == nullptr ? window->size() : window->sizeHint();
-  window->resize(width_set_ ? window->width() : wanted.width(),
-                 height_set_ ? window->height() : wanted.height());
+  window->resize(widthSet_ ? window->width() : wanted.width(),
+                 heightSet_ ? window->height() : wanted.height());
   if (position_ != poDesigned) window->move(OpeningPlace());
-  if (!active_control_ || !active_control_->CanFocus()) active_control_ = nullptr;
+  if (!activeControl_ || !activeControl_->CanFocus()) activeControl_ = nullptr;
   if (loop_ != nullptr) StayAbove(window, QApplication::activeModalWidget());
   window->show();
   BringToFront();
-  if (active_control_) {
-    active_control_->SetFocus();
+  if (activeControl_) {
+    activeControl_->SetFocus();
   } else {
     // The user starts on the first condition; the header of a roll-up panel before it is a step back.
     SelectNext(nullptr, true, true);
-    if (qobject_cast<TbsSkinExPanel*>(ActiveControl()) != nullptr) SelectNext(ActiveControl(), true, true);
+    if (activeControl_ && activeControl_->HeadsOthers()) SelectNext(activeControl_, true, true);
   }
 }
 
@@ -181,7 +179,7 @@ void TForm::Hide() {
 
 void TForm::Close() {
   if (loop_ != nullptr) {
-    SetModalResult(modal_result_ == mrNone ? mrCancel : modal_result_);
+    SetModalResult(modalResult_ == mrNone ? mrCancel : modalResult_);
     return;
   }
   if (!Showing()) return;
@@ -191,7 +189,7 @@ void TForm::Close() {
 }
 
 void TForm::SetModalResult(int result) {
-  modal_result_ = result;
+  modalResult_ = result;
   if (result != mrNone && loop_ != nullptr) loop_->quit();
 }
 
@@ -203,27 +201,27 @@ int TForm::ShowModal() {
   const QPointer<QWidget> before(QApplication::activeWindow());
   QEventLoop loop;
   loop_ = &loop;
-  modal_result_ = mrNone;
+  modalResult_ = mrNone;
   // A host that deletes its main window takes the form's window with it.
   QObject::connect(Widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
   Widget()->hide();
   Widget()->setWindowModality(Qt::ApplicationModal);
   OpenWindow();
-  if (self && loop_ != nullptr && Widget() != nullptr && modal_result_ == mrNone) loop.exec();
+  if (self && loop_ != nullptr && Widget() != nullptr && modalResult_ == mrNone) loop.exec();
   if (self) loop_ = nullptr;
   scope.Check();
   if (!self) return mrCancel;
-  if (modal_result_ == mrNone) modal_result_ = mrCancel;
+  if (modalResult_ == mrNone) modalResult_ = mrCancel;
   FinishModal();
   if (before && before->isVisible()) before->activateWindow();
   scope.Check();
-  return self ? modal_result_ : mrCancel;
+  return self ? modalResult_ : mrCancel;
 }
 
 void TForm::EndModal() {
   if (loop_ == nullptr) return;
   QEventLoop* const loop = std::exchange(loop_, nullptr);
-  if (modal_result_ == mrNone) modal_result_ = mrCancel;
+  if (modalResult_ == mrNone) modalResult_ = mrCancel;
   const QPointer<QEventLoop> kept(loop);
   FinishModal();
   if (kept) loop->quit();
@@ -238,28 +236,28 @@ void TForm::FinishModal() {
 }
 
 void TForm::SetBorderStyle(TFormBorderStyle style) {
-  border_style_ = style;
+  borderStyle_ = style;
   ApplyWindowFlags();
 }
 
 void TForm::SetFormStyle(TFormStyle style) {
-  form_style_ = style;
+  formStyle_ = style;
   ApplyWindowFlags();
 }
 
 void TForm::ApplyWindowFlags() {
   if (Widget() == nullptr) return;
-  Qt::WindowFlags flags = border_style_ == bsDialog ? Qt::Dialog : Qt::Window;
-  if (border_style_ == bsNone) flags |= Qt::FramelessWindowHint;
-  if (border_style_ == bsDialog) {
+  Qt::WindowFlags flags = borderStyle_ == bsDialog ? Qt::Dialog : Qt::Window;
+  if (borderStyle_ == bsNone) flags |= Qt::FramelessWindowHint;
+  if (borderStyle_ == bsDialog) {
     flags |=
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   }
-  if (border_style_ == bsSingle) {
+  if (borderStyle_ == bsSingle) {
     flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
              Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
   }
-  if (form_style_ == fsStayOnTop) flags |= Qt::WindowStaysOnTopHint;
+  if (formStyle_ == fsStayOnTop) flags |= Qt::WindowStaysOnTopHint;
   if (Widget()->windowFlags() == flags) return;
   const bool showing = Showing();
   Widget()->setWindowFlags(flags);
@@ -267,53 +265,41 @@ void TForm::ApplyWindowFlags() {
 }
 
 void TForm::SetWidth(int width) {
-  width_set_ = true;
+  widthSet_ = true;
   if (Widget() != nullptr) Widget()->resize(width, Height());
 }
 
 void TForm::SetHeight(int height) {
-  height_set_ = true;
+  heightSet_ = true;
   if (Widget() != nullptr) Widget()->resize(Width(), height);
 }
 
 TWinControl* TForm::ActiveControl() const {
-  return active_control_;
+  return activeControl_;
 }
 
 void TForm::SetActiveControl(TWinControl* control) {
   if (control == nullptr) {
-    active_control_ = nullptr;
+    activeControl_ = nullptr;
   } else if (Showing()) {
     control->SetFocus();
   } else {
-    active_control_ = control;
+    activeControl_ = control;
   }
 }
 
-TbsSkinButton* TForm::DefaultButton() const {
-  return static_cast<TbsSkinButton*>(default_button_.data());
-}
-
-TbsSkinButton* TForm::CancelButton() const {
-  return static_cast<TbsSkinButton*>(cancel_button_.data());
-}
-
-void TForm::SetCancelButton(TbsSkinButton* button) {
-  cancel_button_ = button;
-}
-
-void TForm::SetDefaultButton(TbsSkinButton* button) {
-  default_button_ = button;
+void TForm::SetDefaultButton(TWinControl* button) {
+  defaultButton_ = button;
   if (button != nullptr) button->MarkDefault();
 }
 
 bool TForm::PressDialogButton(std::uint16_t key, TShiftState shift, bool controlWantsReturn) {
   if (shift.Contains(ssShift) || shift.Contains(ssCtrl) || shift.Contains(ssAlt)) return false;
-  TbsSkinButton* button = nullptr;
+  TWinControl* button = nullptr;
   if (key == VK_RETURN && !controlWantsReturn) {
     // A focused button is the one that Return means, whichever is marked as default.
-    auto* focused = qobject_cast<TbsSkinButton*>(active_control_.data());
-    button = default_button_ && focused != nullptr ? focused : DefaultButton();
+    const bool onButton = defaultButton_ && activeControl_ && activeControl_->IsButton();
+    button = onButton ? activeControl_ : defaultButton_;
   }
   if (key == VK_ESCAPE) button = CancelButton();
   if (button == nullptr || !button->Enabled() || !button->Visible()) return false;
@@ -333,7 +319,7 @@ void TForm::CloseChildWindows() {
 void TForm::LoseParent() {
   if (Widget() == nullptr) return;
   CloseChildWindows();
-  if (loop_ != nullptr) SetModalResult(modal_result_ == mrNone ? mrCancel : modal_result_);
+  if (loop_ != nullptr) SetModalResult(modalResult_ == mrNone ? mrCancel : modalResult_);
   Hide();
   // A form's window in another form's goes with that one.
   if (qobject_cast<TForm*>(Owner()) == nullptr) Widget()->setParent(nullptr, Widget()->windowFlags());

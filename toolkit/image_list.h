@@ -16,6 +16,7 @@ class TImageList : public TComponent {
  public:
   explicit TImageList(TComponent* owner) : TComponent(owner) {}
 
+  /// Number of the pictures.
   int Count() const { return static_cast<int>(icons_.size()); }
   /// Size of the pictures, pixels; 16 at the start.
   int Size() const { return size_; }

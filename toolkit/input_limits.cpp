@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The part of a text that a step changed: [begin, end) in the new text, the same to its left and right.
+// The part of a text that a step changed: [begin, end) in the new text, the same to its left and right.
 struct TChange {
   qsizetype begin;
   qsizetype end;
@@ -16,12 +16,12 @@ TChange ChangedPart(const QString& before, const QString& after, qsizetype curso
   qsizetype tail = after.size() - std::clamp<qsizetype>(cursor, 0, after.size());
   if (!before.endsWith(QStringView(after).last(tail))) {
     tail = 0;
-    const qsizetype most = std::min(before.size(), after.size());
-    while (tail < most && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
+    const qsizetype max = std::min(before.size(), after.size());
+    while (tail < max && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
   }
-  const qsizetype most = std::min(before.size(), after.size()) - tail;
+  const qsizetype max = std::min(before.size(), after.size()) - tail;
   qsizetype head = 0;
-  while (head < most && before[head] == after[head]) ++head;
+  while (head < max && before[head] == after[head]) ++head;
   if (head > 0 && after[head - 1].isHighSurrogate()) --head;
   if (tail > 0 && after[after.size() - tail].isLowSurrogate()) --tail;
   return {head, after.size() - tail};

@@ -13,8 +13,8 @@
 #include "toolkit/text.h"
 
 TKVXCustomListView::TKVXCustomListView(TComponent* owner)
-    : TCustomListView(owner), column_ids_(std::make_unique<corvane::StringVector>()) {
-  Model()->columnIds = column_ids_.get();
+    : TCustomListView(owner), columnIds_(std::make_unique<corvane::StringVector>()) {
+  Model()->columnIds = columnIds_.get();
 }
 
 TKVXCustomListView::~TKVXCustomListView() {
@@ -23,7 +23,7 @@ TKVXCustomListView::~TKVXCustomListView() {
 }
 
 void TKVXCustomListView::Add(const corvane::List& rows, const std::string& columnIds) {
-  if (!columnIds.empty()) *column_ids_ = corvane::StringVector(columnIds, "; ", true);
+  if (!columnIds.empty()) *columnIds_ = corvane::StringVector(columnIds, "; ", true);
   std::vector<std::unique_ptr<TListRow>> added;
   added.reserve(rows.size());
   for (const corvane::Row& row : rows) {
@@ -33,7 +33,7 @@ void TKVXCustomListView::Add(const corvane::List& rows, const std::string& colum
   Model()->Append(std::move(added));
 }
 
-/// Gives all records the fields that one of them has.
+// Gives all records the fields that one of them has.
 static void EvenOut(std::vector<corvane::Property>& records) {
   const auto same = [&](const corvane::Property& record) { return record.sameColumns(records.front()); };
   if (std::ranges::all_of(records, same)) return;
@@ -149,7 +149,7 @@ std::string TKVXCustomListView::SumText(int column) const {
 }
 
 void TKVXCustomListView::SetShowSumRow(bool show) {
-  show_sum_row_ = show;
+  showSumRow_ = show;
   if (Tree() == nullptr) return;
   if (show) {
     Tree()->SetSums([this](int column) { return ToQt(SumText(column)); });
@@ -160,8 +160,8 @@ void TKVXCustomListView::SetShowSumRow(bool show) {
 
 void TKVXCustomListView::ColumnMoved(int from, int to) {
   const auto last = static_cast<std::size_t>(std::max(from, to));
-  if (last >= column_ids_->size()) return;
-  const std::string id = (*column_ids_)[static_cast<std::size_t>(from)];
-  column_ids_->erase(column_ids_->begin() + from);
-  column_ids_->insert(column_ids_->begin() + to, id);
+  if (last >= columnIds_->size()) return;
+  const std::string id = (*columnIds_)[static_cast<std::size_t>(from)];
+  columnIds_->erase(columnIds_->begin() + from);
+  columnIds_->insert(columnIds_->begin() + to, id);
 }

@@ -1,6 +1,6 @@
-// The list of records that the screens and dialogs show: rows that are records, columns that are fields, ticks
-// counted by kinds, sums. What it shares with any list view is in list_view.h; which columns a list has and
-// what a tick allows is decided by the forms.
+// The list of records that the screens and dialogs show: rows that are records, columns that are fields,
+// ticks counted by kinds, sums. What it shares with any list view is in list_view.h; which columns a list has
+// and what a tick allows is decided by the forms.
 #pragma once
 
 #include <cstdint>
@@ -27,12 +27,12 @@ class TKVXCustomListView : public TCustomListView {
 
  public:
   /// Name of the record's field that each column shows, in the order of Columns.
-  corvane::StringVector& ColumnIds() { return *column_ids_; }
-  const corvane::StringVector& ColumnIds() const { return *column_ids_; }
+  corvane::StringVector& ColumnIds() { return *columnIds_; }
+  const corvane::StringVector& ColumnIds() const { return *columnIds_; }
   /// Whether every column that belongs to the list is in it; true at the start. Whoever builds the
   /// columns says so; the list itself doesn't use it.
-  bool ColumnsWhole() const { return columns_whole_; }
-  void SetColumnsWhole(bool whole) { columns_whole_ = whole; }
+  bool ColumnsWhole() const { return columnsWhole_; }
+  void SetColumnsWhole(bool whole) { columnsWhole_ = whole; }
 
   /// Appends a row for each record, with all its fields. columnIds are the fields that the columns show,
   /// joined with "; "; they become ColumnIds unless the text is empty.
@@ -75,7 +75,7 @@ class TKVXCustomListView : public TCustomListView {
   /// Empty when there is no such column.
   std::string GetTotalMoney(int column, bool checkedOnly) const;
   /// The list view's own sum row, off at the start; on, the sum of each amount column shows below the list.
-  bool ShowSumRow() const { return show_sum_row_; }
+  bool ShowSumRow() const { return showSumRow_; }
   void SetShowSumRow(bool show);
 
  protected:
@@ -86,9 +86,9 @@ class TKVXCustomListView : public TCustomListView {
  private:
   std::string SumText(int column) const;
 
-  std::unique_ptr<corvane::StringVector> column_ids_;
-  bool show_sum_row_ = false;
-  bool columns_whole_ = true;
+  std::unique_ptr<corvane::StringVector> columnIds_;
+  bool showSumRow_ = false;
+  bool columnsWhole_ = true;
 };
 
 /// The list view that a form holds.

@@ -32,7 +32,7 @@ void TLabel::FontChanged() {
 }
 
 void TLabel::SetWordWrap(bool wrap) {
-  word_wrap_ = wrap;
+  wordWrap_ = wrap;
   if (Label() != nullptr) Label()->setWordWrap(wrap);
 }
 

@@ -1,3 +1,5 @@
+// What a form shows and the user doesn't operate: texts, pictures, dividing lines. They take no focus; a text
+// may be marked and copied where the form lets it. Links and shadows are not there.
 #pragma once
 
 #include <QPixmap>
@@ -16,13 +18,16 @@ class TLabel : public TGraphicControl {
  public:
   explicit TLabel(TComponent* owner);
 
-  bool WordWrap() const { return word_wrap_; }
+  /// Whether the text wraps at blanks; off at the start.
+  bool WordWrap() const { return wordWrap_; }
   void SetWordWrap(bool wrap);
+  /// Where the text is between left and right; taLeftJustify at the start.
   TAlignment Alignment() const { return alignment_; }
   void SetAlignment(TAlignment alignment);
+  /// Where the text is between top and bottom; tlCenter at the start.
   TTextLayout Layout() const { return layout_; }
   void SetLayout(TTextLayout layout);
-  /// Whether what lies behind shows through; on at the start.
+  /// Whether what is behind the label shows through; on at the start.
   bool Transparent() const { return transparent_; }
   void SetTransparent(bool transparent);
   /// Whether the user can mark and copy the text; off at the start.
@@ -38,7 +43,7 @@ class TLabel : public TGraphicControl {
   void ApplyAlignment();
 
   bool selectable_ = false;
-  bool word_wrap_ = false;
+  bool wordWrap_ = false;
   bool transparent_ = true;
   TAlignment alignment_ = taLeftJustify;
   TTextLayout layout_ = tlCenter;
@@ -67,9 +72,10 @@ class TImage : public TGraphicControl {
   QPixmap picture_;
 };
 
+/// Where a bevel draws its line.
 enum TBevelShape { bsBox, bsTopLine, bsBottomLine, bsLeftLine, bsRightLine };
 
-/// A line or frame that parts groups of controls.
+/// A line or frame that divides groups of controls.
 class TBevel : public TGraphicControl {
   Q_OBJECT
 

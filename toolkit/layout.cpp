@@ -24,7 +24,7 @@ Qt::Alignment ToAlignment(TCellAlign align) {
   return {};
 }
 
-/// A container that gets a new layout loses its old one; the controls stay its children.
+// A container that gets a new layout loses its old one; the controls stay its children.
 QWidget* Cleared(TWinControl* container) {
   QWidget* client = container->ClientWidget();
   delete client->layout();

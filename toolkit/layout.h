@@ -1,3 +1,5 @@
+// How the controls of a container are arranged: rows, columns and grids that follow the fonts. Forms build
+// their pages with them in BuildControls; controls placed by pixels or by TAlign need none.
 #pragma once
 
 class QBoxLayout;
@@ -8,7 +10,7 @@ class TControl;
 class TLabel;
 class TWinControl;
 
-/// How a control stands in its cell.
+/// How a control fills its cell.
 enum TCellAlign { caFill, caLeft, caRight, caCenter, caTop };
 
 class TGridLayout;
@@ -34,7 +36,7 @@ class TLayout {
   QLayout* layout_ = nullptr;
 };
 
-/// Controls in a row or a column, one behind the other.
+/// Controls in a row or a column, one after the other.
 class TBoxLayout : public TLayout {
  public:
   /// Adds a control; of the room left over it takes a share by its stretch.
@@ -43,9 +45,11 @@ class TBoxLayout : public TLayout {
   void AddSpace(int size);
   /// Adds room that takes a share of what is left over.
   void AddStretch(int stretch = 1);
-  /// Adds a layout inside this one.
+  /// Adds a row inside this layout, which takes a share of the room left over by its stretch.
   TRowLayout AddRow(int stretch = 0);
+  /// The same for a column.
   TColumnLayout AddColumn(int stretch = 0);
+  /// The same for a grid.
   TGridLayout AddGrid(int stretch = 0);
 
  protected:
@@ -83,19 +87,21 @@ class TGridLayout : public TLayout {
   /// Replaces the container's layout; the margins are 0.
   explicit TGridLayout(TWinControl* container);
 
-  /// Puts a control into a cell, over as many rows and columns as told.
+  /// Puts a control into a cell, over the given numbers of rows and columns.
   void Put(TControl* control, int row, int column, int rowSpan = 1, int columnSpan = 1,
            TCellAlign align = caFill);
   /// Puts a row of controls into a cell.
   TRowLayout PutRow(int row, int column, int rowSpan = 1, int columnSpan = 1);
-  /// Puts a label, its control and the "*" of a field that must be given (null: none) into three cells from
+  /// Puts a label, its control and the "*" of a mandatory field (null: none) into three cells from
   /// column on: the label right-aligned, the control filling.
   void PutField(int row, int column, TLabel* label, TControl* control, TLabel* star = nullptr);
-  /// Share of a column or a row in the room left over; 0 at the start.
+  /// Share of a column in the width left over; 0 at the start.
   void SetColumnStretch(int column, int stretch);
+  /// Share of a row in the height left over; 0 at the start.
   void SetRowStretch(int row, int stretch);
-  /// Least size of a column or a row, pixels.
+  /// Minimum width of a column, pixels.
   void SetColumnMinimum(int column, int width);
+  /// Minimum height of a row, pixels.
   void SetRowMinimum(int row, int height);
 
  private:

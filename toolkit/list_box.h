@@ -1,3 +1,5 @@
+// The list in which the user selects any number of entries, such as the states of bills. Selecting ranges,
+// dragging entries and drawing them by oneself are not there.
 #pragma once
 
 #include <string>
@@ -13,9 +15,9 @@ class StringVector;
 }
 
 /// A list of entries of which any number is selected; each has a key and a name in the two lists beside
-/// Items. A click, or the space key, turns the selection of one entry round. Typing a text moves the current
-/// entry only, and a drag of the mouse, whose release is no click, selects nothing. OnClick runs when the
-/// user changes the selection, not for SetSelected.
+/// Items. A click, or the space key, selects an entry or takes its selection off. Typing a text moves the
+/// current entry only, and a drag of the mouse, whose release is no click, selects nothing. OnClick runs when
+/// the user changes the selection, not for SetSelected.
 class TKVXCustomListBox : public TbsSkinControl {
   Q_OBJECT
 
@@ -23,8 +25,10 @@ class TKVXCustomListBox : public TbsSkinControl {
   /// The visible entries. An entry stays selected when others come and go and when its text changes.
   TStrings& Items() { return items_; }
   const TStrings& Items() const { return items_; }
+  /// The keys, by the index of their entries.
   TStrings& Keys() { return keys_; }
   const TStrings& Keys() const { return keys_; }
+  /// The names, by the index of their entries.
   TStrings& Names() { return names_; }
   const TStrings& Names() const { return names_; }
   /// Empties all three lists.
@@ -32,7 +36,9 @@ class TKVXCustomListBox : public TbsSkinControl {
 
   /// Whether the entry at an index is selected; false when there is none.
   bool Selected(int index) const;
+  /// Selects an entry or takes its selection off; an index out of range changes nothing.
   void SetSelected(int index, bool selected);
+  /// Number of the selected entries.
   int SelCount() const;
   /// Keys of the selected entries, in list order.
   corvane::StringVector GetSelectedKeys() const;
@@ -53,6 +59,7 @@ class TKVXCustomListBox : public TbsSkinControl {
   bool setting_ = false;
 };
 
+/// The list box that a form holds.
 class TKVXListBox : public TKVXCustomListBox {
   Q_OBJECT
 

@@ -8,8 +8,8 @@ void TListColumn::SetCaption(const std::string& caption) {
 }
 
 int TListColumn::Bounded(int width) const {
-  width = std::max({width, min_width_, 0});
-  return max_width_ > 0 ? std::min(width, max_width_) : width;
+  width = std::max({width, minWidth_, 0});
+  return maxWidth_ > 0 ? std::min(width, maxWidth_) : width;
 }
 
 void TListColumn::SetWidth(int width) {
@@ -18,12 +18,12 @@ void TListColumn::SetWidth(int width) {
 }
 
 void TListColumn::SetMinWidth(int width) {
-  min_width_ = width;
+  minWidth_ = width;
   SetWidth(width_);
 }
 
 void TListColumn::SetMaxWidth(int width) {
-  max_width_ = width;
+  maxWidth_ = width;
   SetWidth(width_);
 }
 
@@ -53,7 +53,7 @@ void TListColumn::Changed() {
 
 TListColumn* TListColumns::Add() {
   OnCountChange(Count(), Count(), true,
-                [this] { columns_.push_back(std::make_unique<TListColumn>(this, next_id_++)); });
+                [this] { columns_.push_back(std::make_unique<TListColumn>(this, nextId_++)); });
   OnChange(Count() - 1);
   return columns_.back().get();
 }

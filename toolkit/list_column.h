@@ -28,16 +28,16 @@ class TListColumn : public TObject {
   int Width() const { return width_; }
   void SetWidth(int width);
   /// Minimum width in pixels, 0: none.
-  int MinWidth() const { return min_width_; }
+  int MinWidth() const { return minWidth_; }
   void SetMinWidth(int width);
   /// Maximum width in pixels, 0: none. With 1 the column reads as 1 or 0 wide.
-  int MaxWidth() const { return max_width_; }
+  int MaxWidth() const { return maxWidth_; }
   void SetMaxWidth(int width);
   /// Where the texts of header and cells are; taLeftJustify at the start.
   TAlignment Alignment() const { return alignment_; }
   void SetAlignment(TAlignment alignment);
   /// Whether the column is hidden.
-  bool Hidden() const { return max_width_ == 1 || width_ == 0; }
+  bool Hidden() const { return maxWidth_ == 1 || width_ == 0; }
   /// Display format of the cells, a TColumnFormat (decimal_text.h); any other number is cfText. The record
   /// isn't changed by it.
   int Tag() const { return tag_; }
@@ -59,8 +59,8 @@ class TListColumn : public TObject {
   std::string caption_;
   int id_;
   int width_ = 50;
-  int min_width_ = 0;
-  int max_width_ = 0;
+  int minWidth_ = 0;
+  int maxWidth_ = 0;
   int tag_ = 0;
   TAlignment alignment_ = taLeftJustify;
 };
@@ -69,6 +69,7 @@ class TListColumn : public TObject {
 /// its place here.
 class TListColumns {
  public:
+  /// Number of the columns.
   int Count() const { return static_cast<int>(columns_.size()); }
   /// The column at a place, from 0; std::out_of_range when there is none.
   TListColumn* Items(int index) const { return columns_.at(static_cast<std::size_t>(index)).get(); }
@@ -91,5 +92,5 @@ class TListColumns {
 
  private:
   std::vector<std::unique_ptr<TListColumn>> columns_;
-  int next_id_ = 0;
+  int nextId_ = 0;
 };

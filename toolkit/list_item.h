@@ -1,6 +1,6 @@
 // The rows of a list view as forms see them: handles to texts, tick, selection and record of a row. Where the
-// rows lie and how they reach the screen is list_model.h's matter. Icons, indents and columns' pictures of
-// the original's items are not there.
+// rows are stored and how they reach the screen is list_model.h's matter. Icons, indents and columns'
+// pictures of the original's items are not there.
 #pragma once
 
 #include <string>

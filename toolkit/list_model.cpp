@@ -51,17 +51,17 @@ void TListModel::SetText(TListRow& row, int column, const std::string& text) {
 
 void TListModel::CountTick(TListRow& row, int by) {
   checked_ += by;
-  if (by > 0 && !row.kinds && kinds_of_ && row.record) row.kinds = kinds_of_(*row.record);
+  if (by > 0 && !row.kinds && kindsOf_ && row.record) row.kinds = kindsOf_(*row.record);
   const unsigned kinds = row.kinds.value_or(0);
   for (unsigned kind = 0; kind < kMaxKinds; ++kind) {
-    if ((kinds >> kind & 1U) != 0) checked_of_kind_[kind] += by;
+    if ((kinds >> kind & 1U) != 0) checkedOfKind_[kind] += by;
   }
 }
 
 void TListModel::SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf) {
-  kinds_of_ = std::move(kindsOf);
+  kindsOf_ = std::move(kindsOf);
   checked_ = 0;
-  checked_of_kind_ = {};
+  checkedOfKind_ = {};
   for (const auto& row : rows_) {
     row->kinds.reset();
     if (row->checked) CountTick(*row, 1);
@@ -88,10 +88,9 @@ void TListModel::CheckAll(bool checked) {
     if (row->checked != checked) CountTick(*row, checked ? 1 : -1);
     row->checked = checked;
   }
-  // Only the columns with ticks: a view looks at each cell that it is told of.
-  int last = 0;
-  while (last + 1 < columnCount() && view_->Columns()[last]->Hidden()) ++last;
-  if (columnCount() > 0) Q_EMIT dataChanged(index(0, 0), index(Count() - 1, last), {Qt::CheckStateRole});
+  // Only the columns with ticks: a view looks at each cell that is reported to it.
+  const int last = std::min(FirstVisibleColumn(), columnCount() - 1);
+  if (last >= 0) Q_EMIT dataChanged(index(0, 0), index(Count() - 1, last), {Qt::CheckStateRole});
 }
 
 TListRow& TListModel::Insert(int index) {
@@ -150,7 +149,7 @@ void TListModel::Clear() {
   beginResetModel();
   rows_.clear();
   checked_ = 0;
-  checked_of_kind_ = {};
+  checkedOfKind_ = {};
   endResetModel();
 }
 
@@ -167,10 +166,10 @@ void TListModel::ChangeColumns(int first, int last, bool come, const std::functi
 }
 
 void TListModel::MoveTexts(int from, int to) {
-  const auto most = static_cast<std::size_t>(std::max(from, to)) + 1;
+  const auto count = static_cast<std::size_t>(std::max(from, to)) + 1;
   for (const auto& row : rows_) {
     if (row->texts.empty()) continue;
-    row->texts.resize(std::max(row->texts.size(), most));
+    row->texts.resize(std::max(row->texts.size(), count));
     const auto texts = row->texts.begin();
     if (from < to) {
       std::rotate(texts + from, texts + from + 1, texts + to + 1);
@@ -198,12 +197,15 @@ int TListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : view_->Columns().Count();
 }
 
+int TListModel::FirstVisibleColumn() const {
+  const TListColumns& columns = view_->Columns();
+  int column = 0;
+  while (column < columns.Count() && columns[column]->Hidden()) ++column;
+  return column;
+}
+
 bool TListModel::ShowsCheck(int column) const {
-  if (!view_->Checkboxes()) return false;
-  for (int i = 0; i < column; ++i) {
-    if (!view_->Columns()[i]->Hidden()) return false;
-  }
-  return column == 0 || !view_->Columns()[column]->Hidden();
+  return view_->Checkboxes() && (column == 0 || column == FirstVisibleColumn());
 }
 
 QVariant TListModel::data(const QModelIndex& index, int role) const {

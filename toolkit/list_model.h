@@ -1,6 +1,6 @@
-// Where the rows of a list view lie: the table that Qt's view reads its cells from. Only the list view, its
-// rows' handles and its columns use it; forms go through list_view.h. It draws nothing and reports no
-// selection.
+// Where the rows of a list view are stored: the table that Qt's view reads its cells from. Only the list
+// view, its rows' handles and its columns use it; forms go through list_view.h. It draws nothing and reports
+// no selection.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -21,11 +21,15 @@ class TCustomListView;
 struct TListRow {
   explicit TListRow(TListModel* model) : item(model, this) {}
 
+  /// The record; nothing in a row of texts.
   std::optional<corvane::Property> record;
+  /// The texts of the columns where the row has no record; those after the last are empty.
   std::vector<std::string> texts;
+  /// The row's handle.
   TListItem item;
   /// Where the row was when last asked for; rows that go before it make it too large.
   int index = 0;
+  /// Whether the row is ticked.
   bool checked = false;
   /// Kinds of the record, once they have been asked for.
   std::optional<std::uint8_t> kinds;
@@ -36,6 +40,7 @@ class TListModel : public QAbstractTableModel {
  public:
   explicit TListModel(TCustomListView* view) : view_(view) {}
 
+  /// The list view that owns the model.
   TCustomListView* View() const { return view_; }
   /// Number of the rows.
   int Count() const { return static_cast<int>(rows_.size()); }
@@ -55,7 +60,7 @@ class TListModel : public QAbstractTableModel {
   /// Number of the ticked rows.
   int CheckedCount() const { return checked_; }
   /// Ticked rows whose record is of a kind, a bit from 0 to 7.
-  int CheckedCount(unsigned kind) const { return checked_of_kind_[kind]; }
+  int CheckedCount(unsigned kind) const { return checkedOfKind_[kind]; }
   /// Counts the ticked rows by other kinds from here on.
   void SetKinds(std::function<std::uint8_t(const corvane::Property& record)> kindsOf);
 
@@ -97,13 +102,15 @@ class TListModel : public QAbstractTableModel {
  private:
   static constexpr unsigned kMaxKinds = 8;
 
+  /// The first column that isn't hidden, the number of the columns when all are.
+  int FirstVisibleColumn() const;
   const std::string* FieldOf(const TListRow& row, int column) const;
   /// Adds a ticked row to the counts (by 1), or subtracts it (by -1).
   void CountTick(TListRow& row, int by);
 
   TCustomListView* view_;
   std::vector<std::unique_ptr<TListRow>> rows_;
-  std::function<std::uint8_t(const corvane::Property& record)> kinds_of_;
+  std::function<std::uint8_t(const corvane::Property& record)> kindsOf_;
   int checked_ = 0;
-  std::array<int, kMaxKinds> checked_of_kind_{};
+  std::array<int, kMaxKinds> checkedOfKind_{};
 };

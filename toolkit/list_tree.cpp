@@ -20,7 +20,7 @@ static constexpr int kMinRows = 3;
 
 namespace {
 
-/// Ends a caption that is cut in "...": a skin would take letters off both its ends.
+// Ends a caption that is cut in "...": a skin would take letters off both its ends.
 class ListHeader : public QHeaderView {
  public:
   explicit ListHeader(QWidget* tree) : QHeaderView(Qt::Horizontal, tree) {
@@ -39,7 +39,7 @@ class ListHeader : public QHeaderView {
   }
 };
 
-/// Gives the rows some room above and below the text.
+// Gives the rows some room above and below the text.
 class RowDelegate : public QStyledItemDelegate {
  public:
   explicit RowDelegate(TListTree* tree) : QStyledItemDelegate(tree), tree_(tree) {}
@@ -60,7 +60,7 @@ class RowDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-/// The strip below the rows. It asks for its texts when something in the list has changed, not at each paint.
+// The strip below the rows. It asks for its texts when something in the list has changed, not at each paint.
 class TListSumBar : public QWidget {
  public:
   TListSumBar(TListTree* tree, std::function<QString(int column)> sums)
@@ -136,18 +136,18 @@ TListTree::TListTree() {
 }
 
 void TListTree::SetGridLines(bool on) {
-  grid_lines_ = on;
+  gridLines_ = on;
   viewport()->update();
 }
 
 void TListTree::SetHideSelection(bool on) {
-  hide_selection_ = on;
+  hideSelection_ = on;
   ShowSelection();
 }
 
 void TListTree::SetSums(std::function<QString(int column)> sums) {
-  delete sum_bar_;
-  sum_bar_ = sums ? new TListSumBar(this, std::move(sums)) : nullptr;
+  delete sumBar_;
+  sumBar_ = sums ? new TListSumBar(this, std::move(sums)) : nullptr;
   updateGeometries();
 }
 
@@ -162,8 +162,7 @@ int TListTree::RowHeight() const {
 
 QSize TListTree::minimumSizeHint() const {
   const int head = isHeaderHidden() ? 0 : header()->sizeHint().height();
-  const int foot =
-      horizontalScrollBar()->sizeHint().height() + (sum_bar_ == nullptr ? 0 : sum_bar_->Height());
+  const int foot = horizontalScrollBar()->sizeHint().height() + (sumBar_ == nullptr ? 0 : sumBar_->Height());
   const int height = head + kMinRows * RowHeight() + foot + 2 * frameWidth();
   return {QTreeView::minimumSizeHint().width(), height};
 }
@@ -208,7 +207,7 @@ void TListTree::focusOutEvent(QFocusEvent* event) {
 }
 
 bool TListTree::HidesSelection() const {
-  return hide_selection_ && !hasFocus();
+  return hideSelection_ && !hasFocus();
 }
 
 // A style takes the row's colour from the palette and a skin the cells' from their state (see RowDelegate).
@@ -250,7 +249,7 @@ bool TListTree::viewportEvent(QEvent* event) {
 void TListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
   QTreeView::drawRow(painter, option, index);
-  if (!grid_lines_) return;
+  if (!gridLines_) return;
   painter->save();
   const int hint = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
   painter->setPen(QColor::fromRgba(static_cast<QRgb>(hint)));
@@ -266,13 +265,13 @@ void TListTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
 
 void TListTree::updateGeometries() {
   QTreeView::updateGeometries();
-  const int height = sum_bar_ == nullptr ? 0 : sum_bar_->Height();
+  const int height = sumBar_ == nullptr ? 0 : sumBar_->Height();
   QMargins margins = viewportMargins();
   if (margins.bottom() != height) {
     margins.setBottom(height);
     setViewportMargins(margins);
   }
-  if (sum_bar_ == nullptr) return;
+  if (sumBar_ == nullptr) return;
   const QRect rows = viewport()->geometry();
-  sum_bar_->setGeometry(rows.left(), rows.bottom() + 1, rows.width(), height);
+  sumBar_->setGeometry(rows.left(), rows.bottom() + 1, rows.width(), height);
 }

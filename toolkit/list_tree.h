@@ -49,7 +49,7 @@ class TListTree : public QTreeView {
   bool OnCheckBox(const QPoint& point) const;
   void Report(QMouseEvent* event);
 
-  TListSumBar* sum_bar_ = nullptr;
-  bool grid_lines_ = false;
-  bool hide_selection_ = true;
+  TListSumBar* sumBar_ = nullptr;
+  bool gridLines_ = false;
+  bool hideSelection_ = true;
 };

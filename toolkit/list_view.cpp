@@ -11,7 +11,7 @@
 #include "toolkit/list_model.h"
 #include "toolkit/list_tree.h"
 
-/// A column that is shown can't be dragged narrower than this, so that it doesn't get lost.
+// A column that is shown can't be dragged narrower than this, so that it doesn't get lost.
 static constexpr int kMinDraggedWidth = 16;
 
 TCustomListView::TCustomListView(TComponent* owner)
@@ -107,17 +107,17 @@ void TCustomListView::SetCheckboxes(bool on) {
 }
 
 void TCustomListView::SetGridLines(bool on) {
-  grid_lines_ = on;
+  gridLines_ = on;
   if (Tree() != nullptr) Tree()->SetGridLines(on);
 }
 
 void TCustomListView::SetHideSelection(bool on) {
-  hide_selection_ = on;
+  hideSelection_ = on;
   if (Tree() != nullptr) Tree()->SetHideSelection(on);
 }
 
 void TCustomListView::SetShowColumnHeaders(bool on) {
-  show_column_headers_ = on;
+  showColumnHeaders_ = on;
   if (Tree() != nullptr) Tree()->setHeaderHidden(!on);
 }
 
@@ -152,11 +152,15 @@ void TCustomListView::ConnectHeader() {
 void TCustomListView::ShowColumn(int index) {
   if (Tree() == nullptr || arranging_) return;
   const QScopedValueRollback arranging(arranging_, true);
+  PlaceColumn(index);
+  Q_EMIT model_->headerDataChanged(Qt::Horizontal, index, index);
+  Tree()->viewport()->update();
+}
+
+void TCustomListView::PlaceColumn(int index) {
   const TListColumn& column = *columns_[index];
   Tree()->setColumnHidden(index, column.Hidden());
   if (!column.Hidden()) Tree()->header()->resizeSection(index, column.Width());
-  Q_EMIT model_->headerDataChanged(Qt::Horizontal, index, index);
-  Tree()->viewport()->update();
 }
 
 void TCustomListView::SectionResized(int index, int width) {
@@ -177,10 +181,7 @@ void TCustomListView::SectionMoved(int from, int to) {
   columns_.Move(from, to);
   model_->MoveTexts(from, to);
   ColumnMoved(from, to);
-  for (int i = 0; i < columns_.Count(); ++i) {
-    Tree()->setColumnHidden(i, columns_[i]->Hidden());
-    if (!columns_[i]->Hidden()) Tree()->header()->resizeSection(i, columns_[i]->Width());
-  }
+  for (int i = 0; i < columns_.Count(); ++i) PlaceColumn(i);
   model_->TouchAll();
 }
 

@@ -50,28 +50,28 @@ class TCustomListView : public TbsSkinControl {
   virtual void Clear();
 
   /// Only the report style is drawn.
-  TViewStyle ViewStyle() const { return view_style_; }
-  void SetViewStyle(TViewStyle style) { view_style_ = style; }
+  TViewStyle ViewStyle() const { return viewStyle_; }
+  void SetViewStyle(TViewStyle style) { viewStyle_ = style; }
   /// Whether each row has a check box; false at the start.
   bool Checkboxes() const { return checkboxes_; }
   void SetCheckboxes(bool on);
-  /// Whether lines part rows and columns; false at the start.
-  bool GridLines() const { return grid_lines_; }
+  /// Whether lines divide rows and columns; false at the start.
+  bool GridLines() const { return gridLines_; }
   void SetGridLines(bool on);
-  /// Kept for the forms; a selected row is always marked over its whole width.
-  bool RowSelect() const { return row_select_; }
-  void SetRowSelect(bool on) { row_select_ = on; }
-  /// Kept for the forms; texts are never edited in place.
-  bool ReadOnly() const { return read_only_; }
-  void SetReadOnly(bool on) { read_only_ = on; }
+  /// Stored only: a selected row is always marked over its full width.
+  bool RowSelect() const { return rowSelect_; }
+  void SetRowSelect(bool on) { rowSelect_ = on; }
+  /// Stored only: texts are never edited in place.
+  bool ReadOnly() const { return readOnly_; }
+  void SetReadOnly(bool on) { readOnly_ = on; }
   /// Whether the selection shows only with the focus.
-  bool HideSelection() const { return hide_selection_; }
+  bool HideSelection() const { return hideSelection_; }
   void SetHideSelection(bool on);
-  /// Kept for the forms; the user may always drag a column by its header to another place.
-  bool FullDrag() const { return full_drag_; }
-  void SetFullDrag(bool on) { full_drag_ = on; }
+  /// Stored only: the user may always drag a column by its header to another place.
+  bool FullDrag() const { return fullDrag_; }
+  void SetFullDrag(bool on) { fullDrag_ = on; }
   /// Whether the captions of the columns show; true at the start.
-  bool ShowColumnHeaders() const { return show_column_headers_; }
+  bool ShowColumnHeaders() const { return showColumnHeaders_; }
   void SetShowColumnHeaders(bool on);
 
   /// Runs after a row was selected or lost the selection, by the user or by code.
@@ -92,6 +92,8 @@ class TCustomListView : public TbsSkinControl {
  private:
   void ConnectHeader();
   void ShowColumn(int index);
+  /// Puts width and visibility of a column on the header.
+  void PlaceColumn(int index);
   void SectionResized(int index, int width);
   void SectionMoved(int from, int to);
   void TreeMouse(QMouseEvent* event);
@@ -100,14 +102,14 @@ class TCustomListView : public TbsSkinControl {
   TListModel* model_;
   TListColumns columns_;
   TListItems items_;
-  TViewStyle view_style_ = vsReport;
+  TViewStyle viewStyle_ = vsReport;
   bool checkboxes_ = false;
-  bool grid_lines_ = false;
-  bool row_select_ = false;
-  bool read_only_ = false;
-  bool hide_selection_ = true;
-  bool full_drag_ = false;
-  bool show_column_headers_ = true;
+  bool gridLines_ = false;
+  bool rowSelect_ = false;
+  bool readOnly_ = false;
+  bool hideSelection_ = true;
+  bool fullDrag_ = false;
+  bool showColumnHeaders_ = true;
   bool arranging_ = false;
 };
 

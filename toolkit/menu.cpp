@@ -8,7 +8,6 @@
 #include "toolkit/event_guard.h"
 #include "toolkit/form.h"
 #include "toolkit/image_list.h"
-#include "toolkit/skin.h"
 #include "toolkit/text.h"
 
 TMenuItem::TMenuItem(TComponent* owner) : TComponent(owner) {}
@@ -29,11 +28,11 @@ void TMenuItem::SetAction(TAction* action) {
   enabled_ = action_->Enabled();
   visible_ = action_->Visible();
   checked_ = action_->Checked();
-  image_index_ = action_->ImageIndex();
+  imageIndex_ = action_->ImageIndex();
 }
 
 void TMenuItem::TakeImage(const TAction& action) {
-  image_index_ = action.ImageIndex();
+  imageIndex_ = action.ImageIndex();
 }
 
 void TMenuItem::Add(TMenuItem* item) {
@@ -71,7 +70,7 @@ TMenuItem* TMenuItem::AddLine() {
 
 void TMenuItem::Click() {
   if (!enabled_) return;
-  if (auto_check_) checked_ = !checked_;
+  if (autoCheck_) checked_ = !checked_;
   if (OnClick) {
     FireEvent(OnClick, this);
   } else if (action_ != nullptr) {
@@ -137,16 +136,14 @@ void TPopupMenu::Popup(int x, int y) {
   FireEvent(OnPopup, this);
   if (HasEnded(Life())) return;
   delete menu_.data();
-  const auto* control = qobject_cast<const TControl*>(popup_component_ ? popup_component_.data() : Owner());
+  const auto* control = qobject_cast<const TControl*>(popupComponent_ ? popupComponent_.data() : Owner());
   const TForm* form = control == nullptr ? nullptr : control->ParentForm();
   menu_ = new QMenu(form == nullptr ? nullptr : form->Widget());
   menu_->setObjectName(objectName());
   Fill(menu_, Items());
-  popup_component_ = nullptr;
+  popupComponent_ = nullptr;
   if (menu_->isEmpty()) return;
-  if (const auto* frame = form == nullptr ? nullptr : TbsBusinessSkinForm::Of(form)) {
-    if (!frame->UseSkinFontInMenu()) menu_->setFont(frame->DefMenuItemFont()->ToQFont());
-  }
+  if (const TFont* font = form == nullptr ? nullptr : form->MenuFont()) menu_->setFont(font->ToQFont());
   menu_->popup(QPoint(x, y));
 }
 

@@ -18,12 +18,12 @@
 
 namespace {
 
-/// Marks a widget for the skin's selectors.
+// Marks a widget for the skin's selectors.
 void SetSkinRole(QWidget* widget, const char* role) {
   widget->setProperty("skin", QString::fromLatin1(role));
 }
 
-/// A column without room of its own round or between its parts.
+// A column without room of its own round or between its parts.
 QVBoxLayout* BareColumn(QWidget* widget) {
   auto* column = new QVBoxLayout(widget);
   column->setContentsMargins(0, 0, 0, 0);
@@ -31,8 +31,8 @@ QVBoxLayout* BareColumn(QWidget* widget) {
   return column;
 }
 
-/// As large as what it holds where there is room, and as small as its scroll bars where there is none. What
-/// gets the focus comes into sight.
+// As large as what it holds where there is room, and as small as its scroll bars where there is none. What
+// gets the focus comes into sight.
 class ScrollArea : public QScrollArea {
  public:
   explicit ScrollArea(QWidget* client) {
@@ -45,14 +45,14 @@ class ScrollArea : public QScrollArea {
     });
   }
   void KeepWidth(bool keeps) {
-    keeps_width_ = keeps;
+    keepsWidth_ = keeps;
     updateGeometry();
   }
   QSize minimumSizeHint() const override {
-    const QSize least = QScrollArea::minimumSizeHint();
-    if (!keeps_width_ || widget() == nullptr) return least;
+    const QSize minimum = QScrollArea::minimumSizeHint();
+    if (!keepsWidth_ || widget() == nullptr) return minimum;
     const int content = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-    return {std::min(content, screen()->availableSize().width() - kBesideIt), least.height()};
+    return {std::min(content, screen()->availableSize().width() - kBesideIt), minimum.height()};
   }
   QSize sizeHint() const override { return widget() == nullptr ? QSize() : widget()->sizeHint(); }
 
@@ -64,7 +64,7 @@ class ScrollArea : public QScrollArea {
 
  private:
   static constexpr int kBesideIt = 40;  // of the screen, for the form's margins and frame
-  bool keeps_width_ = false;
+  bool keepsWidth_ = false;
 };
 
 }  // namespace
@@ -133,19 +133,19 @@ TbsSkinExPanel::TbsSkinExPanel(TComponent* owner)
   WatchWidget(header_);
   ShowState();
   QObject::connect(header_, &QToolButton::clicked, this, [this] {
-    SetRollState(!rolled_up_);
+    SetRollState(!rolledUp_);
     FireEvent(OnChangeRollState, this);
   });
 }
 
 void TbsSkinExPanel::ShowState() {
-  header_->setArrowType(rolled_up_ ? Qt::RightArrow : Qt::DownArrow);
-  client_->setVisible(!rolled_up_);
-  if (open_height_ > 0) TbsSkinControl::SetHeight(rolled_up_ ? header_->sizeHint().height() : open_height_);
+  header_->setArrowType(rolledUp_ ? Qt::RightArrow : Qt::DownArrow);
+  client_->setVisible(!rolledUp_);
+  if (openHeight_ > 0) TbsSkinControl::SetHeight(rolledUp_ ? header_->sizeHint().height() : openHeight_);
 }
 
 void TbsSkinExPanel::SetHeight(int height) {
-  open_height_ = height;
+  openHeight_ = height;
   if (client_) ShowState();
 }
 
@@ -159,7 +159,7 @@ bool TbsSkinExPanel::ReturnPressed() {
 }
 
 void TbsSkinExPanel::SetRollState(bool rolledUp) {
-  rolled_up_ = rolledUp;
+  rolledUp_ = rolledUp;
   if (client_) ShowState();
 }
 

@@ -1,3 +1,6 @@
+// What holds other controls or frames a form: panels, groups, roll-up panels, scroll boxes, tool and status
+// bars. Docking, splitting and the pictures of the original's bars are not there; pages with tabs are in
+// tabs.h.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -72,7 +75,7 @@ class TbsSkinExPanel : public TbsSkinControl {
   QWidget* ClientWidget() const override { return client_; }
 
   /// True: rolled up.
-  bool RollState() const { return rolled_up_; }
+  bool RollState() const { return rolledUp_; }
   /// Rolls up or opens without running OnChangeRollState.
   void SetRollState(bool rolledUp);
 
@@ -88,6 +91,7 @@ class TbsSkinExPanel : public TbsSkinControl {
   QWidget* FocusWidget() const override;
   bool WantsReturn() const override { return true; }
   bool ReturnPressed() override;
+  bool HeadsOthers() const override { return true; }
   bool ClicksByMouse() const override { return false; }
 
  private:
@@ -95,8 +99,8 @@ class TbsSkinExPanel : public TbsSkinControl {
 
   QToolButton* header_;
   QPointer<QWidget> client_;
-  bool rolled_up_ = false;
-  int open_height_ = 0;
+  bool rolledUp_ = false;
+  int openHeight_ = 0;
 };
 
 /// A container that asks for the size of what it holds, and scrolls where it gets less. A control in it that
@@ -125,8 +129,9 @@ class TbsSkinScrollBar : public TbsSkinControl {
   explicit TbsSkinScrollBar(TComponent* owner, TScrollBarKind kind = sbVertical);
   ~TbsSkinScrollBar() override;
 
+  /// Direction of the bar.
   TScrollBarKind Kind() const { return kind_; }
-  /// Becomes the scroll bar of a list, tree, memo or scroll box; any other control leaves it alone.
+  /// Becomes the scroll bar of a list, tree, memo or scroll box; with any other control nothing happens.
   void AttachTo(TWinControl* control);
 
  protected:

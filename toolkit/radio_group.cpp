@@ -20,14 +20,13 @@ TbsSkinRadioGroup::TbsSkinRadioGroup(TComponent* owner) : TbsSkinControl(owner) 
   items_.OnChange = [this] { ItemsChanged(); };
   connect(group_, &QButtonGroup::idToggled, this, [this](int index, bool on) {
     if (setting_ || !on) return;
-    item_index_ = index;
+    itemIndex_ = index;
     Click();
   });
   // The item that is shown already toggles nothing when it is clicked.
-  connect(group_, &QButtonGroup::idPressed, this,
-          [this](int index) { pressed_shown_ = index == item_index_; });
+  connect(group_, &QButtonGroup::idPressed, this, [this](int index) { pressedShown_ = index == itemIndex_; });
   connect(group_, &QButtonGroup::idClicked, this, [this] {
-    if (std::exchange(pressed_shown_, false)) Click();
+    if (std::exchange(pressedShown_, false)) Click();
   });
 }
 
@@ -43,7 +42,7 @@ void TbsSkinRadioGroup::SetColumns(int columns) {
 
 void TbsSkinRadioGroup::SetItemIndex(int index) {
   const bool exists = index >= 0 && static_cast<std::size_t>(index) < items_.Count();
-  item_index_ = exists ? index : -1;
+  itemIndex_ = exists ? index : -1;
   ShowChoice();
   if (exists) FireEvent(OnClick, this);
 }
@@ -60,7 +59,7 @@ void TbsSkinRadioGroup::FontChanged() {
 
 QWidget* TbsSkinRadioGroup::FocusWidget() const {
   if (Widget() == nullptr || buttons_.empty()) return nullptr;
-  return buttons_[static_cast<std::size_t>(std::max(item_index_, 0))];
+  return buttons_[static_cast<std::size_t>(std::max(itemIndex_, 0))];
 }
 
 // A button that the mouse presses has the focus before it is the chosen one.
@@ -84,7 +83,7 @@ void TbsSkinRadioGroup::ItemsChanged() {
     WatchWidget(button);
   }
   for (std::size_t i = 0; i < buttons_.size(); ++i) buttons_[i]->setText(ToQt(items_[i]));
-  if (item_index_ >= static_cast<int>(buttons_.size())) item_index_ = -1;
+  if (itemIndex_ >= static_cast<int>(buttons_.size())) itemIndex_ = -1;
   NameButtons();
   PlaceButtons();
   ShowChoice();
@@ -103,7 +102,7 @@ void TbsSkinRadioGroup::ShowChoice() {
   const QScopedValueRollback setting(setting_, true);
   group_->setExclusive(false);
   for (std::size_t i = 0; i < buttons_.size(); ++i)
-    buttons_[i]->setChecked(static_cast<int>(i) == item_index_);
+    buttons_[i]->setChecked(static_cast<int>(i) == itemIndex_);
   group_->setExclusive(true);
 }
 

@@ -1,3 +1,5 @@
+// Alternatives in a frame, of which the user chooses one: periods, ways of sorting, times of booking. Single
+// radio buttons are in buttons.h.
 #pragma once
 
 #include <string>
@@ -20,15 +22,16 @@ class TbsSkinRadioGroup : public TbsSkinControl {
  public:
   explicit TbsSkinRadioGroup(TComponent* owner);
 
+  /// Names the group and its radio buttons.
   void SetName(const std::string& name) override;
   /// The texts, in order. The choice stays with its index while there is such an item.
   TStrings& Items() { return items_; }
   const TStrings& Items() const { return items_; }
-  /// Number of columns that the items stand in, 1 or more; filled row by row.
+  /// Number of columns of items, at least 1; filled row by row.
   int Columns() const { return columns_; }
   void SetColumns(int columns);
   /// The chosen item, -1: none.
-  int ItemIndex() const { return item_index_; }
+  int ItemIndex() const { return itemIndex_; }
   /// Chooses an item and runs OnClick when the index is that of an item, also when it was chosen already; an
   /// index out of range chooses none and runs nothing.
   void SetItemIndex(int index);
@@ -51,7 +54,7 @@ class TbsSkinRadioGroup : public TbsSkinControl {
   QButtonGroup* group_;
   QGridLayout* grid_;
   int columns_ = 1;
-  int item_index_ = -1;
+  int itemIndex_ = -1;
   bool setting_ = false;
-  bool pressed_shown_ = false;  // the button under the mouse or the key is the chosen one
+  bool pressedShown_ = false;  // the button under the mouse or the key is the chosen one
 };

@@ -1,5 +1,5 @@
-// What the module's forms stand on: the display of the host's main window, and the list of the forms that
-// there are. For whoever fits a form to the display or looks for an open form. It moves and draws nothing.
+// What the module's forms open on, the display of the host's main window, and the list of all forms. For
+// whoever fits a form to the display or looks for an open form. It moves and draws nothing.
 #pragma once
 
 #include <vector>

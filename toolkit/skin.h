@@ -1,3 +1,6 @@
+// The look that a deployment gives the module's forms: a skin file as a style sheet, and the frame that puts
+// it on a form. Pictures, animated borders and the drawing of the original's skins are not there; the window
+// manager draws the frame.
 #pragma once
 
 #include <functional>
@@ -21,15 +24,15 @@ class TbsSkinData : public TComponent {
   /// such a file, or would unpack to more than 4 MiB changes nothing and gives false.
   bool LoadFromCompressedFile(const std::string& path);
   /// The loaded style sheet, empty without a skin.
-  const QString& StyleSheet() const { return style_sheet_; }
+  const QString& StyleSheet() const { return styleSheet_; }
 
  private:
   friend class TbsBusinessSkinForm;
-  QString style_sheet_;
+  QString styleSheet_;
   std::vector<class TbsBusinessSkinForm*> frames_;
 };
 
-/// The skin frame of a form: puts the skin on the form's window and all it holds.
+/// The skin frame of a form: puts the skin on the form's window and all that it holds.
 class TbsBusinessSkinForm : public TComponent {
   Q_OBJECT
   Q_PROPERTY(QObject* DefCaptionFont READ PublishedDefCaptionFont WRITE SetPublishedDefCaptionFont)
@@ -38,29 +41,32 @@ class TbsBusinessSkinForm : public TComponent {
   Q_PROPERTY(QObject* DefMenuItemFont READ PublishedDefMenuItemFont WRITE SetPublishedDefMenuItemFont)
 
  public:
-  /// form: the form that the frame skins.
+  /// form: the form that the frame skins, and whose menus get DefMenuItemFont.
   explicit TbsBusinessSkinForm(TForm* form);
   ~TbsBusinessSkinForm() override;
   /// The skin frame of a form, null when it has none.
   static TbsBusinessSkinForm* Of(const TForm* form);
 
-  TbsSkinData* SkinData() const { return skin_data_; }
+  /// The skin, null: none.
+  TbsSkinData* SkinData() const { return skinData_; }
   /// Takes a skin; its present and every later content goes to the form.
   void SetSkinData(TbsSkinData* data);
-  /// Fonts of the frame and of the form's menus. The window manager draws the frame, so only the menu's is
-  /// used.
-  TFont* DefCaptionFont() const { return caption_font_; }
-  TFont* DefInActiveCaptionFont() const { return inactive_caption_font_; }
-  TFont* DefMenuItemFont() const { return menu_font_; }
+  /// Font of the frame of the active form; the window manager draws the frame and doesn't use it.
+  TFont* DefCaptionFont() const { return captionFont_; }
+  /// The same for the frame of an inactive form.
+  TFont* DefInActiveCaptionFont() const { return inactiveCaptionFont_; }
+  /// Font of the form's menus, unless they take the skin's.
+  TFont* DefMenuItemFont() const { return menuFont_; }
   /// Whether menus take the skin's font; off: DefMenuItemFont.
-  bool UseSkinFontInMenu() const { return use_skin_font_in_menu_; }
-  void SetUseSkinFontInMenu(bool use) { use_skin_font_in_menu_ = use; }
+  bool UseSkinFontInMenu() const { return useSkinFontInMenu_; }
+  void SetUseSkinFontInMenu(bool use);
 
-  QObject* PublishedDefCaptionFont() const { return caption_font_; }
+  /// Published properties (see properties.h).
+  QObject* PublishedDefCaptionFont() const { return captionFont_; }
   void SetPublishedDefCaptionFont(QObject* font);
-  QObject* PublishedDefInActiveCaptionFont() const { return inactive_caption_font_; }
+  QObject* PublishedDefInActiveCaptionFont() const { return inactiveCaptionFont_; }
   void SetPublishedDefInActiveCaptionFont(QObject* font);
-  QObject* PublishedDefMenuItemFont() const { return menu_font_; }
+  QObject* PublishedDefMenuItemFont() const { return menuFont_; }
   void SetPublishedDefMenuItemFont(QObject* font);
 
  private:
@@ -68,9 +74,9 @@ class TbsBusinessSkinForm : public TComponent {
   void Apply();
 
   TForm* form_;
-  TbsSkinData* skin_data_ = nullptr;
-  TFont* caption_font_;
-  TFont* inactive_caption_font_;
-  TFont* menu_font_;
-  bool use_skin_font_in_menu_ = false;
+  TbsSkinData* skinData_ = nullptr;
+  TFont* captionFont_;
+  TFont* inactiveCaptionFont_;
+  TFont* menuFont_;
+  bool useSkinFontInMenu_ = false;
 };

@@ -1,5 +1,5 @@
-// The pictures that the layer draws by itself, so that no file is needed beside the module. Image lists and the
-// message dialogs show them; pictures from files are in image_list.h.
+// The pictures that the layer draws by itself, so that no file is needed beside the module. Image lists and
+// the message dialogs show them; pictures from files are in image_list.h.
 #pragma once
 
 #include <QIcon>

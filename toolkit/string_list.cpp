@@ -66,7 +66,7 @@ void TStrings::EndUpdate() {
 }
 
 void TStrings::Changed(std::size_t index) {
-  changed_at_ = changed_ ? kManyChanges : index;
+  changedAt_ = changed_ ? kManyChanges : index;
   changed_ = true;
   if (updating_ == 0) Report();
 }

@@ -1,3 +1,6 @@
+// The string lists that boxes and radio groups offer as their entries, and the way in which a control hears
+// of a change in one. Objects beside the strings, sorting, files and name-value pairs of the original's lists
+// are not there.
 #pragma once
 
 #include <cstddef>
@@ -5,9 +8,10 @@
 #include <string>
 #include <vector>
 
-/// An ordered list of narrow strings that tells its owner of each change. Indexes count from 0.
+/// An ordered list of narrow strings that reports each change to its owner. Indexes count from 0.
 class TStrings {
  public:
+  /// Number of the strings.
   std::size_t Count() const { return strings_.size(); }
   /// The string at an index; std::out_of_range when there is none.
   const std::string& Strings(std::size_t index) const { return strings_.at(index); }
@@ -20,28 +24,32 @@ class TStrings {
   void Insert(std::size_t index, const std::string& text);
   /// Removes the string at an index; std::out_of_range when there is none.
   void Delete(std::size_t index);
+  /// Removes all strings.
   void Clear();
-  /// Replaces the whole content.
+  /// Replaces all strings.
   void Assign(std::vector<std::string> strings);
   /// Index of the first equal string, -1 when there is none.
   int IndexOf(const std::string& text) const;
   /// The strings, each followed by "\r\n".
   std::string Text() const;
-  /// Replaces the content by the lines of a text, parted by "\r\n" or "\n".
+  /// Replaces the content by the lines of a text, separated by "\r\n" or "\n".
   void SetText(const std::string& text);
 
   /// Gathers the changes up to EndUpdate: OnChange runs once then, if there was any. Calls may be nested.
-  /// Many entries that are told of one by one take a time that grows with the square of their number.
+  /// Many entries that are reported one by one take a time that grows with the square of their number.
   void BeginUpdate() { ++updating_; }
+  /// Ends one BeginUpdate.
   void EndUpdate();
 
+  /// The strings in order.
   auto begin() const { return strings_.begin(); }
   auto end() const { return strings_.end(); }
 
   /// Runs after each change; set by the list's owner.
   std::function<void()> OnChange;
-  /// In OnChange: where the one string was put in, taken out or replaced; kManyChanges when it was not one.
-  std::size_t ChangedAt() const { return changed_at_; }
+  /// In OnChange: where the one string was inserted, removed or replaced; kManyChanges when it was not one.
+  std::size_t ChangedAt() const { return changedAt_; }
+  /// What ChangedAt gives for more than one string.
   static constexpr std::size_t kManyChanges = static_cast<std::size_t>(-1);
 
  private:
@@ -51,10 +59,10 @@ class TStrings {
   std::vector<std::string> strings_;
   int updating_ = 0;
   bool changed_ = false;  // since the last OnChange
-  std::size_t changed_at_ = kManyChanges;
+  std::size_t changedAt_ = kManyChanges;
 };
 
-/// Gathers the changes of a list to the end of its block.
+/// Gathers the changes of a list up to the end of its block.
 class TStringsUpdate {
  public:
   explicit TStringsUpdate(TStrings& strings) : strings_(strings) { strings_.BeginUpdate(); }

@@ -12,8 +12,8 @@ void TStringsModel::Update() {
   const std::size_t same = static_cast<std::size_t>(differ.first - shown_.begin());
   const auto head = static_cast<std::ptrdiff_t>(std::min(same, strings_.ChangedAt()));
   std::ptrdiff_t tail = 0;
-  const std::ptrdiff_t most = static_cast<std::ptrdiff_t>(std::min(shown_.size(), now.size())) - head;
-  while (tail < most && shown_.rbegin()[tail] == now.rbegin()[tail]) ++tail;
+  const std::ptrdiff_t max = static_cast<std::ptrdiff_t>(std::min(shown_.size(), now.size())) - head;
+  while (tail < max && shown_.rbegin()[tail] == now.rbegin()[tail]) ++tail;
   const std::ptrdiff_t gone = static_cast<std::ptrdiff_t>(shown_.size()) - head - tail;
   const std::ptrdiff_t come = static_cast<std::ptrdiff_t>(now.size()) - head - tail;
   const int first = static_cast<int>(head);

@@ -1,3 +1,5 @@
+// Pages of which one shows at a time, chosen by tabs, for forms with more than fits on one page. Closing,
+// moving and drawing tabs are not there.
 #pragma once
 
 #include <string>
@@ -19,15 +21,18 @@ class TTabSheet : public TWinControl {
   QWidget* FocusWidget() const override { return nullptr; }
 };
 
-/// Pages behind a row of tabs.
+/// Pages under a row of tabs.
 class TCustomTabControl : public TbsSkinControl {
   Q_OBJECT
 
  public:
+  /// Number of the pages.
   int PageCount() const;
+  /// A page by its place, from 0; std::out_of_range when there is none.
   TTabSheet* Pages(int index) const;
   /// Appends a page; the tab shows its caption.
   void AddPage(TTabSheet* page);
+  /// Place of the page that shows, -1: none.
   int ActivePageIndex() const;
   /// Shows a page; an index out of range changes nothing.
   void SetActivePageIndex(int index);
@@ -41,6 +46,7 @@ class TCustomTabControl : public TbsSkinControl {
   QTabWidget* Tabs() const;
 };
 
+/// The pages that a form holds.
 class TPageControl : public TCustomTabControl {
   Q_OBJECT
 

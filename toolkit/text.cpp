@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr qsizetype kLongestTip = 20000;  // characters; longer ones keep the user waiting
-constexpr qsizetype kLongestRun = 120;    // characters without a place to break
-constexpr QChar kBreak(0x200b);           // a blank of no width
+constexpr qsizetype kMaxTipLength = 20000;  // characters; longer ones keep the user waiting
+constexpr qsizetype kMaxRunLength = 120;    // characters without a place to break
+constexpr QChar kBreak(0x200b);             // a blank of no width
 
 }  // namespace
 
@@ -37,11 +37,11 @@ QString ToToolTip(std::string_view ansi) {
 
 QString ToolTipOf(QString text) {
   if (text.isEmpty()) return {};
-  if (text.size() > kLongestTip) text = text.first(kLongestTip) + QChar(0x2026);
+  if (text.size() > kMaxTipLength) text = text.first(kMaxTipLength) + QChar(0x2026);
   // A tip wraps at blanks alone, and what is then too wide for the screen would be cut there.
   for (qsizetype i = 0, run = 0; i < text.size(); ++i) {
     run = text[i].isSpace() ? 0 : run + 1;
-    if (run <= kLongestRun || text[i].isLowSurrogate()) continue;
+    if (run <= kMaxRunLength || text[i].isLowSurrogate()) continue;
     text.insert(i, kBreak);
     run = 0;
   }

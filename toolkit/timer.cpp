@@ -11,7 +11,7 @@ TTimer::TTimer(TComponent* owner) : TComponent(owner), timer_(new QTimer(this)) 
 
 void TTimer::Tick() {
   if (Application != nullptr && Application->Pumping()) {
-    // A queued call waits behind the same gate; one tick is made up for, however many fell due.
+    // A queued call waits for the end of the pumping, too; one tick is made up for, however many fell due.
     if (!late_) Application->QueueCall(this, [this] { late_ = false, Tick(); });
     late_ = true;
     return;

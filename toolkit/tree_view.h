@@ -1,3 +1,6 @@
+// Trees of texts and of records, for forms that show what depends on what. The user opens and closes nodes
+// and selects one; editing in place, pictures, check boxes and dragging of the original's trees are not
+// there.
 #pragma once
 
 #include <memory>
@@ -19,15 +22,18 @@ class TTreeNode : public TObject {
   Q_OBJECT
 
  public:
+  /// Text of the node.
   std::string Text() const { return text_; }
   void SetText(const std::string& text);
-  /// The nodes right below, in order.
+  /// Number of the nodes right below.
   int Count() const { return static_cast<int>(children_.size()); }
-  /// std::out_of_range when there is none.
+  /// A node right below by its place, from 0; std::out_of_range when there is none.
   TTreeNode* Items(int index) const { return children_.at(static_cast<std::size_t>(index)).get(); }
+  /// The node above, null for a root.
   TTreeNode* Parent() const { return parent_; }
+  /// Whether the nodes below show.
   bool Expanded() const;
-  /// Shows the nodes below, with recurse down to the last.
+  /// Shows the nodes right below, with recurse all nodes below.
   void Expand(bool recurse);
 
  protected:
@@ -47,15 +53,17 @@ class TCustomTreeView : public TbsSkinControl {
 
  public:
   ~TCustomTreeView() override;
-  /// The roots, in order.
+  /// Number of the roots.
   int RootCount() const { return static_cast<int>(roots_.size()); }
-  /// std::out_of_range when there is none.
+  /// A root by its place, from 0; std::out_of_range when there is none.
   TTreeNode* Roots(int index) const { return roots_.at(static_cast<std::size_t>(index)).get(); }
-  /// Appends a root (parent null) or a child.
+  /// Appends a root (parent null) or a child and returns it; the tree owns it.
   TTreeNode* Add(TTreeNode* parent, const std::string& text);
   /// The selected node, null: none.
   TTreeNode* Selected() const;
+  /// Deletes all nodes.
   void Clear();
+  /// Shows all nodes.
   void ExpandAll();
 
  protected:
@@ -74,6 +82,7 @@ class TKVXTreeNode : public TTreeNode {
 
  public:
   ~TKVXTreeNode() override;
+  /// The node's copy of its record.
   const corvane::Property& Data() const { return *data_; }
 
  private:
@@ -88,9 +97,9 @@ class TKVXTreeView : public TCustomTreeView {
 
  public:
   explicit TKVXTreeView(TComponent* owner) : TCustomTreeView(owner) {}
-  /// Empties the tree and makes its root from a record; options are kept by nobody and may be empty.
+  /// Empties the tree and makes its root from a record; options are not used and may be empty.
   TKVXTreeNode* CreateRoot(const corvane::Property& data, const corvane::Property& options);
-  /// The record node that stands behind a node of this tree, null when it has no record.
+  /// The same node as a record node, null when it has no record.
   TKVXTreeNode* AllocateDataNode(TTreeNode* node) const;
   /// Appends a child made from a record; a null parent appends it to the root, or makes the root.
   TKVXTreeNode* AddChildNode(TKVXTreeNode* parent, const corvane::Property& data,

@@ -1,3 +1,5 @@
+// The words that every class of the layer speaks: enumerations, virtual keys, narrow text and the shapes of
+// events. All other headers of the layer include it; it holds no class with behaviour.
 #pragma once
 
 #include <QObject>
@@ -10,15 +12,25 @@ using TObject = QObject;
 /// Narrow text: bytes in the process's ANSI code page.
 using AnsiString = std::string;
 
+/// Which edge of its parent a control takes.
 enum TAlign { alNone, alTop, alBottom, alLeft, alRight, alClient };
+/// Where a text is between its left and right edge.
 enum TAlignment { taLeftJustify, taRightJustify, taCenter };
+/// Where a text is between its upper and lower edge.
 enum TTextLayout { tlTop, tlCenter, tlBottom };
+/// A button of the mouse.
 enum TMouseButton { mbLeft, mbRight, mbMiddle };
+/// Which frame a form has: none, one of fixed size, one that the user can resize, a dialog's.
 enum TFormBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog };
+/// Whether a form stays above the other windows.
 enum TFormStyle { fsNormal, fsStayOnTop };
+/// Where a form opens.
 enum TPosition { poDesigned, poScreenCenter, poMainFormCenter, poOwnerFormCenter };
+/// What a control does with the input method.
 enum TImeMode { imDisable, imClose, imOpen, imDontCare };
+/// Direction of a scroll bar.
 enum TScrollBarKind { sbHorizontal, sbVertical };
+/// Which scroll bars a control may show.
 enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
 
 /// Results of a modal form; 0 while it is open, any other number ends the loop.
@@ -34,9 +46,12 @@ enum TShiftFlag {
   ssMiddle = 32,
   ssDouble = 64
 };
+/// A set of keys and buttons that are down.
 class TShiftState {
  public:
+  /// None is down.
   TShiftState() = default;
+  /// flags: TShiftFlags joined with |.
   explicit TShiftState(unsigned flags) : flags_(flags) {}
   /// Whether the key or button is down.
   bool Contains(TShiftFlag flag) const { return (flags_ & flag) != 0; }
@@ -67,6 +82,7 @@ enum TVirtualKey : std::uint16_t {
   VK_F1 = 0x70
 };
 
+/// An event without further arguments.
 using TNotifyEvent = std::function<void(TObject* sender)>;
 /// A key went down; a handler that sets the key to 0 swallows it.
 using TKeyEvent = std::function<void(TObject* sender, std::uint16_t& key, TShiftState shift)>;

@@ -41,7 +41,7 @@ void TWinControl::TabOrderList(std::vector<TWinControl*>& list) const {
     if (auto* windowed = qobject_cast<TWinControl*>(control)) inside.push_back(windowed);
   }
   const auto place = [](const TWinControl* control) {
-    return control->tab_order_ < 0 ? std::numeric_limits<int>::max() : control->tab_order_;
+    return control->tabOrder_ < 0 ? std::numeric_limits<int>::max() : control->tabOrder_;
   };
   std::ranges::stable_sort(inside, {}, place);
   for (TWinControl* control : inside) {
@@ -58,7 +58,7 @@ bool TWinControl::SelectNext(TWinControl* current, bool forward, bool tabStopsOn
   if (here != list.end()) std::rotate(list.begin(), here + 1, list.end());
   for (TWinControl* control : list) {
     if (control == current || !control->CanFocus()) continue;
-    if (tabStopsOnly ? !control->tab_stop_ : control->Parent() != this) continue;
+    if (tabStopsOnly ? !control->tabStop_ : control->Parent() != this) continue;
     control->SetFocus();
     return true;
   }
@@ -66,15 +66,15 @@ bool TWinControl::SelectNext(TWinControl* current, bool forward, bool tabStopsOn
 }
 
 void TWinControl::SetImeMode(int mode) {
-  ime_mode_ = mode;
+  imeMode_ = mode;
   if (QWidget* widget = FocusWidget()) widget->setAttribute(Qt::WA_InputMethodEnabled, mode != imDisable);
 }
 
 QString TWinControl::PublishedImeName() const {
-  return ToQt(ime_name_);
+  return ToQt(imeName_);
 }
 void TWinControl::SetPublishedImeName(const QString& name) {
-  ime_name_ = FromQt(name);
+  imeName_ = FromQt(name);
 }
 
 bool TWinControl::WidgetEvent(QWidget* widget, QEvent* event) {
@@ -159,6 +159,6 @@ void TWinControl::AlignControls() {
 }
 
 void TbsSkinControl::SetUseSkinFontColor(bool use) {
-  use_skin_font_color_ = use;
+  useSkinFontColor_ = use;
   FontChanged();
 }

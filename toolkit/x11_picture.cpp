@@ -12,7 +12,7 @@
 namespace norvik {
 namespace {
 
-constexpr int kLargestSide = 32767;
+constexpr int kMaxSide = 32767;
 
 struct Free {
   void operator()(void* reply) const { std::free(reply); }
@@ -20,12 +20,12 @@ struct Free {
 template <class T>
 using Reply = std::unique_ptr<T, Free>;
 
-// The window system's process number on the window: it tells a window of ours from one that bears the same
-// number on another display.
+// The window system's process number on the window: it distinguishes a window of ours from one that bears the
+// same number on another display.
 bool BelongsToThisProcess(xcb_connection_t* connection, xcb_window_t window) {
-  constexpr std::string_view name = "_NET_WM_PID";
+  constexpr std::string_view kName = "_NET_WM_PID";
   const Reply<xcb_intern_atom_reply_t> atom(
-      xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, name.size(), name.data()), nullptr));
+      xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, kName.size(), kName.data()), nullptr));
   if (!atom || atom->atom == XCB_ATOM_NONE) return false;
   const auto cookie = xcb_get_property(connection, 0, window, atom->atom, XCB_ATOM_CARDINAL, 0, 1);
   const Reply<xcb_get_property_reply_t> property(xcb_get_property_reply(connection, cookie, nullptr));
@@ -72,7 +72,7 @@ void StorePixel(std::uint8_t* at, std::uint32_t value, unsigned bytes, bool lowB
 }
 
 QImage Flatten(const QImage& image) {
-  QImage flat(image.size().boundedTo(QSize(kLargestSide, kLargestSide)), QImage::Format_RGB32);
+  QImage flat(image.size().boundedTo(QSize(kMaxSide, kMaxSide)), QImage::Format_RGB32);
   flat.fill(Qt::white);
   QImage plain = image;
   plain.setDevicePixelRatio(1);
