@@ -191,7 +191,7 @@ TEST_F(ControlTest, WhatABoundControlWasGivenForItselfStays) {
   EXPECT_TRUE(form->m_crbTick->Checked());
 }
 
-TEST_F(ControlTest, OnClickGoesBeforeTheAction) {
+TEST_F(ControlTest, OnClickRunsInPlaceOfTheAction) {
   auto* action = NewComponent<TAction>(form, "m_act");
   std::string seen;
   action->OnExecute = [&](TObject*) { seen += "action "; };
@@ -205,9 +205,10 @@ TEST_F(ControlTest, OnClickGoesBeforeTheAction) {
 TEST_F(ControlTest, AlignedControlsShareTheClientArea) {
   auto* box = NewComponent<TPanel>(form, "m_box");
   TPanel* parts[5];
+  const char* const names[] = {"client", "top", "left", "bottom", "right"};
   const TAlign aligns[] = {alClient, alTop, alLeft, alBottom, alRight};
   for (int i = 0; i < 5; ++i) {
-    parts[i] = NewComponent<TPanel>(form, ("m_part" + std::to_string(i)).c_str());
+    parts[i] = NewComponent<TPanel>(form, names[i]);
     parts[i]->SetParent(box);
     parts[i]->SetAlign(aligns[i]);
     parts[i]->SetWidth(10);
@@ -219,7 +220,7 @@ TEST_F(ControlTest, AlignedControlsShareTheClientArea) {
   QApplication::processEvents();
   const QRect expected[] = {
       {10, 10, 80, 60}, {0, 0, 100, 10}, {0, 10, 10, 60}, {0, 70, 100, 10}, {90, 10, 10, 60}};
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(parts[i]->Widget()->geometry(), expected[i]) << i;
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(parts[i]->Widget()->geometry(), expected[i]) << parts[i]->Name();
   parts[1]->SetVisible(false);
   EXPECT_EQ(parts[0]->Widget()->geometry(), QRect(10, 0, 80, 70));
 }

@@ -129,14 +129,17 @@ TEST(Conversion, TimesAndTheStepOverMidnight) {
   EXPECT_EQ(DateTimeToStr(IncSecond(last)), "2016-01-01 00:00:00");
   EXPECT_EQ(DateTimeToStr(IncSecond(EncodeDate(2016, 1, 1), -1)), "2015-12-31 23:59:59");
   const int bad[][4] = {{24, 0, 0, 0}, {0, 60, 0, 0}, {0, 0, 60, 0}, {0, 0, 0, 1000}, {-1, 0, 0, 0}};
-  for (const auto& time : bad) EXPECT_THROW(EncodeTime(time[0], time[1], time[2], time[3]), EConvertError);
-  // Every second of a day survives the way through the fraction.
+  for (const auto& time : bad) {
+    EXPECT_THROW(EncodeTime(time[0], time[1], time[2], time[3]), EConvertError)
+        << time[0] << ':' << time[1] << ':' << time[2] << '.' << time[3];
+  }
+  // Every second of a day is kept by the fraction.
   for (int second = 0; second < 86400; ++second) {
     int h = 0, m = 0, s = 0, ms = 0;
     DecodeTime(EncodeDate(2026, 6, 30) + EncodeTime(second / 3600, second / 60 % 60, second % 60), h, m, s,
                ms);
     ASSERT_EQ((h * 60 + m) * 60 + s, second);
-    ASSERT_EQ(ms, 0);
+    ASSERT_EQ(ms, 0) << second;
   }
 }
 
@@ -152,7 +155,7 @@ TEST(Conversion, Patterns) {
                         {"yyyymmddhhnnss", "20260307040506"},
                         {"yy/m/d", "26/3/7"},
                         {"hh:mm", "04:05"}};
-  for (const Case& row : cases) EXPECT_EQ(FormatDateTime(row.pattern, value), row.expected);
+  for (const Case& row : cases) EXPECT_EQ(FormatDateTime(row.pattern, value), row.expected) << row.pattern;
   int year = 0, month = 0, day = 0;
   DecodeDate(Now(), year, month, day);
   EXPECT_GE(year, 2024);

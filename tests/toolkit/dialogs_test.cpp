@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* kFilter = "Excel文件(*.xls)|*.xls|文本文件(*.txt)|*.txt|XML文件(*.xml)|*.xml";
 
-/// Plays the user: picks a filter by its place from 1 (0: none), types a name, and accepts or leaves.
+// Plays the user: picks a filter by its place from 1 (0: none), types a name, and accepts or leaves.
 bool Play(TSaveDialog* dialog, int filter, const QString& name, bool accept) {
   QTimer::singleShot(0, dialog, [=] {
     auto* shown = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());

@@ -14,7 +14,7 @@ using Log = std::vector<std::string>;
 
 namespace {
 
-/// The forms go before what they write to.
+// The forms go before what they write to.
 class FormTest : public testing::Test {
  protected:
   void TearDown() override { DestroyApplication(); }
@@ -32,7 +32,7 @@ TEST_F(FormTest, IsMadeInStepsAndDestroyedAfterItsHandler) {
   EXPECT_EQ(Screen->FormCount(), 0);
 }
 
-TEST_F(FormTest, AFailingStepDeletesItAndGoesUp) {
+TEST_F(FormTest, AFailingStepDeletesItAndIsPassedOn) {
   EXPECT_THROW(CreateForm<TLoggedForm>(Application, &log, true), std::runtime_error);
   EXPECT_EQ(log.back(), "Construct");
   EXPECT_EQ(Screen->FormCount(), 0);

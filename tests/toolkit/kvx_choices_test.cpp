@@ -107,7 +107,7 @@ TEST_F(KvxChoicesTest, OfEqualTextsTheChosenOneStaysChosen) {
   }
 }
 
-TEST_F(KvxChoicesTest, ALongEntryIsShownWholeInItsHint) {
+TEST_F(KvxChoicesTest, ALongEntryIsShownCompleteInItsHint) {
   combo->Items().Add(std::string(200, 'a') + "<b>");
   combo->SetItemIndex(0);
   EXPECT_LT(box->sizeHint().width(), 300);
@@ -218,7 +218,7 @@ TEST_F(KvxChoicesTest, RadioItemsHaveTheGroupsFontWheneverTheyCome) {
 TEST_F(KvxChoicesTest, AButtonThatTheMousePressesMovesTheFocusToItsRadioGroup) {
   auto* before = Put<TEdit>("m_edNo");
   auto* group = Put<TbsSkinRadioGroup>("m_rgSelDate");
-  auto* behind = Put<TEdit>("m_edLast");
+  auto* after = Put<TEdit>("m_edLast");
   group->Items().Assign({"at once", "scheduled"});
   group->SetItemIndex(0);
   ASSERT_TRUE(QTest::qWaitForWindowActive(form->Widget()));
@@ -229,5 +229,5 @@ TEST_F(KvxChoicesTest, AButtonThatTheMousePressesMovesTheFocusToItsRadioGroup) {
   EXPECT_EQ(group->ItemIndex(), 1);
   EXPECT_EQ(form->ActiveControl(), group);
   QTest::keyClick(scheduled, Qt::Key_Tab);
-  EXPECT_EQ(form->ActiveControl(), behind);
+  EXPECT_EQ(form->ActiveControl(), after);
 }

@@ -1,3 +1,5 @@
+// What the tests of single controls share: a shown form that takes them, and the operator's clipboard. It
+// asserts nothing.
 #pragma once
 
 #include <gtest/gtest.h>

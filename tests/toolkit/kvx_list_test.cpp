@@ -8,6 +8,7 @@
 #include "data/list.h"
 #include "data/string_vector.h"
 #include "tests/toolkit/kvx_fixture.h"
+#include "toolkit/decimal_text.h"
 #include "toolkit/kvx_list_view.h"
 #include "toolkit/layout.h"
 #include "toolkit/menu.h"
@@ -37,19 +38,19 @@ class KvxListTest : public KvxTest {
     ASSERT_NE(view, nullptr);
     list->SetCheckboxes(true);
     list->SetRowSelect(true);
-    AddColumn("BILLNUM", 120, 0);
-    AddColumn("PAYAMT", 100, 2);
-    AddColumn("SECRET", 0, 0);
-    AddColumn("STATE", 80, 5);
+    AddColumn("BILLNUM", 120, cfText);
+    AddColumn("PAYAMT", 100, cfAmount);
+    AddColumn("SECRET", 0, cfText);
+    AddColumn("STATE", 80, cfRightText);
   }
 
-  TListColumn* AddColumn(const char* id, int width, int tag) {
+  TListColumn* AddColumn(const char* id, int width, TColumnFormat format) {
     TListColumn* column = list->Columns().Add();
     list->ColumnIds().push_back(id);
     column->SetCaption(std::string("caption of ") + id);
     column->SetWidth(width);
     if (width == 0) column->SetMaxWidth(1);
-    column->SetTag(tag);
+    column->SetTag(format);
     return column;
   }
 
@@ -106,33 +107,33 @@ TEST_F(KvxListTest, ShowsRecordsByTheColumnIds) {
 
 TEST_F(KvxListTest, FormatsCellsAndLeavesTheRecord) {
   struct Case {
-    int tag;
+    TColumnFormat format;
     const char* text;
     const char* shown;
   };
   const Case cases[] = {
-      {2, "1234567.5", "1,234,567.50"},
-      {2, "-1000", "-1,000.00"},
-      {2, "999", "999.00"},
-      {2, "0.129", "0.12"},
-      {2, "1,234.5", "1,234.50"},
-      {2, "-.5", "-0.50"},
-      {2, "", ""},
-      {2, "n/a", "n/a"},
-      {2, "1.2.3", "1.2.3"},
-      {2, "1e5", "1e5"},
-      {2, ",1", ",1"},
-      {4, "1234567", "1,234,567"},
-      {4, "-1234.567", "-1,234.567"},
-      {4, "12 pieces", "12 pieces"},
-      {5, "4.35%", "4.35%"},
-      {0, "1234567.5", "1234567.5"},
-      {100, "1234", "1234"},
+      {cfAmount, "1234567.5", "1,234,567.50"},
+      {cfAmount, "-1000", "-1,000.00"},
+      {cfAmount, "999", "999.00"},
+      {cfAmount, "0.129", "0.12"},
+      {cfAmount, "1,234.5", "1,234.50"},
+      {cfAmount, "-.5", "-0.50"},
+      {cfAmount, "", ""},
+      {cfAmount, "n/a", "n/a"},
+      {cfAmount, "1.2.3", "1.2.3"},
+      {cfAmount, "1e5", "1e5"},
+      {cfAmount, ",1", ",1"},
+      {cfNumber, "1234567", "1,234,567"},
+      {cfNumber, "-1234.567", "-1,234.567"},
+      {cfNumber, "12 pieces", "12 pieces"},
+      {cfRightText, "4.35%", "4.35%"},
+      {cfText, "1234567.5", "1234567.5"},
+      {cfInternal, "1234", "1234"},
   };
   Fill(1);
   for (const Case& row : cases) {
-    SCOPED_TRACE(row.text);
-    list->Columns()[1]->SetTag(row.tag);
+    SCOPED_TRACE(std::string(row.text) + " in format " + std::to_string(row.format));
+    list->Columns()[1]->SetTag(row.format);
     list->Items()[0]->SetSubItems(0, row.text);
     EXPECT_EQ(Cell(0, 1), row.shown);
     EXPECT_EQ(list->PropertyOf(list->Items()[0])->getValue("PAYAMT"), row.text);
@@ -148,7 +149,8 @@ TEST_F(KvxListTest, AlignsAndColours) {
   list->Columns()[0]->SetAlignment(taCenter);
   EXPECT_TRUE(alignment(1).testFlag(Qt::AlignRight));
   EXPECT_TRUE(alignment(0).testFlag(Qt::AlignHCenter));
-  EXPECT_TRUE(alignment(3).testFlag(Qt::AlignRight)) << "a rate stands right whatever the column says";
+  EXPECT_TRUE(alignment(3).testFlag(Qt::AlignRight))
+      << "a rate is at the right edge whatever the column says";
   const QModelIndex cell = view->model()->index(0, 0);
   EXPECT_FALSE(cell.data(Qt::ForegroundRole).isValid());
   (*list->PropertyOf(list->Items()[0]))["Color"] = "255";
@@ -215,7 +217,7 @@ TEST_F(KvxListTest, ReportsTheMouseAndTheKeys) {
   EXPECT_EQ(log, "downB0 click rightB1 double downB1 down- click  ");
 }
 
-TEST_F(KvxListTest, TellsWhatIsSelected) {
+TEST_F(KvxListTest, ReportsWhatIsSelected) {
   Fill(3);
   std::string log;
   list->OnSelectItem = [&](TObject*, TListItem* item, bool selected) {
@@ -278,7 +280,7 @@ TEST_F(KvxListTest, GivesTheRecordsBack) {
   list->Items()[2]->SetChecked(true);
   (*list->PropertyOf(list->Items()[2]))["Reason"] = "ET1";
   corvane::List rows;
-  list->GetDataVector(rows, 2);
+  list->GetDataVector(rows, dvChecked);
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[1].getValue("Reason"), "ET1");
   EXPECT_TRUE(rows[0].hasField("Reason")) << "rows of a list have equal columns";
@@ -313,46 +315,46 @@ TEST_F(KvxListTest, SumsAreExact) {
 }
 
 TEST_F(KvxListTest, CountsTheTickedRowsByKind) {
-  const auto counts = [&] {
-    return std::to_string(list->CheckedCount()) + ":" + std::to_string(list->CheckedCount(0)) + "," +
-           std::to_string(list->CheckedCount(7));
+  const auto ticked = [&] {
+    return std::to_string(list->CheckedCount()) + " ticked, " + std::to_string(list->CheckedCount(0)) +
+           " early, " + std::to_string(list->CheckedCount(7)) + " late";
   };
   Fill(5);
   list->Items()[0]->SetChecked(true);
-  EXPECT_EQ(counts(), "1:0,0");
-  // Kind 0: the first three rows; kind 7: the third one and on.
+  EXPECT_EQ(ticked(), "1 ticked, 0 early, 0 late");
+  // Kind 0, early: the first three rows; kind 7, late: the third one and those after it.
   int asked = 0;
   list->SetKinds([&](const corvane::Property& record) {
     ++asked;
     const char number = record.getValue("BILLNUM").at(1);
     return static_cast<std::uint8_t>((number <= '2' ? 0x01 : 0) | (number >= '2' ? 0x80 : 0));
   });
-  EXPECT_EQ(counts(), "1:1,0");
+  EXPECT_EQ(ticked(), "1 ticked, 1 early, 0 late");
   EXPECT_EQ(asked, 1);
   list->CheckAll();
-  EXPECT_EQ(counts(), "5:3,3");
+  EXPECT_EQ(ticked(), "5 ticked, 3 early, 3 late");
   list->CheckAll();
   list->UnCheckAll();
-  EXPECT_EQ(counts(), "0:0,0");
+  EXPECT_EQ(ticked(), "0 ticked, 0 early, 0 late");
   list->CheckAll();
   EXPECT_EQ(asked, 5);
   list->Modify(corvane::Property(Bill(4, "1")), list->ColumnIds(), list->Items()[0]);
-  EXPECT_EQ(counts(), "5:2,4");
+  EXPECT_EQ(ticked(), "5 ticked, 2 early, 4 late");
   list->Items()[1]->SetCaption("B9");
-  EXPECT_EQ(counts(), "5:1,5");
+  EXPECT_EQ(ticked(), "5 ticked, 1 early, 5 late");
   (*list->PropertyOf(list->Items()[4]))["BILLNUM"] = "B0";
   list->RefreshItem(list->Items()[4]);
-  EXPECT_EQ(counts(), "5:2,4");
+  EXPECT_EQ(ticked(), "5 ticked, 2 early, 4 late");
   list->DelItem(0);
-  EXPECT_EQ(counts(), "4:2,3");
+  EXPECT_EQ(ticked(), "4 ticked, 2 early, 3 late");
   list->DelItems({0, 3});
-  EXPECT_EQ(counts(), "2:1,2");
+  EXPECT_EQ(ticked(), "2 ticked, 1 early, 2 late");
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Box(0));
-  EXPECT_EQ(counts(), "1:0,1");
+  EXPECT_EQ(ticked(), "1 ticked, 0 early, 1 late");
   list->Clear();
-  EXPECT_EQ(counts(), "0:0,0");
+  EXPECT_EQ(ticked(), "0 ticked, 0 early, 0 late");
   Fill(1);
-  EXPECT_EQ(counts(), "0:0,0");
+  EXPECT_EQ(ticked(), "0 ticked, 0 early, 0 late");
 }
 
 TEST_F(KvxListTest, TheUserWidensAndMovesColumns) {

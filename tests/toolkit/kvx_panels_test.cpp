@@ -69,7 +69,7 @@ TEST_F(KvxPanelTest, KeepsAHeightThatWasSetForTheOpenPanel) {
 }
 
 TEST_F(KvxPanelTest, RollsByTheKeyboard) {
-  EXPECT_EQ(form->ActiveControl(), edit) << "the user starts behind the header";
+  EXPECT_EQ(form->ActiveControl(), edit) << "the user starts after the header";
   panel->SetFocus();
   QTest::keyClick(header, Qt::Key_Return);
   EXPECT_TRUE(panel->RollState());
@@ -116,7 +116,7 @@ TEST_F(KvxTest, CalendarShowsAllWeeks) {
   EXPECT_LE(days->rowViewportPosition(last) + days->rowHeight(last), days->viewport()->height());
 }
 
-TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
+TEST_F(KvxTest, CalendarReportsTheUsersDayOnly) {
   auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
   auto* view = form->Widget()->findChild<QCalendarWidget*>("m_MonthCalendar");
   ASSERT_NE(view, nullptr);
@@ -138,7 +138,7 @@ TEST_F(KvxTest, CalendarTellsTheUsersDayOnly) {
 
 namespace {
 
-/// A desktop that activates entries by one click, or by two.
+// A desktop that activates entries by one click, or by two.
 class DesktopStyle : public QProxyStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -192,7 +192,7 @@ TEST_F(KvxTest, TheFormSeesTheCalendarsKeysFirst) {
   EXPECT_EQ(calendar->Date(), EncodeDate(2016, 2, 29));
 }
 
-TEST_F(KvxTest, ACalendarShowsTheWholeWeekWhateverRoomASkinGivesHeadings) {
+TEST_F(KvxTest, ACalendarShowsTheFullWeekWhateverRoomASkinGivesHeadings) {
   auto* calendar = Put<TMonthCalendar>("m_MonthCalendar");
   form->Widget()->setStyleSheet("QHeaderView::section { padding: 9px 16px; font-weight: bold; }");
   calendar->Widget()->resize(calendar->Widget()->minimumSizeHint());

@@ -73,7 +73,7 @@ TEST_F(LayoutTest, LayoutsNestAndHiddenControlsTakeNoRoom) {
   EXPECT_EQ(parts[1]->Widget()->geometry(), QRect(0, 0, 200, 50));
 }
 
-TEST_F(LayoutTest, AFieldStandsBehindItsLabelAndGrowsWithTheFont) {
+TEST_F(LayoutTest, AFieldFollowsItsLabelAndGrowsWithTheFont) {
   TLabel* label = NewComponent<TLabel>(form, "m_lbNo");
   TLabel* star = NewComponent<TLabel>(form, "m_lbStar");
   auto* edit = NewComponent<TEdit>(form, "m_edNo");
@@ -106,7 +106,7 @@ TEST_F(LayoutTest, ABoxGrowsAndShrinksWithTheFont) {
   }
 }
 
-TEST_F(LayoutTest, ANewLayoutTakesThePlaceOfTheOldOne) {
+TEST_F(LayoutTest, ANewLayoutReplacesTheOldOne) {
   TPanel* part = Part("part");
   {
     TRowLayout row(box);

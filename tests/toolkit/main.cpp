@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Each case gets an application of its own, and leaves no form behind.
+// Each case gets an application of its own, which ends with all its forms.
 class FreshApplication : public testing::EmptyTestEventListener {
   void OnTestStart(const testing::TestInfo&) override { CreateApplication(); }
   void OnTestEnd(const testing::TestInfo&) override { DestroyApplication(); }

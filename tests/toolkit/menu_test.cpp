@@ -61,7 +61,7 @@ TEST_F(MenuTest, OpensAsAMenuOfQtWithItsVisibleEntries) {
   menu->Close();
 }
 
-TEST_F(MenuTest, AClickTurnsTheCheckRoundBeforeItsHandlerRuns) {
+TEST_F(MenuTest, AClickInvertsTheCheckBeforeItsHandlerRuns) {
   TMenuItem* item = Add("column");
   item->SetAutoCheck(true);
   item->SetTag(7);

@@ -35,7 +35,7 @@ TEST(Skin, ALoadedSkinShowsOnTheFormNowAndLater) {
   EXPECT_TRUE(data->LoadFromCompressedFile(green));
   EXPECT_EQ(colour(), "#00ff00");
   form->m_lbText->Font()->SetColor(clRed);
-  EXPECT_EQ(colour(), "#ff0000") << "a colour of the font's own goes before the skin";
+  EXPECT_EQ(colour(), "#ff0000") << "the font's own colour takes precedence over the skin";
 }
 
 TEST(Skin, AFileThatIsNoSkinChangesNothing) {

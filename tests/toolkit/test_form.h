@@ -1,3 +1,5 @@
+// The form that the tests of forms and controls open: a few controls in a known order, and a log of the steps
+// and events. It asserts nothing.
 #pragma once
 
 #include <functional>
@@ -40,7 +42,7 @@ class TTestForm : public TForm {
   void SetCaptions() override { Log("SetCaptions"); }
   void Construct() override {
     Log("Construct");
-    if (fail_) throw std::runtime_error("construction failed");
+    if (failing) throw std::runtime_error("construction failed");
   }
   void FormDestroy() override {
     Log("FormDestroy");
@@ -53,11 +55,11 @@ class TTestForm : public TForm {
   }
 
   void Log(const std::string& event) {
-    if (log_ != nullptr) log_->push_back(event);
+    if (events != nullptr) events->push_back(event);
   }
 
-  std::vector<std::string>* log_ = nullptr;
-  bool fail_ = false;
+  std::vector<std::string>* events = nullptr;
+  bool failing = false;
   TbsSkinPanel* m_pnTop = nullptr;
   TLabel* m_lbText = nullptr;
   TbsSkinButton* m_btnFirst = nullptr;
@@ -72,7 +74,7 @@ class TLoggedForm : public TTestForm {
 
  public:
   TLoggedForm(TComponent* owner, std::vector<std::string>* log, bool fail = false) : TTestForm(owner) {
-    log_ = log;
-    fail_ = fail;
+    events = log;
+    failing = fail;
   }
 };

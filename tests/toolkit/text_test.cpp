@@ -10,12 +10,12 @@ TEST(Text, IsTrimmedOfBlanksAndControlCharactersOnly) {
   const char* cases[][2] = {{"", ""},         {"  a b \r\n", "a b"},    {"\t\x01", ""},
                             {"a", "a"},       {"\xA1\xA1", "\xA1\xA1"}, {" \xD6\x20", "\xD6"},
                             {"\x7F ", "\x7F"}};
-  for (const auto& row : cases) EXPECT_EQ(Trim(row[0]), row[1]);
+  for (const auto& row : cases) EXPECT_EQ(Trim(row[0]), row[1]) << '"' << row[0] << '"';
 }
 
 TEST(Text, CrossesTheEdgeAndComesBack) {
   for (const char* text : {"", "abc", "\xD5\xCB\xBA\xC5", "\x80", "a\xFF", "a\xB1\\b"})
-    EXPECT_EQ(FromQt(ToQt(text)), text);
+    EXPECT_EQ(FromQt(ToQt(text)), text) << text;
   EXPECT_EQ(FromQt(QString::fromUtf8("\xF0\x9F\x98\x80")), "?");
   EXPECT_EQ(ToQt("a\xD5"), QString::fromUtf8("a\xEF\xBF\xBD"));
 }
@@ -34,7 +34,7 @@ TEST(Text, AToolTipOfAnyLengthStaysOnTheScreen) {
   EXPECT_LT(ToToolTip(std::string(2000000, 'a')).size(), 25000);
 }
 
-TEST(Strings, TellTheirOwnerOfEachChange) {
+TEST(Strings, ReportEachChangeToTheirOwner) {
   TStrings strings;
   int changes = 0;
   strings.OnChange = [&] { ++changes; };

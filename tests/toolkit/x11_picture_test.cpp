@@ -31,7 +31,7 @@ TEST(X11Picture, PixelsTakeTheServersForm) {
       {"5-6-5", With(16, 16, true, 0xf800, 0x7e0, 0x1f), qRgb(0xff, 0x04, 0x08), {0x21, 0xf8, 0, 0}},
       {"5-6-5 high first", With(16, 16, false, 0xf800, 0x7e0, 0x1f), qRgb(0xff, 4, 8), {0xf8, 0x21, 0, 0}},
       {"ten bits", With(30, 32, true, 0x3ff00000, 0xffc00, 0x3ff), qRgb(0, 0, 0xff), {0xfc, 0x03, 0, 0}},
-      {"see-through lies on white", kTrueColour, qRgba(0, 0, 0, 0), {0xff, 0xff, 0xff, 0}},
+      {"a translucent pixel is mixed with white", kTrueColour, qRgba(0, 0, 0, 0), {0xff, 0xff, 0xff, 0}},
   };
   for (const auto& row : cases) {
     QImage image(1, 2, QImage::Format_ARGB32);
