@@ -19,8 +19,8 @@ struct TApplication::QueuedCall {
 
 namespace {
 
-// A child of the host's main window, older than the forms' windows there: it goes before them, and they can
-// be saved.
+// A child of the host's main window, older than the forms' windows there: it is deleted before them, and they
+// can be taken out in time.
 class Anchor : public QObject {
  public:
   Anchor(QObject* main, std::function<void()> gone) : QObject(main), gone_(std::move(gone)) {}
@@ -140,7 +140,7 @@ std::vector<QPointer<TForm>> TApplication::FormsNewestFirst() const {
 }
 
 void TApplication::CloseAll(const std::vector<TForm*>& first) {
-  // The host that calls this from within the second time has heard all that there is to hear.
+  // A second call, from within the first, runs the handlers that are left; a third has nothing to add.
   if (closing_ > 1) return;
   const TLifeScope scope(this);
   ++closing_;

@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int kShortestInterval = 10;  // milliseconds
+constexpr int kMinInterval = 10;  // milliseconds
 
-// The connection that the toolkit speaks to its X server through, null where it does not run on X11.
+// The connection of Qt to its X server, null where it does not run on X11.
 xcb_connection_t* ToolkitConnection() {
   if (qGuiApp == nullptr) return nullptr;
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
@@ -36,7 +36,7 @@ class TBusyPainter::Worker {
       : window_(window),
         display_(qgetenv("DISPLAY")),
         frames_(std::move(frames)),
-        interval_(std::max(interval, kShortestInterval)),
+        interval_(std::max(interval, kMinInterval)),
         thread_([this] { Run(); }) {}
 
   ~Worker() {

@@ -202,7 +202,7 @@ bool TControl::eventFilter(QObject* watched, QEvent* event) {
   if (HasEnded(life)) return false;
   const TLifeScope scope(life);
   const QPointer<QObject> kept(watched);
-  // Qt goes on to the widget itself, which a handler may have cost its life.
+  // Qt goes on to the widget itself, which a handler may have deleted.
   return WidgetEvent(static_cast<QWidget*>(watched), event) || !kept || HasEnded(life);
 }
 

@@ -147,7 +147,7 @@ void TForm::OpenWindow() {
   if (activeControl_) {
     activeControl_->SetFocus();
   } else {
-    // The user starts on the first condition; the header of a roll-up panel before it is a step back.
+    // The user starts on the first condition, not on the header of the roll-up panel around it.
     SelectNext(nullptr, true, true);
     if (activeControl_ && activeControl_->HeadsOthers()) SelectNext(activeControl_, true, true);
   }
@@ -297,7 +297,7 @@ bool TForm::PressDialogButton(std::uint16_t key, TShiftState shift, bool control
   if (shift.Contains(ssShift) || shift.Contains(ssCtrl) || shift.Contains(ssAlt)) return false;
   TWinControl* button = nullptr;
   if (key == VK_RETURN && !controlWantsReturn) {
-    // A focused button is the one that Return means, whichever is marked as default.
+    // Return presses the button that has the focus, whichever is marked as default.
     const bool onButton = defaultButton_ && activeControl_ && activeControl_->IsButton();
     button = onButton ? activeControl_ : defaultButton_;
   }
@@ -321,7 +321,7 @@ void TForm::LoseParent() {
   CloseChildWindows();
   if (loop_ != nullptr) SetModalResult(modalResult_ == mrNone ? mrCancel : modalResult_);
   Hide();
-  // A form's window in another form's goes with that one.
+  // The window of a form that another form owns leaves the parent with that one.
   if (qobject_cast<TForm*>(Owner()) == nullptr) Widget()->setParent(nullptr, Widget()->windowFlags());
 }
 

@@ -8,8 +8,9 @@
 #include "data/string_vector.h"
 #include "toolkit/strings_model.h"
 
-// Qt's own rule turns round each entry that a typed text finds and each one that a drag passes. Here the
-// space key alone does, and the click, which Qt reports only where no drag has left the entry.
+// Qt's own rule inverts the selection of each entry that a typed text finds and of each one that a drag
+// passes. Here only the space key does, and the click, which Qt reports only where no drag has left the
+// entry.
 class TKVXCustomListBox::View : public QListView {
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&,

@@ -14,13 +14,13 @@
 
 static constexpr int kRowRoom = 6;
 static constexpr int kTextRoom = 4;
-// Left and right of a caption together.
+// Pixels to the left and right of a caption together.
 static constexpr int kCaptionRoom = 14;
 static constexpr int kMinRows = 3;
 
 namespace {
 
-// Ends a caption that is cut in "...": a skin would take letters off both its ends.
+// A caption that is too long is cut at its end with "...": a skin would cut both its ends.
 class ListHeader : public QHeaderView {
  public:
   explicit ListHeader(QWidget* tree) : QHeaderView(Qt::Horizontal, tree) {

@@ -23,7 +23,7 @@ void SetSkinRole(QWidget* widget, const char* role) {
   widget->setProperty("skin", QString::fromLatin1(role));
 }
 
-// A column without room of its own round or between its parts.
+// A column without space around or between its parts.
 QVBoxLayout* BareColumn(QWidget* widget) {
   auto* column = new QVBoxLayout(widget);
   column->setContentsMargins(0, 0, 0, 0);

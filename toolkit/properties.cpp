@@ -8,8 +8,7 @@
 
 namespace {
 
-// The property of a name, looked for from the layer's first class on: Qt's own properties of a QObject come
-// before.
+// The property of a name; those of QObject itself, which come first in the meta-object, are left out.
 QMetaProperty Find(const TObject* object, const char* name) {
   if (object == nullptr) return {};
   const QMetaObject* meta = object->metaObject();

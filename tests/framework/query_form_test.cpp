@@ -14,10 +14,10 @@
 #include "toolkit/action.h"
 #include "toolkit/application.h"
 #include "toolkit/buttons.h"
-#include "toolkit/dialogs.h"
 #include "toolkit/kvx_list_view.h"
 #include "toolkit/menu.h"
 #include "toolkit/panels.h"
+#include "toolkit/save_dialog.h"
 
 using fakehost::Library;
 

@@ -1,4 +1,4 @@
-#include "toolkit/dialogs.h"
+#include "toolkit/save_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolkit/dialogs.h"
+#include "toolkit/save_dialog.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,7 +28,7 @@ QStringList NameFilters(const QString& filter) {
   return names;
 }
 
-// What a file is is taken from its name: a look into the file could wait for ever where reading it waits.
+// The type of a file is taken from its name: looking into a file could wait for ever, as in a pipe.
 class NamedFiles : public QFileIconProvider {
  public:
   using QFileIconProvider::icon;
