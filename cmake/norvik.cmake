@@ -1,32 +1,27 @@
-# Compiler settings that hold for every target of ours.
+# Compiler settings that hold for every target of ours. A warning is an error here, but not in a project that takes this
+# one in.
 add_library(norvik_settings INTERFACE)
-target_compile_options(norvik_settings INTERFACE -Wall -Wextra -Wconversion -Werror)
+target_compile_options(norvik_settings INTERFACE -Wall -Wextra -Wconversion $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>)
 # g++ 12 sees an overlap in "literal" + std::string once it optimises (GCC bug 105651).
 target_compile_options(norvik_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(norvik_settings INTERFACE ${CMAKE_CURRENT_LIST_DIR}/..)
 
-# norvik_sources(<variable> <folder>...): the C++ files of the folders, but for the exports, which only the library has.
-function(norvik_sources variable)
-  set(found)
-  foreach(folder IN LISTS ARGN)
-    file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/${folder}/*.h)
-    list(APPEND found ${files})
-  endforeach()
-  list(FILTER found EXCLUDE REGEX "/shell/exports\\.cpp$")
+# norvik_find_sources(<variable> <folder>...): the C++ files in and below the folders, but for those that only the plug-in
+# and the demonstration host themselves have: the five exports and the main function.
+function(norvik_find_sources variable)
+  list(TRANSFORM ARGN REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.cpp;${PROJECT_SOURCE_DIR}/\\1/*.h" OUTPUT_VARIABLE patterns)
+  file(GLOB_RECURSE found CONFIGURE_DEPENDS ${patterns})
+  list(FILTER found EXCLUDE REGEX "/(shell/exports|demohost/main)\\.cpp$")
   set(${variable} ${found} PARENT_SCOPE)
 endfunction()
 
-# norvik_library(<target> <SHARED|STATIC> <folder>...): a library of the files in the folders; empty if they have none.
-function(norvik_library target kind)
-  norvik_sources(sources ${ARGN})
-  if(NOT sources)
-    set(sources ${PROJECT_BINARY_DIR}/empty.cpp)
-    file(TOUCH ${sources})
-  endif()
+# norvik_add_library(<target> <SHARED|STATIC> <folder>...): a library of the files in and below the folders.
+function(norvik_add_library target kind)
+  norvik_find_sources(sources ${ARGN})
   add_library(${target} ${kind} ${sources})
-  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(${target} PRIVATE norvik_settings)
-  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
 
 # norvik_exports(<target> <list>): a shared library out of which leaves what bears its export macro and is on the list.
@@ -39,9 +34,9 @@ endfunction()
 set(NORVIK_COMMON_HEADERS <QApplication> <QPointer> <QWidget> <algorithm> <functional> <map> <memory> <optional> <string>
     <vector>)
 
-# norvik_precompile(<target> <header>...): parses the headers once for all C++ files of the target. Every file includes
-# what it needs all the same: the preset "release" builds without.
-function(norvik_precompile target)
+# norvik_precompile_headers(<target> <header>...): parses the headers once for all C++ files of the target. Every file
+# includes what it needs all the same: the preset "release" builds without.
+function(norvik_precompile_headers target)
   if(NORVIK_PRECOMPILE)
     list(TRANSFORM ARGN REPLACE "^<(.*)>$" "$<$<COMPILE_LANGUAGE:CXX>:<\\1$<ANGLE-R>>")
     target_precompile_headers(${target} PRIVATE ${ARGN})

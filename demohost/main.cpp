@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 #include "demohost/check/check.h"
@@ -19,9 +20,10 @@ using demohost::Options;
 using demohost::Player;
 using demohost::ScriptEnd;
 
+// The first is this program's own file, also where the shell has found it.
 QStringList Arguments(int argc, char** argv) {
-  QStringList arguments;
-  for (int at = 0; at < argc; ++at) arguments << QString::fromLocal8Bit(argv[at]);
+  QStringList arguments = {QString::fromStdString(std::filesystem::read_symlink("/proc/self/exe").string())};
+  for (int at = 1; at < argc; ++at) arguments << QString::fromLocal8Bit(argv[at]);
   return arguments;
 }
 

@@ -21,7 +21,7 @@ const QList<QCommandLineOption>& Known() {
       {"script", "Play an operator's script; - reads it from the standard input.", "file"},
       {"patience", "How long a step of a script may wait, milliseconds (5000).", "ms"},
       {"open", "Open the screen of a menu item at start.", "item"},
-      {"module", "The module to load (NorvikQry.so beside this program).", "file"},
+      {"module", "The module to load (NorvikQry.so beside this program, else the installed one).", "file"},
       {"share", "The folder of texts, tables and skins.", "folder"},
       {"data", "The folder of the bank, pictures and printed reports.", "folder"},
       {"config", "The folder of layouts and settings.", "folder"},
@@ -73,10 +73,11 @@ int MillisecondsOr(const QCommandLineParser& parser, const char* option, int oth
   return static_cast<int>(NumberOr(parser, option, other, 600000));
 }
 
-// The installed folder where there is one, else that of the source tree.
-QString ShareFolder(const QFileInfo& program) {
-  const QString installed = program.absolutePath() + QStringLiteral("/../share/norvik-demohost");
-  return QFileInfo::exists(installed) ? installed : QStringLiteral(NORVIK_DEMOHOST_SHARE);
+// Beside the program, as in the folder of a build, else in the folder for plug-ins.
+QString ModuleFile(const QString& folder) {
+  const QString beside = folder + QStringLiteral("/NorvikQry.so");
+  return QFileInfo::exists(beside) ? beside
+                                   : folder + QStringLiteral("/" NORVIK_PLUGIN_FOLDER "/NorvikQry.so");
 }
 
 }  // namespace
@@ -99,10 +100,11 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString& messa
     throw OptionError("what is \"" + parser.positionalArguments().first().toStdString() + "\"?");
   }
   const QFileInfo program(QFileInfo(arguments.value(0)).canonicalFilePath());
+  const QString folder = program.absolutePath();
   Options options;
   options.program = PathOf(program.absoluteFilePath());
-  options.module = PathOr(parser, "module", program.absolutePath() + QStringLiteral("/NorvikQry.so"));
-  options.share = PathOr(parser, "share", ShareFolder(program));
+  options.module = PathOr(parser, "module", ModuleFile(folder));
+  options.share = PathOr(parser, "share", folder + QStringLiteral("/" NORVIK_SHARE_FOLDER));
   options.data = PathOr(parser, "data", UserFolder(QStandardPaths::GenericDataLocation));
   options.config = PathOr(parser, "config", UserFolder(QStandardPaths::GenericConfigLocation));
   options.desktop =

@@ -15,7 +15,7 @@
 #include "host/pub_info.h"
 #include "host/safe_com.h"
 #include "host/translate.h"
-#include "tests/host/fake_host.h"
+#include "tests/support/fake_host.h"
 
 /// The proxies over a fake host, bound as InitModule does it.
 struct Services {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/module/module_library.h"
+#include "tests/support/module_library.h"
 
 namespace anymoment {
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "tests/data/keys.h"
-#include "tests/module/module_library.h"
+#include "tests/support/module_library.h"
 
 namespace {
 

@@ -20,7 +20,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/module/module_library.h"
+#include "tests/support/module_library.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();

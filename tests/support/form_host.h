@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "data/corvane.h"
-#include "tests/host/fake_host.h"
+#include "tests/support/fake_host.h"
 #include "toolkit/form.h"
 
 /// The world that a form lives in: registered host libraries that answer by key, the services bound to them,

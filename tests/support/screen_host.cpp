@@ -1,5 +1,7 @@
 #include "tests/support/screen_host.h"
 
+#include <gtest/gtest.h>
+
 #include <ctime>
 
 #include "dialogs/bank_info.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/module/module_library.h"
+#include "tests/support/module_library.h"
 
 /// A way in which a call fails.
 struct Fault {

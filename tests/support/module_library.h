@@ -10,7 +10,7 @@
 
 #include "data/corvane.h"
 #include "platform/host_api.h"
-#include "tests/host/fake_host.h"
+#include "tests/support/fake_host.h"
 
 /// The built module library, loaded as a host loads it.
 class ModuleLibrary {

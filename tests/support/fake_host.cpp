@@ -1,4 +1,4 @@
-#include "tests/host/fake_host.h"
+#include "tests/support/fake_host.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -27,31 +27,31 @@ std::uint32_t Reply(Library library, std::uint32_t ordinal, char** buffer, std::
 }
 
 // (pair, texts..., error)
-template <Library L, std::uint32_t O, class... Texts>
+template <Library library, std::uint32_t ordinal, class... Texts>
 std::uint32_t Ask(char** buffer, std::int32_t* length, Texts... texts, char* error) {
-  return Reply(L, O, buffer, length, error, texts...);
+  return Reply(library, ordinal, buffer, length, error, texts...);
 }
 
 // (pair, text, error, flag)
-template <Library L, std::uint32_t O>
+template <Library library, std::uint32_t ordinal>
 std::uint32_t AskWithFlag(char** buffer, std::int32_t* length, const char* text, char* error,
                           std::uint8_t flag) {
-  return Reply(L, O, buffer, length, error, text, flag);
+  return Reply(library, ordinal, buffer, length, error, text, flag);
 }
 
 // (arguments..., error), (arguments...)
-template <Library L, std::uint32_t O, class... Arguments>
+template <Library library, std::uint32_t ordinal, class... Arguments>
 std::uint32_t Obey(Arguments... arguments, char* error) {
-  return Reply(L, O, nullptr, nullptr, error, arguments...);
+  return Reply(library, ordinal, nullptr, nullptr, error, arguments...);
 }
-template <Library L, std::uint32_t O, class... Arguments>
+template <Library library, std::uint32_t ordinal, class... Arguments>
 std::uint32_t ObeyOnly(Arguments... arguments) {
-  return Reply(L, O, nullptr, nullptr, nullptr, arguments...);
+  return Reply(library, ordinal, nullptr, nullptr, nullptr, arguments...);
 }
 
-template <Library L, std::uint32_t O>
+template <Library library, std::uint32_t ordinal>
 void Release(char* buffer) {
-  g_host->Release(L, O, buffer);
+  g_host->Release(library, ordinal, buffer);
 }
 
 std::uint32_t GetRow(char** buffer, std::int32_t* length, const char* key, const char* section, char* error,
