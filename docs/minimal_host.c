@@ -230,24 +230,33 @@ static void print_setup(const char* name) {
 
 /* --- The six tables. The module looks up every ordinal of the ranges and calls only those named. */
 
+/* ISO C turns a function's address into another pointer by way of a number only. */
+#define FUNCTION(ordinal, name) \
+  { ordinal, (void*)(intptr_t)name }
+
 typedef struct range {
   uint32_t first, last;
 } range;
 
 static const norvik_ordinal k_store[] = {
-    {1, take_store},       {3, give_back},         {23, set_field},       {24, get_field},
-    {40, get_list},        {58, set_document},     {59, remove_document}, {60, get_ini},
-    {68, get_ini_value},   {80, set_document},     {81, remove_document}, {82, get_iniplus},
-    {87, get_iniplus_row}, {90, get_iniplus_list}, {122, set_handle},     {123, get_handle}};
+    FUNCTION(1, take_store),       FUNCTION(3, give_back),         FUNCTION(23, set_field),
+    FUNCTION(24, get_field),       FUNCTION(40, get_list),         FUNCTION(58, set_document),
+    FUNCTION(59, remove_document), FUNCTION(60, get_ini),          FUNCTION(68, get_ini_value),
+    FUNCTION(80, set_document),    FUNCTION(81, remove_document),  FUNCTION(82, get_iniplus),
+    FUNCTION(87, get_iniplus_row), FUNCTION(90, get_iniplus_list), FUNCTION(122, set_handle),
+    FUNCTION(123, get_handle)};
 static const range k_store_ranges[] = {{1, 10},  {20, 27},   {38, 47},   {58, 69},
                                        {80, 93}, {104, 111}, {122, 127}, {184, 184}};
 
-static const norvik_ordinal k_translate[] = {{1, take_store}, {3, give_back}, {4, translate}, {6, convert}};
-static const norvik_ordinal k_error[] = {
-    {1, take_store_for_errors}, {3, give_back}, {4, error_text}, {5, error_text}};
-static const norvik_ordinal k_communication[] = {{4, give_back}, {5, exchange}, {8, server_time}};
-static const norvik_ordinal k_spreadsheet[] = {{2, export_workbook}, {5, export_text}};
-static const norvik_ordinal k_print[] = {{1, take_store_for_print}, {3, print_report}, {5, print_setup}};
+static const norvik_ordinal k_translate[] = {FUNCTION(1, take_store), FUNCTION(3, give_back),
+                                             FUNCTION(4, translate), FUNCTION(6, convert)};
+static const norvik_ordinal k_error[] = {FUNCTION(1, take_store_for_errors), FUNCTION(3, give_back),
+                                         FUNCTION(4, error_text), FUNCTION(5, error_text)};
+static const norvik_ordinal k_communication[] = {FUNCTION(4, give_back), FUNCTION(5, exchange),
+                                                 FUNCTION(8, server_time)};
+static const norvik_ordinal k_spreadsheet[] = {FUNCTION(2, export_workbook), FUNCTION(5, export_text)};
+static const norvik_ordinal k_print[] = {FUNCTION(1, take_store_for_print), FUNCTION(3, print_report),
+                                         FUNCTION(5, print_setup)};
 
 /* The functions that are called first, then every ordinal of the ranges: of two with one ordinal the first
  * counts. */
@@ -259,7 +268,7 @@ static norvik_handle make_library(const norvik_ordinal* called, size_t count, co
   for (size_t i = 0; i < range_count; ++i) {
     for (uint32_t ordinal = ranges[i].first; ordinal <= ranges[i].last; ++ordinal) {
       table[size].ordinal = ordinal;
-      table[size].function = unused;
+      table[size].function = (void*)(intptr_t)unused;
       ++size;
     }
   }
