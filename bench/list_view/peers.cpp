@@ -15,12 +15,12 @@
 namespace list_bench {
 
 const std::vector<Column>& Columns() {
-  static const std::vector<Column> columns = {
+  static const std::vector<Column> kColumns = {
       {"BILLNUM", 140, 0}, {"BILLTYP", 100, 0}, {"PAYAMT", 120, 2},  {"ISSDATE", 80, 0},
       {"DUEDATE", 80, 0},  {"AGTSTAT", 80, 0},  {"ACCPNAM", 200, 0}, {"PYEENAM", 200, 0},
       {"CUSTACC", 160, 0}, {"AGTBHNM", 120, 0}, {"BATCHNO", 100, 0}, {"QURYNUM", 60, 4},
   };
-  return columns;
+  return kColumns;
 }
 
 namespace {
@@ -199,9 +199,9 @@ std::unique_ptr<ListPeer> Make() {
 }  // namespace
 
 const std::vector<Peer>& AllPeers() {
-  static const std::vector<Peer> peers = {
+  static const std::vector<Peer> kPeers = {
       {"TKVXListView", Make<KvxPeer>}, {"QTreeWidget", Make<TreePeer>}, {"QTableWidget", Make<TablePeer>}};
-  return peers;
+  return kPeers;
 }
 
 }  // namespace list_bench

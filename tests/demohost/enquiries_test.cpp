@@ -33,9 +33,9 @@ class EnquiriesTest : public testing::Test {
     for (const auto& [name, value] : fields) request.addField(corvane::Field(name, value));
     corvane::List list;
     list.setAttribute("name", "userDataList");
-    for (const Fields& fields_of_row : rows) {
+    for (const Fields& fieldsOfRow : rows) {
       corvane::Row row;
-      for (const auto& [name, value] : fields_of_row) row[name] = value;
+      for (const auto& [name, value] : fieldsOfRow) row[name] = value;
       list.addRow(row);
     }
     if (!rows.empty()) request.addList(list);

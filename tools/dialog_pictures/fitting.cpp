@@ -12,8 +12,8 @@ namespace {
 constexpr const char* kDecoration = "decoration";  // property of what the host puts on every window
 
 void Judge(const QString& name, const QString& text, int wanted, int room, QStringList& faults) {
-  static const QRegularExpression key(QStringLiteral("^[A-Z]{2}[0-9]{5}:?$"));
-  if (key.match(text).hasMatch()) faults << QStringLiteral("%1 shows the key %2").arg(name, text);
+  static const QRegularExpression kKey(QStringLiteral("^[A-Z]{2}[0-9]{5}:?$"));
+  if (kKey.match(text).hasMatch()) faults << QStringLiteral("%1 shows the key %2").arg(name, text);
   if (wanted > room) faults << QStringLiteral("%1 has no room for \"%2\"").arg(name, text);
 }
 

@@ -56,13 +56,13 @@ const std::array<Library, 6>& Libraries() {
   return kLibraries;
 }
 
-norvik_handle g_public_information = 0;
+norvik_handle g_publicInformation = 0;
 // Changes at each start and release: what began before ends without a further step.
 int g_life = 0;
 
 template <class Function>
 Function Public(std::uint32_t ordinal) {
-  return reinterpret_cast<Function>(norvik_module_function(g_public_information, ordinal));
+  return reinterpret_cast<Function>(norvik_module_function(g_publicInformation, ordinal));
 }
 
 std::uint32_t HandleOf(const char* key) {
@@ -196,20 +196,20 @@ void End() {
 }
 
 // What the library does as it is loaded.
-const bool g_loaded = [] {
+const bool kLoaded = [] {
   if (Has("load_crash")) Misbehave();
   return true;
 }();
 
 }  // namespace
 
-MODULE_EXPORT std::uint32_t InitModule(norvik_handle public_information) {
+MODULE_EXPORT std::uint32_t InitModule(norvik_handle publicInformation) {
   if (Has("start_throws")) throw 15;
   End();
   const int life = g_life;
-  g_public_information = public_information;
-  if (Has("leaves_window_of_failed_start") && public_information == 0) new QWidget;
-  Bind(Libraries()[0], public_information);
+  g_publicInformation = publicInformation;
+  if (Has("leaves_window_of_failed_start") && publicInformation == 0) new QWidget;
+  Bind(Libraries()[0], publicInformation);
   for (const Library& library : Libraries()) {
     if (library.handleKey == nullptr) continue;
     const norvik_handle handle = HandleOf(library.handleKey);
