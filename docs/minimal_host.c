@@ -8,7 +8,7 @@
 
 #define COUNT_OF(array) (sizeof(array) / sizeof((array)[0]))
 
-/* --- Results: a buffer of ours that the module gives back, and an error text in a buffer of the module's. */
+/* --- Results: a buffer of ours that the module returns, and an error text in a buffer of the module's. */
 
 static uint8_t give(char** buffer, int32_t* length, const char* text) {
   const size_t size = strlen(text);
