@@ -53,7 +53,7 @@ void BankDirectory::Load(const std::filesystem::path& bank) {
   while (banks.Step()) {
     const std::string number(banks.Text(0));
     if (number.size() < 8) continue;
-    // The first digit of the area tells the region of the country, which is the top level.
+    // The first digit of the area is the region of the country, which is the top level.
     const std::string area = number.substr(3, 4);
     regions_[area.substr(0, 1)][area][number.substr(0, 3)][number] =
         norvik::AnsiFromUtf8(std::string(banks.Text(1)));
@@ -66,15 +66,15 @@ const char* BankDirectory::TopCode(void* context, std::uint32_t index) {
   return std::next(regions.begin(), index)->first.c_str();
 }
 
-int BankDirectory::HasArea(void* context, const char* top_code, const char* area) {
-  const Areas* areas = Find(static_cast<BankDirectory*>(context)->regions_, top_code);
+int BankDirectory::HasArea(void* context, const char* topCode, const char* area) {
+  const Areas* areas = Find(static_cast<BankDirectory*>(context)->regions_, topCode);
   return areas != nullptr && areas->count(area) != 0 ? 1 : 0;
 }
 
-const char* BankDirectory::BankName(void* context, const char* top_code, const char* area, const char* type,
+const char* BankDirectory::BankName(void* context, const char* topCode, const char* area, const char* type,
                                     const char* number) {
   auto* directory = static_cast<BankDirectory*>(context);
-  const Areas* areas = Find(directory->regions_, top_code);
+  const Areas* areas = Find(directory->regions_, topCode);
   const Kinds* kinds = areas == nullptr ? nullptr : Find(*areas, area);
   const Banks* banks = kinds == nullptr ? nullptr : Find(*kinds, type);
   const std::string* name = banks == nullptr ? nullptr : Find(*banks, number);
@@ -83,7 +83,7 @@ const char* BankDirectory::BankName(void* context, const char* top_code, const c
 
 const char* BankDirectory::InCharacters(const std::string& name) {
   if (!traditional_) return name.c_str();
-  std::string& other = traditional_names_[name];
+  std::string& other = traditionalNames_[name];
   if (other.empty()) other = TraditionalFromSimplified(name);
   return other.c_str();
 }

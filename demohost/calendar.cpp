@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <ctime>
 
 namespace demohost {
 
@@ -26,6 +27,18 @@ std::optional<Day> DayOf(std::string_view text) {
                                          std::chrono::month{number(4, 2)}, std::chrono::day{number(6, 2)}};
   if (!date.ok()) return std::nullopt;
   return Day{date};
+}
+
+std::int64_t BankClock::Milliseconds() const {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  const std::chrono::year_month_day date{today_};
+  local.tm_year = static_cast<int>(date.year()) - 1900;
+  local.tm_mon = static_cast<int>(static_cast<unsigned>(date.month())) - 1;
+  local.tm_mday = static_cast<int>(static_cast<unsigned>(date.day()));
+  local.tm_isdst = -1;
+  return static_cast<std::int64_t>(std::mktime(&local)) * 1000;
 }
 
 }  // namespace demohost

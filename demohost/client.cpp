@@ -6,18 +6,15 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
 #include "demohost/shortcut.h"
 #include "demohost/skins.h"
 #include "demohost/window/print_settings.h"
+#include "demohost/words.h"
 #include "platform/code_page.h"
 
 namespace demohost {
 namespace {
-
-// The message that tells a form of a new look.
-constexpr std::uint32_t kLookChanged = 0x7E9;
 
 // The key of the question whether a file may be replaced.
 constexpr std::string_view kMayReplace = "UI12572";
@@ -28,10 +25,6 @@ constexpr std::pair<std::string_view, std::string_view> kItemCaptions[] = {
     {"ITEM6067", "UI25828"},
     {"ITEM6068", "UI25830"},
 };
-
-QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 void Provoke(const QString& what, const QString& key) {
   Faults& faults = CurrentServices().faults;
@@ -81,16 +74,16 @@ Client::Client(const Options& options)
   PackSkins(options.share / "skins", options.data / "skins");
   FillStore(store_, tables_, bank_.Accounts(), {images, options.data / "skins"});
   if (!options.language.empty()) {
-    store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", options.language);
+    ChangeSetting(store_, kLanguageSetting, options.language);
   }
   store_.onHandle = [this](const std::string& key, std::uint32_t value) { forms_.HandleEntered(key, value); };
   store_.SetHandle("APPMAINFORMHANDLE", window_.Handle());
   store_.SetHandle("BANK_PDATA", directory_.Handle());
   output_.printFolder = options.data / "prints";
-  output_.made = [this](const std::filesystem::path& file) { Tell(HostWord::kSaved, file.string()); };
+  output_.made = [this](const std::filesystem::path& file) { Announce(HostWord::kSaved, file.string()); };
   output_.mayReplace = [this](const std::filesystem::path& file) { return MayReplace(file); };
   output_.printSettings = [this](const std::string&) {
-    if (AskPrintSettings(store_, Setting("APPLICATION.LANG", "Language"), &window_)) Save();
+    if (AskPrintSettings(store_, CurrentLanguage(), &window_)) Save();
   };
   Services services{&store_, &texts_, &bank_, &clock_, &output_, options.delay, {}};
   services.report = [this](const std::string& text) { window_.Tell(ToQt(text)); };
@@ -123,8 +116,8 @@ BankPlan Client::Plan(const Options& options) const {
   return {options.bills, kBankDay, CodesOf(tables_)};
 }
 
-std::string Client::Setting(const char* section, const char* item) const {
-  return norvik::Utf8FromAnsi(store_.GetIniValue("SYSCONFIG_DATA", section, item));
+std::string Client::CurrentLanguage() const {
+  return SettingOf(store_, kLanguageSetting);
 }
 
 void Client::Show() {
@@ -132,10 +125,9 @@ void Client::Show() {
 }
 
 void Client::ShowWindow() {
-  const ClientSettings settings{Setting("APPLICATION.LANG", "Language"),
-                                ToQt(Setting("APPLICATION.FONT", "Name")),
-                                std::max(1, std::atoi(Setting("APPLICATION.FONT", "Size").c_str())),
-                                Setting("APPLICATION.STYLE", "Style")};
+  const ClientSettings settings{CurrentLanguage(), ToQt(SettingOf(store_, kFontNameSetting)),
+                                std::max(1, std::atoi(SettingOf(store_, kFontSizeSetting).c_str())),
+                                SettingOf(store_, kStyleSetting)};
   std::vector<BusinessItem> items;
   for (const std::string& item : items_)
     items.push_back({item, ToQt(ItemCaption(texts_, settings.language, item))});
@@ -148,14 +140,14 @@ void Client::Pick(const std::string& item) {
   try {
     module_.Call(item);
     const std::vector<OpenForms::Form> forms = forms_.Announced();
-    if (!forms.empty()) item_of_[forms.back().className] = item;
+    if (!forms.empty()) itemOf_[forms.back().className] = item;
   } catch (const ModuleError& error) {
-    TellFailure(error);
+    ShowFailure(error);
   }
 }
 
-void Client::TellFailure(const std::exception& failure) {
-  const std::string language = Setting("APPLICATION.LANG", "Language");
+void Client::ShowFailure(const std::exception& failure) {
+  const std::string language = CurrentLanguage();
   QMessageBox::warning(
       &window_, window_.windowTitle(),
       ToQt(Word(HostWord::kModuleFailed, language)) + QLatin1Char('\n') + ToQt(failure.what()));
@@ -165,29 +157,29 @@ void Client::ChooseLanguage(const std::string& language) {
   if (!IsLanguage(language)) throw std::invalid_argument("there is no language \"" + language + "\"");
   std::vector<std::string> open;
   for (const OpenForms::Form& form : forms_.Announced()) {
-    if (item_of_.count(form.className) != 0) open.push_back(item_of_[form.className]);
+    if (itemOf_.count(form.className) != 0) open.push_back(itemOf_[form.className]);
   }
-  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", language);
+  ChangeSetting(store_, kLanguageSetting, language);
   Save();
   try {
     module_.Release();
     forms_ = OpenForms();
     module_.Init(libraries_->PublicInformation());
   } catch (const ModuleError& error) {
-    TellFailure(error);
+    ShowFailure(error);
   }
   ShowWindow();
   for (const std::string& item : open) Pick(item);
 }
 
 void Client::ChooseFont(const QString& name, int size) {
-  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", "Name", norvik::AnsiFromUtf8(name.toStdString()));
-  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", "Size", std::to_string(size));
+  ChangeSetting(store_, kFontNameSetting, name.toStdString());
+  ChangeSetting(store_, kFontSizeSetting, std::to_string(size));
   LookChanged();
 }
 
 void Client::ChooseStyle(const std::string& style) {
-  store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.STYLE", "Style", style);
+  ChangeSetting(store_, kStyleSetting, style);
   LookChanged();
 }
 
@@ -195,25 +187,25 @@ void Client::LookChanged() {
   Save();
   ShowWindow();
   for (const OpenForms::Form& form : std::vector<OpenForms::Form>(forms_.All())) {
-    norvik_window_send(form.handle, kLookChanged, 0, 0);
+    norvik_window_send(form.handle, form_message::kLookChanged, 0, 0);
   }
 }
 
 void Client::Save() {
   try {
-    store_.SaveIni("SYSCONFIG_DATA");
+    SaveSettings(store_);
   } catch (const Refused& refused) {
     window_.Tell(ToQt(refused.Detail()));
   }
 }
 
-void Client::Tell(HostWord word, const std::string& detail) {
-  const std::string_view text = Word(word, Setting("APPLICATION.LANG", "Language"));
+void Client::Announce(HostWord word, const std::string& detail) {
+  const std::string_view text = Word(word, CurrentLanguage());
   window_.Tell(ToQt(text) + QStringLiteral(": ") + ToQt(detail));
 }
 
 bool Client::MayReplace(const std::filesystem::path& file) {
-  const std::string_view question = texts_.Find(Setting("APPLICATION.LANG", "Language"), kMayReplace);
+  const std::string_view question = texts_.Find(CurrentLanguage(), kMayReplace);
   QMessageBox box(QMessageBox::Question, window_.windowTitle(),
                   ToQt(question) + QLatin1Char('\n') + ToQt(file.string()),
                   QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
@@ -229,9 +221,9 @@ void Client::MakeShortcut() {
   };
   try {
     const Shortcut shortcut{field("ITEMNAME"), field("ITEMCAPTION"), field("ITEMIMAGE")};
-    Tell(HostWord::kShortcutMade, WriteShortcut(options_.desktop, options_.program, shortcut).string());
+    Announce(HostWord::kShortcutMade, WriteShortcut(options_.desktop, options_.program, shortcut).string());
   } catch (const FileError& error) {
-    Tell(HostWord::kShortcutFailed, error.what());
+    Announce(HostWord::kShortcutFailed, error.what());
   }
 }
 
@@ -239,7 +231,7 @@ void Client::EndModule() {
   try {
     module_.Release();
   } catch (const ModuleError& error) {
-    TellFailure(error);
+    ShowFailure(error);
   }
   forms_ = OpenForms();
   ShowWindow();

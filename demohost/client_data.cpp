@@ -1,40 +1,43 @@
 #include "demohost/client_data.h"
 
+#include "demohost/bank/messages.h"
+#include "demohost/skins.h"
 #include "platform/code_page.h"
 
 namespace demohost {
 namespace {
 
-struct Setting {
-  const char* section;
-  const char* item;
+constexpr const char* kSettingsKey = "SYSCONFIG_DATA";
+
+struct Default {
+  Setting setting;
   const char* value;
 };
 
-// The settings of a client that was never told otherwise. Under CONTROL.UPDOWN and CONTROL.RETURN stand the
-// kinds of control that need the key for themselves.
-constexpr Setting kSettings[] = {
-    {"APPLICATION.LANG", "Language", "Simplified Chinese"},
-    {"APPLICATION.FONT", "Name", "Noto Sans CJK SC"},
-    {"APPLICATION.FONT", "Size", "9"},
-    {"APPLICATION.STYLE", "Style", "SK01"},
-    {"APPLICATION.OPERATOR", "ImeName", ""},
-    {"APPLICATION.OPERATOR", "ControlWithImeName", "0"},
-    {"APPLICATION.OPERATOR", "SimulateTab", "1"},
-    {"CONTROL.UPDOWN", "TKVXListView", "1"},
-    {"CONTROL.UPDOWN", "TKVXTreeView", "1"},
-    {"CONTROL.UPDOWN", "TKVXListBox", "1"},
-    {"CONTROL.UPDOWN", "TKVXComboBox", "1"},
-    {"CONTROL.UPDOWN", "TbsSkinRadioGroup", "1"},
-    {"CONTROL.UPDOWN", "TMemo", "1"},
-    {"CONTROL.UPDOWN", "TMonthCalendar", "1"},
-    {"CONTROL.RETURN", "TMemo", "1"},
-    {"CONTROL.RETURN", "TbsSkinButton", "1"},
-    {"CONTROL.RETURN", "TbsSkinSpeedButton", "1"},
-    {"CONTROL.RETURN", "TbsSkinMenuButton", "1"},
-    {"CLIENT.PRINT", "Paper", "A4"},
-    {"CLIENT.PRINT", "Portrait", "0"},
-    {"APPLICATION.BUSINESS.SET", "LISTVIEW.MAXRECORD", "100000"},
+// The settings of a client in which nothing was chosen. CONTROL.UPDOWN and CONTROL.RETURN name the kinds of
+// control that need the key for themselves.
+constexpr Default kDefaults[] = {
+    {kLanguageSetting, "Simplified Chinese"},
+    {kFontNameSetting, "Noto Sans CJK SC"},
+    {kFontSizeSetting, "9"},
+    {kStyleSetting, "SK01"},
+    {{"APPLICATION.OPERATOR", "ImeName"}, ""},
+    {{"APPLICATION.OPERATOR", "ControlWithImeName"}, "0"},
+    {{"APPLICATION.OPERATOR", "SimulateTab"}, "1"},
+    {{"CONTROL.UPDOWN", "TKVXListView"}, "1"},
+    {{"CONTROL.UPDOWN", "TKVXTreeView"}, "1"},
+    {{"CONTROL.UPDOWN", "TKVXListBox"}, "1"},
+    {{"CONTROL.UPDOWN", "TKVXComboBox"}, "1"},
+    {{"CONTROL.UPDOWN", "TbsSkinRadioGroup"}, "1"},
+    {{"CONTROL.UPDOWN", "TMemo"}, "1"},
+    {{"CONTROL.UPDOWN", "TMonthCalendar"}, "1"},
+    {{"CONTROL.RETURN", "TMemo"}, "1"},
+    {{"CONTROL.RETURN", "TbsSkinButton"}, "1"},
+    {{"CONTROL.RETURN", "TbsSkinSpeedButton"}, "1"},
+    {{"CONTROL.RETURN", "TbsSkinMenuButton"}, "1"},
+    {kPaperSetting, "A4"},
+    {kPortraitSetting, "0"},
+    {{"APPLICATION.BUSINESS.SET", "LISTVIEW.MAXRECORD"}, "100000"},
 };
 
 // The businesses of the user: code, flow, class of the operation. Accounts are entered under every flow, so
@@ -51,12 +54,6 @@ constexpr Flow kFlows[] = {
     {"CB200330", "F33001", "01"},
 };
 
-corvane::Row RowOf(std::initializer_list<std::pair<const char*, std::string>> fields) {
-  corvane::Row row;
-  for (const auto& [name, value] : fields) row[name] = norvik::AnsiFromUtf8(value);
-  return row;
-}
-
 corvane::Iniplus DocumentOf(const Sections& sections, const std::vector<const char*>& names) {
   corvane::Iniplus document;
   for (const auto& [section, lines] : sections) {
@@ -72,11 +69,10 @@ corvane::Iniplus DocumentOf(const Sections& sections, const std::vector<const ch
 }
 
 void FillSettings(InfoStore& store) {
-  store.KeepIni("SYSCONFIG_DATA");
-  for (const auto& [section, item, value] : kSettings) {
-    const corvane::Ini& settings = store.GetIni("SYSCONFIG_DATA");
-    if (settings.getSection(section).hasField(item)) continue;
-    store.SetIniValue("SYSCONFIG_DATA", section, item, value);
+  store.KeepIni(kSettingsKey);
+  for (const auto& [setting, value] : kDefaults) {
+    if (store.GetIni(kSettingsKey).getSection(setting.section).hasField(setting.item)) continue;
+    ChangeSetting(store, setting, value);
   }
   corvane::Ini patterns;
   corvane::Row styles;
@@ -107,12 +103,24 @@ void FillUser(InfoStore& store, const std::vector<BankAccount>& accounts) {
   store.SetList("CMLGBSNACC", businessAccounts);
 }
 
-// A folder's path with the slash behind which a file name can follow.
+// A folder's path with the slash to which a file name can be added.
 std::string Prefix(const std::filesystem::path& folder) {
   return norvik::AnsiFromUtf8(folder.string() + "/");
 }
 
 }  // namespace
+
+std::string SettingOf(const InfoStore& store, const Setting& setting) {
+  return norvik::Utf8FromAnsi(store.GetIniValue(kSettingsKey, setting.section, setting.item));
+}
+
+void ChangeSetting(InfoStore& store, const Setting& setting, const std::string& value) {
+  store.SetIniValue(kSettingsKey, setting.section, setting.item, norvik::AnsiFromUtf8(value));
+}
+
+void SaveSettings(const InfoStore& store) {
+  store.SaveIni(kSettingsKey);
+}
 
 Tables ReadTables(const std::filesystem::path& share) {
   return {ReadSections(share / "tables/fielddef.txt", 5), ReadSections(share / "tables/businessdict.txt", 2)};
@@ -135,12 +143,6 @@ void FillStore(InfoStore& store, const Tables& tables, const std::vector<BankAcc
   store.SetIniplus("BUSINESSDICT", DocumentOf(tables.dictionaries, {"TYPEKEY", "TYPE"}));
   store.SetField("ENVIRONMENT", corvane::Field("ENV.IMAGES", Prefix(folders.images)));
   store.SetField("ENVIRONMENT", corvane::Field("ENV.SKIN", Prefix(folders.skins)));
-}
-
-const std::vector<SkinStyle>& SkinStyles() {
-  static const std::vector<SkinStyle> kStyles = {
-      {"SK00", "plain.skin"}, {"SK01", "light.skin"}, {"SK02", "dark.skin"}};
-  return kStyles;
 }
 
 }  // namespace demohost

@@ -1,10 +1,8 @@
 #include "demohost/info_store.h"
 
-#include <algorithm>
-
-#include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
 #include "demohost/text_file.h"
+#include "demohost/words.h"
 #include "platform/code_page.h"
 
 namespace demohost {
@@ -128,10 +126,7 @@ void InfoStore::SaveIni(const std::string& key) const {
 }
 
 std::filesystem::path InfoStore::FileOf(const std::string& key) const {
-  std::string name = key;
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c); });
-  return folder_ / (name + ".xml");
+  return folder_ / (LowerAscii(key) + ".xml");
 }
 
 void InfoStore::Save(const std::string& key, const corvane::Element& document) const {

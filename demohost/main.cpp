@@ -27,8 +27,8 @@ QStringList Arguments(int argc, char** argv) {
   return arguments;
 }
 
-// The platform that draws into memory warns of each thing that only a real screen has; these warnings are of
-// no use.
+// Leaves out the warnings of the platform that draws into memory: it has one for each thing that only a real
+// screen has.
 void LogQuietly(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (text.startsWith(QLatin1String("This plugin does not support"))) return;
   std::cerr << text.toStdString() << std::endl;

@@ -26,10 +26,10 @@ void Module::Unloader::operator()(void* library) const {
 
 Module::Module(const std::filesystem::path& path) : library_(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
   if (library_ == nullptr) throw ModuleError(dlerror());
-  init_module_ = Find<norvik_init_module>("InitModule");
-  menu_config_ = Find<norvik_menu_config>("MenuConfig");
-  free_buff_ = Find<norvik_free_buff>("FreeBuff");
-  call_func_ = Find<norvik_call_func>("CallFunc");
+  initModule_ = Find<norvik_init_module>("InitModule");
+  menuConfig_ = Find<norvik_menu_config>("MenuConfig");
+  freeBuff_ = Find<norvik_free_buff>("FreeBuff");
+  callFunc_ = Find<norvik_call_func>("CallFunc");
   release_ = Find<norvik_release>("Release");
 }
 
@@ -40,16 +40,16 @@ Function Module::Find(const char* name) {
   return reinterpret_cast<Function>(symbol);
 }
 
-void Module::Init(norvik_handle public_information) {
-  Guarded([&] { return init_module_(public_information); });
+void Module::Init(norvik_handle publicInformation) {
+  Guarded([&] { return initModule_(publicInformation); });
 }
 
 std::vector<std::string> Module::MenuItems() {
   return Guarded([&] {
     char* buffer = nullptr;
-    menu_config_(&buffer);
+    menuConfig_(&buffer);
     const std::string text = buffer == nullptr ? std::string() : std::string(buffer);
-    free_buff_(buffer);
+    freeBuff_(buffer);
     std::vector<std::string> items;
     const corvane::List rows = corvane::Iniplus(text).getSection("MENU");
     for (const corvane::Row& row : rows) items.push_back(row.getValue("ItemName"));
@@ -61,7 +61,7 @@ void Module::Call(const std::string& item) {
   corvane::Row request;
   request["ItemName"] = item;
   const std::string text = request.toString();
-  Guarded([&] { call_func_(text.c_str(), 0); });
+  Guarded([&] { callFunc_(text.c_str(), 0); });
 }
 
 void Module::Release() {

@@ -56,15 +56,13 @@ QString UserFolder(QStandardPaths::StandardLocation location) {
 }
 
 std::int64_t NumberOr(const QCommandLineParser& parser, const char* option, std::int64_t other,
-                      std::int64_t most) {
+                      std::int64_t max) {
   if (!parser.isSet(option)) return other;
   bool good = false;
   const qlonglong number = parser.value(option).toLongLong(&good);
-  if (!good || number < 0 || number > most) {
-    throw OptionError(QStringLiteral("--%1 takes a number from 0 to %2")
-                          .arg(QLatin1String(option))
-                          .arg(most)
-                          .toStdString());
+  if (!good || number < 0 || number > max) {
+    throw OptionError(
+        QStringLiteral("--%1 takes a number from 0 to %2").arg(QLatin1String(option)).arg(max).toStdString());
   }
   return number;
 }

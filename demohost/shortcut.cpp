@@ -8,7 +8,7 @@ namespace demohost {
 namespace {
 
 // A value of a desktop entry: backslash and line ends are escaped, as freedesktop.org's standard for desktop
-// entries tells under "Possible value types".
+// entries says under "Possible value types".
 std::string Value(const std::string& text) {
   std::string value;
   for (const char character : text) {

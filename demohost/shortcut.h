@@ -1,3 +1,5 @@
+// A desktop shortcut to one screen, as a desktop entry of freedesktop.org. Used by the client when the
+// module asks for one.
 #pragma once
 
 #include <filesystem>
@@ -5,16 +7,16 @@
 
 namespace demohost {
 
-// A desktop entry that starts this client with a menu item's screen. All in UTF-8.
+/// A desktop entry that starts this client with a menu item's screen. All in UTF-8.
 struct Shortcut {
   std::string item;
   std::string caption;
-  std::string icon;  // path of a picture, may be empty
+  std::string icon;  ///< path of a picture, may be empty
 };
 
-// Writes <folder>/norvik-<item>.desktop and makes it executable; an entry of that name is replaced. `program`
-// is the command that is run, with "--open ITEM" behind it. Throws FileError, also for an item that isn't
-// letters and digits. Returns the file.
+/// Writes <folder>/norvik-<item>.desktop and makes it executable; an entry of that name is replaced.
+/// `program` is the command that is run, followed by "--open ITEM". Returns the file. Throws FileError, also
+/// for an item that isn't letters and digits.
 std::filesystem::path WriteShortcut(const std::filesystem::path& folder, const std::filesystem::path& program,
                                     const Shortcut& shortcut);
 

@@ -78,4 +78,10 @@ void PackSkins(const std::filesystem::path& source, const std::filesystem::path&
   if (error) throw FileError(source.string() + ": can't be read");
 }
 
+const std::vector<SkinStyle>& SkinStyles() {
+  static const std::vector<SkinStyle> kStyles = {
+      {"SK00", "plain.skin"}, {"SK01", "light.skin"}, {"SK02", "dark.skin"}};
+  return kStyles;
+}
+
 }  // namespace demohost

@@ -55,11 +55,16 @@ std::string ReadFile(const std::filesystem::path& file) {
   return content;
 }
 
+std::filesystem::path PlaceBeside(const std::filesystem::path& file) {
+  std::filesystem::path beside = file;
+  beside += ".new";
+  return beside;
+}
+
 void ReplaceFile(const std::filesystem::path& file, std::string_view content) {
   std::error_code error;
   std::filesystem::create_directories(file.parent_path(), error);
-  std::filesystem::path beside = file;
-  beside += ".new";
+  const std::filesystem::path beside = PlaceBeside(file);
   if (!Descriptor(beside).Write(content)) {
     const std::string reason = std::strerror(errno);
     std::filesystem::remove(beside, error);

@@ -10,7 +10,8 @@ namespace {
 
 using Table = std::map<std::string, std::string, std::less<>>;
 
-// The text behind its escapes; false where a backslash is followed by anything but n, t and itself.
+// Appends to `text` what `escaped` stands for; false where a backslash is followed by anything but n, t and
+// itself.
 bool Unescape(std::string_view escaped, std::string& text) {
   for (std::size_t at = 0; at < escaped.size(); ++at) {
     if (escaped[at] != '\\') {

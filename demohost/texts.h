@@ -1,3 +1,5 @@
+// The texts of all keys in the three languages. Used by the libraries for translation and errors;
+// host_words.h has the words of the host's own windows.
 #pragma once
 
 #include <array>
@@ -8,31 +10,32 @@
 
 namespace demohost {
 
-// The languages by the names that "SYSCONFIG_DATA" bears, and the file of each in share/texts.
+/// A language by its name in "SYSCONFIG_DATA", and its file in share/texts.
 struct Language {
   std::string_view name;
   std::string_view file;
 };
+/// The three languages.
 inline constexpr std::array<Language, 3> kLanguages = {{
     {"Simplified Chinese", "zh_CN"},
     {"Traditional Chinese", "zh_TW"},
     {"English", "en"},
 }};
 
-// True for one of the three names.
+/// True for one of the three names.
 bool IsLanguage(std::string_view name);
 
-// The texts of all keys in all languages, in UTF-8.
+/// The texts of all keys in all languages, in UTF-8.
 class Texts {
  public:
-  // Reads <folder>/zh_CN.txt, zh_TW.txt and en.txt: KEY=text a line, UTF-8, `\n`, `\t` and `\\` as escapes, #
-  // before comments. Throws FileError for a line of another form and for a key that stands twice.
+  /// Reads <folder>/zh_CN.txt, zh_TW.txt and en.txt: KEY=text a line, UTF-8, `\n`, `\t` and `\\` as escapes,
+  /// # before comments. Throws FileError for a line of another form and for a key that occurs twice.
   explicit Texts(const std::filesystem::path& folder);
 
-  // The text of a key; empty where the language is unknown or has none.
+  /// The text of a key; empty where the language is unknown or has none.
   std::string_view Find(std::string_view language, std::string_view key) const;
 
-  // Every key with its text in one language; empty for an unknown one.
+  /// Every key with its text in one language; empty for an unknown one.
   const std::map<std::string, std::string, std::less<>>& All(std::string_view language) const;
 
  private:

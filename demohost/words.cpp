@@ -1,5 +1,8 @@
 #include "demohost/words.h"
 
+#include <QString>
+#include <algorithm>
+
 namespace demohost {
 
 std::vector<std::string> Split(std::string_view text, std::string_view separator) {
@@ -16,6 +19,17 @@ std::vector<std::string> Split(std::string_view text, std::string_view separator
 
 std::vector<std::string> Split(std::string_view text, char separator) {
   return Split(text, std::string_view(&separator, 1));
+}
+
+std::string LowerAscii(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c); });
+  return lower;
+}
+
+QString ToQt(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 }  // namespace demohost

@@ -17,4 +17,9 @@ std::optional<std::int64_t> CentsOf(std::string_view text) {
   return part.size() == 1 ? cents * 10 : cents;
 }
 
+std::string AmountText(std::int64_t cents) {
+  const std::string part = std::to_string(cents % 100);
+  return std::to_string(cents / 100) + "." + (part.size() == 1 ? "0" : "") + part;
+}
+
 }  // namespace demohost

@@ -1,10 +1,8 @@
 #include "demohost/bank/bank.h"
 
-#include "demohost/bank/answer.h"
 #include "demohost/bank/enquiries.h"
+#include "demohost/bank/messages.h"
 #include "demohost/bank/orders.h"
-#include "demohost/bank/refuse.h"
-#include "demohost/bank/request.h"
 #include "demohost/refusals.h"
 #include "demohost/words.h"
 #include "platform/code_page.h"
@@ -99,8 +97,7 @@ corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
       database_.Prepare("SELECT " + business->columns + " FROM " + business->tables + " WHERE 1" + where.sql +
                         " ORDER BY " + std::string(business->order));
   BindValues(statement, where);
-  corvane::List list = ResultList(statement);
-  return Answer(list);
+  return Answer(ResultList(statement));
 }
 
 corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) {
@@ -111,8 +108,7 @@ corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) 
   Statement statement =
       database_.Prepare("SELECT DISTINCT AGTBHNM FROM custody WHERE 1" + where.sql + " ORDER BY AGTBHNM");
   BindValues(statement, where);
-  corvane::List list = ResultList(statement);
-  return Answer(list);
+  return Answer(ResultList(statement));
 }
 
 }  // namespace demohost

@@ -1,3 +1,7 @@
+// The bank's server as the secure communication meets it: the code of a transaction and a request in, an
+// answer or a refusal out. It chooses who answers, and answers the two queries of the screens itself; the
+// enquiries about one bill are in enquiries.h, the actions on orders in orders.h. Knows no module and no
+// window.
 #pragma once
 
 #include <functional>
@@ -13,24 +17,23 @@
 
 namespace demohost {
 
-// One of the customer's accounts with the bank. UTF-8.
+/// One of the customer's accounts with the bank. UTF-8.
 struct BankAccount {
   std::string number;
   std::string name;
 };
 
-// The bank's server behind the secure communication: answers requests from its database. To be used by one
-// thread.
+/// The bank's server: answers requests from its database. To be used by one thread.
 class Bank {
  public:
-  // today: the bank's day.
+  /// Takes the database over; `today` is the bank's day.
   Bank(Database database, Day today);
 
-  // The answer stream to a request stream, both as text in the code page. Throws Refused for whatever the
-  // bank turns down, a failure of its own included.
+  /// The answer stream to a request stream, both as text in the code page. Throws Refused where the bank
+  /// turns the request down or fails itself.
   std::string Exchange(const std::string& transaction, const std::string& request);
 
-  // The customer's accounts in the bank's order.
+  /// The customer's accounts in the bank's order.
   std::vector<BankAccount> Accounts();
 
  private:

@@ -1,24 +1,26 @@
+#include "demohost/bank/business.h"
+
 #include <algorithm>
 #include <array>
 
-#include "demohost/bank/conditions.h"
+#include "demohost/bank/amount.h"
 
 namespace demohost {
 namespace {
 
 using enum ConditionKind;
 
-// The record fields of a bill and of its custody, which the rows of all businesses bear.
-constexpr const char* kBillColumns =
-    "b.BILLNUM, b.BILLTYP, printf('%d.%02d', b.CENTS / 100, b.CENTS % 100) AS PAYAMT, b.CRYTYPE, b.AGTSTAT, "
-    "b.ISSDATE, b.DUEDATE, b.SAVEDAT, b.BATCHNO, b.BILLSID, b.CUSTACC, c.ACCNM AS CUSTNAM, c.CUSTNUM, "
-    "b.AGTBHNM, i.AGTBNAM, b.DRWRNAM, b.DRWRACC, b.PYEENAM, b.PYEEBNA, b.PYEEACC, b.ACCPRNAM, b.ACCPRACC, "
-    "b.ACCPBNM, b.ACCPNAM, b.ACPTADR, b.ACPNM, b.ACPNAM, b.ACPADR, b.PTENDNM, b.ENDRMNT, b.TENDFLG, "
-    "b.AUTOCOL, "
-    "b.RETMACC, b.HASIMPN, b.APLYRMK, b.CHEKRMK, b.QURYNUM";
+// The record fields of a bill and of its custody, which the rows of all businesses have.
+const std::string kBillColumns =
+    std::string("b.BILLNUM, b.BILLTYP, ") + kAmountSql +
+    " AS PAYAMT, b.CRYTYPE, b.AGTSTAT, b.ISSDATE, b.DUEDATE, b.SAVEDAT, b.BATCHNO, b.BILLSID, "
+    "b.CUSTACC, c.ACCNM AS CUSTNAM, c.CUSTNUM, b.AGTBHNM, i.AGTBNAM, "
+    "b.DRWRNAM, b.DRWRACC, b.PYEENAM, b.PYEEBNA, b.PYEEACC, b.ACCPRNAM, b.ACCPRACC, "
+    "b.ACCPBNM, b.ACCPNAM, b.ACPTADR, b.ACPNM, b.ACPNAM, b.ACPADR, "
+    "b.PTENDNM, b.ENDRMNT, b.TENDFLG, b.AUTOCOL, b.RETMACC, b.HASIMPN, b.APLYRMK, b.CHEKRMK, b.QURYNUM";
 
-// Who handled an application or an event, and who collects the bill. The name of the accepting institution is
-// the caller's to find, from its number.
+// Who handled an application or an event, and who collects the bill. The caller finds the name of the
+// accepting institution from its number.
 constexpr const char* kHandlingColumns =
     ", x.DLDAT, x.DLOPR, x.CKDAT, x.CKOPR, x.BSNPUNO, '' AS BSNPUNM, x.CHCKDAT, x.BKCKOPR, x.GETPNAM, "
     "x.GETPTYP, x.GETPNUM, x.KZRFLAG";
@@ -26,9 +28,9 @@ constexpr const char* kHandlingColumns =
 constexpr const char* kBillTables =
     "bill b JOIN account c ON c.ACCNO = b.CUSTACC JOIN institution i ON i.AGTBHNM = b.AGTBHNM";
 
-// The columns behind the conditions that differ from business to business; empty where there is none.
+// The columns of the conditions that differ from business to business; empty where there is none.
 struct OwnColumns {
-  std::string_view date, application, type, type_dictionary, status, flow;
+  std::string_view date, application, type, typeDictionary, status, flow;
 };
 
 std::vector<Condition> Conditions(const OwnColumns& own) {
@@ -52,7 +54,7 @@ std::vector<Condition> Conditions(const OwnColumns& own) {
       {"SAVEDTE", kDateTo, "b.SAVEDAT"},
       {"HASIMPN", kCode, "b.HASIMPN", "YESORNO"},
       {"APPLYNO", kEqual, own.application},
-      {"APPTYPE", kCode, own.type, own.type_dictionary},
+      {"APPTYPE", kCode, own.type, own.typeDictionary},
       {"DSBKBNM", kEqual, "b.ACCPBNM || b.ACPNM"},
       {"APPREST", kCode, own.status, "LOANRESULT"},
       {"BSNFLOW", kEqual, own.flow},
@@ -65,15 +67,15 @@ const Business* FindBusiness(std::string_view code) {
   static const std::array<Business, 3> kBusinesses = {{
       {"CB200310", kBillColumns, kBillTables, "b.ID", Conditions({}), {}, {}},
       {"CB200320",
-       std::string(
-           "x.APPLYNO, x.APPREST, x.APPTYPE, x.APPDATE, x.CUSTRMK, x.BANKRMK, o.ORDERNO, o.STT, o.LASTOPRNO, "
-           "o.PREFLG, o.PREDATE, o.PRETIME, o.FLOWID, o.OPRNM, o.SMTDATE, o.SMTTIME, o.INMEMO, ") +
+       "x.APPLYNO, x.APPREST, x.APPTYPE, x.APPDATE, x.CUSTRMK, x.BANKRMK, "
+       "o.ORDERNO, o.STT, o.LASTOPRNO, o.PREFLG, o.PREDATE, o.PRETIME, o.FLOWID, o.OPRNM, "
+       "o.SMTDATE, o.SMTTIME, o.INMEMO, " +
            kBillColumns + kHandlingColumns,
        std::string(kBillTables) +
            " JOIN application x ON x.BILL = b.ID JOIN orders o ON o.APPLICATION = x.ID",
        "x.ID", Conditions({"x.APPDATE", "x.APPLYNO", "x.APPTYPE", "LOANTYPEAPP", "x.APPREST", {}}), "APLYDTS",
        "APLYDTE"},
-      {"CB200330", std::string("x.BSNFLWNO, x.APPTYPE, x.BSNDAT, ") + kBillColumns + kHandlingColumns,
+      {"CB200330", "x.BSNFLWNO, x.APPTYPE, x.BSNDAT, " + kBillColumns + kHandlingColumns,
        std::string(kBillTables) + " JOIN event x ON x.BILL = b.ID", "x.ID",
        Conditions({"x.BSNDAT", {}, "x.APPTYPE", "BUSITYPE", {}, "x.BSNFLWNO"}), "APLYDTS", "APLYDTE"},
   }};

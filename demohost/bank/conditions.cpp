@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "demohost/bank/amount.h"
-#include "demohost/bank/refuse.h"
 #include "demohost/calendar.h"
 #include "demohost/refusals.h"
 #include "demohost/words.h"
@@ -14,8 +13,8 @@ namespace {
 
 // "AC00" asks for bills of every type.
 constexpr std::string_view kEveryType = "AC00";
-// The bank answers for less than this many days at once, where it limits a range at all.
-constexpr int kRangeLimit = 181;
+// From its first to its last day a range may have this many days, where the bank limits it at all.
+constexpr int kMaxRangeDays = 180;
 
 void AddTest(Where& where, std::string_view column, std::string_view test,
              std::variant<std::string, std::int64_t> value) {
@@ -65,7 +64,7 @@ void AddCondition(Where& where, const Condition& condition, const std::string& v
   }
 }
 
-// Both values stand for one column, and the values before were found good.
+// Both values are of one column, and each of them has been found good.
 bool Reversed(ConditionKind from, const std::string& start, const std::string& end) {
   if (start.empty() || end.empty()) return false;
   return from == ConditionKind::kAmountFrom ? *CentsOf(end) < *CentsOf(start) : end < start;
@@ -75,7 +74,7 @@ void CheckRanges(const Business& business, const Fields& fields) {
   for (std::size_t at = 0; at + 1 < business.conditions.size(); ++at) {
     const Condition& from = business.conditions[at];
     const bool range = from.kind == ConditionKind::kDateFrom || from.kind == ConditionKind::kAmountFrom;
-    // The end of a range stands behind its start in the table.
+    // In the table the end of a range follows its start.
     const Condition& to = business.conditions[at + 1];
     if (range && Reversed(from.kind, Required(fields, from.field), Required(fields, to.field))) {
       throw Refused(refusal::kReversedRange, std::string(to.field));
@@ -86,12 +85,12 @@ void CheckRanges(const Business& business, const Fields& fields) {
 void CheckLimitedRange(const Business& business, const Fields& fields) {
   if (business.limitedFrom.empty()) return;
   const std::string& start = Required(fields, business.limitedFrom);
-  const std::string& end = Required(fields, business.limited_to);
+  const std::string& end = Required(fields, business.limitedTo);
   if (start.empty() && end.empty()) return;
   if (start.empty()) throw Refused(refusal::kMissingDate, std::string(business.limitedFrom));
-  if (end.empty()) throw Refused(refusal::kMissingDate, std::string(business.limited_to));
-  if ((*DayOf(end) - *DayOf(start)).count() >= kRangeLimit) {
-    throw Refused(refusal::kLongRange, std::string(business.limited_to));
+  if (end.empty()) throw Refused(refusal::kMissingDate, std::string(business.limitedTo));
+  if ((*DayOf(end) - *DayOf(start)).count() > kMaxRangeDays) {
+    throw Refused(refusal::kLongRange, std::string(business.limitedTo));
   }
 }
 

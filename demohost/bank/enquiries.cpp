@@ -1,8 +1,7 @@
 #include "demohost/bank/enquiries.h"
 
-#include "demohost/bank/answer.h"
-#include "demohost/bank/refuse.h"
-#include "demohost/bank/request.h"
+#include "demohost/bank/amount.h"
+#include "demohost/bank/messages.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"
 
@@ -11,8 +10,7 @@ namespace {
 
 // The bill's data as an enquiry's answer shows them.
 constexpr const char* kHeadColumns =
-    "ID, BILLNUM, BILLTYP, ACCPBNM || ACPNM AS ACCPBNM, ISSDATE, DUEDATE, "
-    "printf('%d.%02d', CENTS / 100, CENTS % 100) AS PMMONEY";
+    "b.ID, b.BILLNUM, b.BILLTYP, b.ACCPBNM || b.ACPNM AS ACCPBNM, b.ISSDATE, b.DUEDATE, ";
 
 constexpr const char* kEnquiryColumns =
     "e.QURYDAT, e.QURYBNO, e.QURYBNM, e.QURYCNT, e.RPLYDAT, e.RPLYBNO, e.RPLYBNM, e.RPLYCNT, e.QURYRST, "
@@ -27,10 +25,11 @@ struct BillName {
 // A number that names a bill is never empty, though some bills lack it.
 std::int64_t AddHead(Database& database, const std::string& account, const std::vector<BillName>& names,
                      corvane::CorvaneStream& answer) {
-  std::string sql = std::string("SELECT ") + kHeadColumns + " FROM bill WHERE CUSTACC = ?";
+  std::string sql =
+      std::string("SELECT ") + kHeadColumns + kAmountSql + " AS PMMONEY FROM bill b WHERE b.CUSTACC = ?";
   for (const BillName& name : names) {
     if (name.value.empty()) throw Refused(refusal::kUnknownBill, name.column);
-    sql += std::string(" AND ") + name.column + " = ?";
+    sql += std::string(" AND b.") + name.column + " = ?";
   }
   Statement bill = database.Prepare(sql);
   int parameter = 0;
@@ -51,8 +50,7 @@ corvane::CorvaneStream Enquire(Database& database, const std::string& account,
   const std::int64_t bill = AddHead(database, account, names, head);
   Statement statement = database.Prepare(records);
   statement.Bind(1, bill);
-  corvane::List list = ResultList(statement);
-  corvane::CorvaneStream answer = Answer(list);
+  corvane::CorvaneStream answer = Answer(ResultList(statement));
   answer.addFields(head.getFieldsRow());
   return answer;
 }
@@ -85,10 +83,10 @@ corvane::CorvaneStream EcdsHistory(Database& database, const corvane::CorvaneStr
 }
 
 corvane::CorvaneStream EcdsRegistration(Database& database, const corvane::CorvaneStream& request) {
-  return EnquireEcds(database, request,
-                     "SELECT r.INFOTYP, r.REGIDAT, r.REGINAM, r.REGIBNO, r.REGIBNM, r.REGICNT, "
-                     "printf('%d.%02d', b.CENTS / 100, b.CENTS % 100) AS PAYAMT, b.CRYTYPE, b.QURYNUM "
-                     "FROM registration r JOIN bill b ON b.ID = r.BILL WHERE r.BILL = ? ORDER BY r.ID");
+  return EnquireEcds(
+      database, request,
+      std::string("SELECT r.INFOTYP, r.REGIDAT, r.REGINAM, r.REGIBNO, r.REGIBNM, r.REGICNT, ") + kAmountSql +
+          " AS PAYAMT, b.CRYTYPE, b.QURYNUM FROM registration r JOIN bill b ON b.ID = r.BILL WHERE r.BILL = ? ORDER BY r.ID");
 }
 
 corvane::CorvaneStream LargeValueResult(Database& database, const corvane::CorvaneStream& request) {

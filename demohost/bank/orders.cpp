@@ -1,10 +1,8 @@
 #include "demohost/bank/orders.h"
 
 #include "demohost/bank/amount.h"
-#include "demohost/bank/answer.h"
 #include "demohost/bank/conditions.h"
-#include "demohost/bank/refuse.h"
-#include "demohost/bank/request.h"
+#include "demohost/bank/messages.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"
 
@@ -18,7 +16,7 @@ constexpr const char* kBooked = "4";
 constexpr const char* kCancelled = "9";
 constexpr const char* kOpen = "10";
 
-// The reasons that the bank gives with an order it did not cancel.
+// The reasons of the bank for an order that it didn't cancel.
 constexpr const char* kWrongState = "RS60001";
 constexpr const char* kOffHours = "RS60004";
 
@@ -45,23 +43,6 @@ void SetState(Database& database, const std::string& number, std::string_view st
   update.Bind(1, state);
   update.Bind(2, number);
   update.Step();
-}
-
-corvane::List EmptyResult() {
-  corvane::List list;
-  list.setAttribute("name", "resultList");
-  return list;
-}
-
-corvane::Row RowOf(std::initializer_list<std::pair<const char*, std::string>> fields) {
-  corvane::Row row;
-  for (const auto& [name, value] : fields) row[name] = norvik::AnsiFromUtf8(value);
-  return row;
-}
-
-std::string AmountText(std::int64_t cents) {
-  const std::string part = std::to_string(cents % 100);
-  return std::to_string(cents / 100) + "." + (part.size() == 1 ? "0" : "") + part;
 }
 
 // Count and sum of orders.
@@ -167,11 +148,10 @@ corvane::CorvaneStream AuditTrail(Database& database, const corvane::CorvaneStre
   const std::string& number = Required(fields, "ORDERNO");
   FindOrder(database, "STT", number);
   Statement steps = database.Prepare(
-      "SELECT STEPNO, OPRNO, OPRNM, CHKDATE, CHKTIME, AGREE, AGREEREM FROM step WHERE ORDERNO = ? ORDER BY "
-      "STEPNO");
+      "SELECT STEPNO, OPRNO, OPRNM, CHKDATE, CHKTIME, AGREE, AGREEREM "
+      "FROM step WHERE ORDERNO = ? ORDER BY STEPNO");
   steps.Bind(1, number);
-  corvane::List list = ResultList(steps);
-  return Answer(list);
+  return Answer(ResultList(steps));
 }
 
 corvane::CorvaneStream ApprovalFlow(Database& database, const corvane::CorvaneStream& request) {
@@ -180,8 +160,7 @@ corvane::CorvaneStream ApprovalFlow(Database& database, const corvane::CorvaneSt
   Statement head = database.Prepare("SELECT BSNNM, LEVELS FROM flow WHERE FLOWID = ?");
   head.Bind(1, flow);
   if (!head.Step()) throw Refused(refusal::kUnknownRecord, flow);
-  corvane::CorvaneStream answer;
-  answer.setEncoding("GBK");
+  corvane::CorvaneStream answer = EmptyAnswer();
   answer.addFields(RowOf({{"BSNNM", std::string(head.Text(0))}, {"AUDITTOTAL", std::string(head.Text(1))}}));
   for (std::int64_t level = 0; level <= head.Number(1); ++level) {
     Statement operators = database.Prepare(

@@ -1,10 +1,9 @@
-#include "demohost/bank/seed_orders.h"
+#include "demohost/bank/seed_tables.h"
 
 #include <array>
 
-#include "demohost/bank/insert.h"
 #include "demohost/bank/names.h"
-#include "demohost/bank/seed_words.h"
+#include "demohost/bank/seed_tools.h"
 
 namespace demohost {
 namespace {
@@ -108,7 +107,8 @@ void FillEnquiries(Database& database, const BankPlan& plan) {
   std::int64_t registration = 0;
   const std::int64_t bills = Count(database, "bill");
   for (std::int64_t bill = 1; bill <= bills; ++bill) {
-    // Bills of one account stand an even number apart, so odd divisors leave no account without records.
+    // The numbers of one account's bills differ by an even number, so with odd divisors every account has
+    // records.
     for (std::int64_t number = bill % 7; number > 0; --number) {
       AddEnquiry(enquiries, ++enquiry, bill, number % 2 == 0 ? "HVPS" : "ECDS", plan, banks, random);
     }

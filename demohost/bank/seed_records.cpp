@@ -1,11 +1,9 @@
-#include "demohost/bank/seed_records.h"
+#include "demohost/bank/seed_tables.h"
 
 #include <algorithm>
 
-#include "demohost/bank/insert.h"
 #include "demohost/bank/names.h"
-#include "demohost/bank/random.h"
-#include "demohost/bank/seed_words.h"
+#include "demohost/bank/seed_tools.h"
 
 namespace demohost {
 namespace {
@@ -30,7 +28,7 @@ struct Branch {
   std::string address;
 };
 
-// Makes the bank's records one after the other; every choice comes from one row of numbers.
+// Makes the bank's records one after the other; every choice comes from one sequence of numbers.
 class Filler {
  public:
   Filler(Database& database, const BankPlan& plan) : database_(database), plan_(plan), random_(20310066u) {}
@@ -54,9 +52,9 @@ class Filler {
   std::string Code(const std::string& dictionary, std::int64_t record) {
     return SeedCode(plan_, dictionary, record, random_);
   }
-  Day Back(std::uint32_t most) { return plan_.today - days(random_.Below(most + 1)); }
+  Day Back(std::uint32_t maxDays) { return plan_.today - days(random_.Below(maxDays + 1)); }
   Party Firm();
-  std::string Person() { return Join({random_.Pick(names::Surnames()), random_.Pick(names::GivenNames())}); }
+  std::string Person() { return SeedPerson(random_); }
   std::string Operator() { return Digits("%05lld", 1000 + random_.Below(40)) + " " + Person(); }
 
   Database& database_;

@@ -1,3 +1,6 @@
+// The table of the contract check's cases, and the functions that play them. Each file cases_*.cpp has
+// those of one subject: start, menu, items, release, moments, cycles; cases.cpp has the table. Used by
+// check.cpp alone.
 #pragma once
 
 #include <span>
@@ -8,31 +11,31 @@
 
 namespace demohost::check {
 
-// A named case of the check.
+/// A named case of the check.
 struct Case {
   const char* name;
-  const char* sentence;        // what holds for a module that passes
-  const char* needs;           // the case before it without which it is skipped; "" for none
-  void (*play)(CaseRun& run);  // fails through `run`, or returns
-  int time = 1;                // how many times the limit it may take
-  bool forEachItem = false;    // one for each item of the menu, whose name follows `name`
+  const char* sentence;        ///< what holds for a module that passes
+  const char* needs;           ///< the earlier case without which it is skipped; "" for none
+  void (*play)(CaseRun& run);  ///< fails through `run`, or returns
+  int time = 1;                ///< how many times the limit it may take
+  bool forEachItem = false;    ///< one for each item of the menu, whose name follows `name`
 };
 
-// The order in which they are played.
+/// All cases, in the order in which they are played.
 std::span<const Case> Cases();
 
-// The case of a name and the item in that name; null if there is none.
+/// The case of a name and the item in that name; null if there is none.
 struct NamedCase {
   const Case* found;
   std::string item;
 };
 NamedCase FindCase(std::string_view name);
 
-// What the cases do; the sentence of each stands in Cases().
+/// What the cases do; the sentence of each is in Cases().
 void Load(CaseRun& run);
 void Exports(CaseRun& run);
 void Start(CaseRun& run);
-// library: its place in kHostLibraries.
+/// Without any one function of the library, which is named by its place in kHostLibraries.
 void StartWithout(CaseRun& run, std::size_t library);
 void MenuText(CaseRun& run);
 void MenuOwnBuffers(CaseRun& run);

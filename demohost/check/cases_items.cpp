@@ -4,7 +4,7 @@
 
 #include "demohost/check/cases.h"
 #include "demohost/check/subject.h"
-#include "demohost/window/form_messages.h"
+#include "demohost/window/open_forms.h"
 
 namespace demohost::check {
 namespace {
@@ -25,8 +25,8 @@ QWidget* OnlyWindow(CaseRun& run, const std::string& when) {
   return windows.front();
 }
 
-void ExpectTold(CaseRun& run, std::uint32_t message, int least, const char* what) {
-  run.Expect(run.Host().Told(message) >= least,
+void ExpectTold(CaseRun& run, std::uint32_t message, int minTimes, const char* what) {
+  run.Expect(run.Host().Told(message) >= minTimes,
              std::string("the host wasn't told that the form was ") + what);
 }
 

@@ -6,7 +6,7 @@
 namespace demohost::check {
 namespace {
 
-// Bytes behind the menu text in the host's buffer, which must stay as they are.
+// Bytes after the menu text in the host's buffer, which must stay as they are.
 constexpr std::size_t kGuard = 64;
 constexpr char kGuardByte = '#';
 

@@ -10,8 +10,6 @@
 namespace demohost::check {
 namespace {
 
-constexpr const char* kExchange = "function 5 of secure communication";
-
 // The buttons of a window that can be pressed now, as children in the order in which they were made.
 std::vector<QAbstractButton*> Buttons(const QWidget* window) {
   std::vector<QAbstractButton*> buttons;

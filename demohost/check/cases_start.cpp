@@ -9,7 +9,7 @@
 namespace demohost::check {
 namespace {
 
-// The key that each library's missing function is told with, in the order of kHostLibraries.
+// The key that InitModule throws for a function missing in a library, in the order of kHostLibraries.
 constexpr const char* kMissingKeys[] = {"CF15001", "CF19002", "CF23002", "CF14010", "ET16024", "CF20023"};
 static_assert(std::size(kMissingKeys) == std::tuple_size_v<decltype(kHostLibraries)>);
 

@@ -134,7 +134,7 @@ class Check {
   std::array<int, kOutcomeNames.size()> counts_{};
 };
 
-// The words of a window that is in the way.
+// What a window says that is in the way.
 std::string WordsOf(const QWidget& window) {
   QString words = window.windowTitle();
   for (const QLabel* label : window.findChildren<QLabel*>()) words += QLatin1Char(' ') + label->text();
@@ -143,7 +143,7 @@ std::string WordsOf(const QWidget& window) {
 
 // Plays a case in the process made for it.
 int PlayHere(const Options& options) {
-  // It ends with the process that judges it, and leaves no core behind.
+  // It ends with the process that judges it, and leaves no core file.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   const rlimit none = {0, 0};
   setrlimit(RLIMIT_CORE, &none);

@@ -42,19 +42,19 @@ CheckHost::CheckHost(const Options& options, const std::filesystem::path& folder
       store_(folder / "config") {
   FillStore(store_, tables_, bank_.Accounts(), {folder / "images", SkinFolder(folder)});
   if (!options.language.empty()) {
-    store_.SetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language", options.language);
+    ChangeSetting(store_, kLanguageSetting, options.language);
   }
   OpenWindow();
   store_.SetHandle("BANK_PDATA", directory_.Handle());
   output_.printFolder = folder / "prints";
   for (const HostLibrary& library : kHostLibraries) {
     for (const norvik_ordinal& entry : library.table()) {
-      function_names_[entry.function] = "function " + std::to_string(entry.ordinal) + " of " + library.name;
+      functionNames_[entry.function] = "function " + std::to_string(entry.ordinal) + " of " + library.name;
     }
   }
   RegisterLibraries();
   const QWidgetList windows = QApplication::topLevelWidgets();
-  windows_of_host_.insert(windows.begin(), windows.end());
+  windowsOfHost_.insert(windows.begin(), windows.end());
 }
 
 CheckHost::~CheckHost() {
@@ -63,23 +63,23 @@ CheckHost::~CheckHost() {
 }
 
 void CheckHost::CloseWindow() {
-  norvik_window_unregister(window_handle_);
-  window_handle_ = 0;
-  if (window_) windows_of_host_.erase(&*window_);
+  norvik_window_unregister(windowHandle_);
+  windowHandle_ = 0;
+  if (window_) windowsOfHost_.erase(&*window_);
   window_.reset();
 }
 
 void CheckHost::OpenWindow() {
   if (window_) return;
   window_.emplace();
-  windows_of_host_.insert(&*window_);
-  window_handle_ = norvik_window_register(&Procedure, this, &*window_);
-  store_.SetHandle("APPMAINFORMHANDLE", window_handle_);
+  windowsOfHost_.insert(&*window_);
+  windowHandle_ = norvik_window_register(&Procedure, this, &*window_);
+  store_.SetHandle("APPMAINFORMHANDLE", windowHandle_);
 }
 
 void CheckHost::Called(void* function) const {
-  const auto name = function_names_.find(function);
-  if (during && name != function_names_.end()) during(name->second);
+  const auto name = functionNames_.find(function);
+  if (during && name != functionNames_.end()) during(name->second);
 }
 
 void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
@@ -94,9 +94,9 @@ void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
                      missing);
   store_.onHandle = [this](const std::string& key, std::uint32_t value) {
     if (value == 0) {
-      form_handles_.erase(key);
+      formHandles_.erase(key);
     } else {
-      form_handles_.insert(key);
+      formHandles_.insert(key);
     }
   };
 }
@@ -104,7 +104,7 @@ void CheckHost::RegisterLibraries(std::optional<MissingFunction> missing) {
 std::vector<QWidget*> CheckHost::Windows() const {
   std::vector<QWidget*> windows;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (windows_of_host_.count(window) == 0) windows.push_back(window);
+    if (windowsOfHost_.count(window) == 0) windows.push_back(window);
   }
   return windows;
 }

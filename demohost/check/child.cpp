@@ -75,7 +75,7 @@ Judged RunInChild(const std::vector<std::string>& arguments, const std::filesyst
                   bool quietly) {
   const pid_t child = Start(arguments, quietly);
   const bool ended = EndsWithin(child, std::chrono::seconds(seconds));
-  // Also what a module has started and left behind.
+  // Also whatever processes the module has started and left.
   kill(-child, SIGKILL);
   int status = 0;
   while (waitpid(child, &status, 0) < 0 && errno == EINTR) {

@@ -11,9 +11,8 @@
 namespace demohost::check {
 namespace {
 
-constexpr const char* kExchange = "function 5 of secure communication";
-// A button pumps the event loop some few times; where it pumps more, one turn is as the other.
-constexpr int kMostTurns = 4;
+// A button pumps the event loop a few times; where it pumps it more often, the turns are alike.
+constexpr int kMaxTurns = 4;
 
 PlaceKind KindOf(const std::string& place) {
   if (place.starts_with("turn ")) return PlaceKind::kTimer;
@@ -21,14 +20,14 @@ PlaceKind KindOf(const std::string& place) {
                                                                           : PlaceKind::kFunction;
 }
 
-// A function that takes a buffer back. The buffer of the function that a call ends the module in may come
-// back after that.
+// A function that takes a buffer back. A buffer may come back after the end of the module: that of the
+// function in which the call ended it.
 bool TakesBack(const std::string& place) {
   return place.starts_with("function 3 of ") || place == "function 4 of secure communication";
 }
 
 // The window that keeps the operator waiting, null if there is none. A modal one without a button is a
-// picture of work that goes on.
+// picture of work in progress.
 QWidget* WaitingWindow() {
   if (QWidget* menu = QApplication::activePopupWidget()) return menu;
   QWidget* modal = QApplication::activeModalWidget();
@@ -66,7 +65,7 @@ std::string Moments::PlaceNow() {
     return (waiting == QApplication::activePopupWidget() ? "the menu " : "the dialog ") +
            waiting->objectName().toStdString();
   }
-  if (!acting_ || turn_ == kMostTurns) return {};
+  if (!acting_ || turn_ == kMaxTurns) return {};
   return "turn " + std::to_string(++turn_) + " of the event loop";
 }
 
@@ -96,7 +95,7 @@ void Moments::Perform(const Scene& scene, const std::function<void(const std::st
   Settle();
   run_.Host().during = nullptr;
   reach_ = nullptr;
-  // What waits goes, as an operator would have it.
+  // Closes what still waits, as an operator would.
   for (int round = 0; round < 100 && WaitingWindow() != nullptr; ++round) Settle();
 }
 

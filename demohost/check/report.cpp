@@ -12,12 +12,12 @@ namespace demohost::check {
 namespace {
 
 // A module's words may be of any length; a line of the table isn't.
-constexpr std::size_t kLongest = 400;
+constexpr std::size_t kMaxLine = 400;
 
 // One line of UTF-8 without control characters.
 std::string OneLine(std::string text) {
-  if (text.size() > kLongest) {
-    std::size_t end = kLongest;
+  if (text.size() > kMaxLine) {
+    std::size_t end = kMaxLine;
     while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
     text.resize(end);
     text += "...";

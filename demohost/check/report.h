@@ -1,3 +1,5 @@
+// The file through which the process of a case reports to the one that judges it. Its lines stay readable
+// however the process ends; used on the one side by case_run.h, on the other by child.h.
 #pragma once
 
 #include <filesystem>
@@ -6,30 +8,31 @@
 
 namespace demohost::check {
 
-// What the process of a case has told, as far as it came. Texts are UTF-8, one line each.
+/// What the process of a case has reported so far. Texts are UTF-8, one line each.
 struct ReportRead {
   bool passed = false;
-  std::string failed;              // what was seen, empty without a failure
-  std::string step;                // the last thing that was begun
-  std::vector<std::string> items;  // of the module's menu
+  std::string failed;              ///< what was seen, empty without a failure
+  std::string step;                ///< what was begun last
+  std::vector<std::string> items;  ///< of the module's menu
 };
 
-// The way from the process of a case to the one that judges it: a file, whose lines stand however the process
-// ends.
+/// The report of a case that is played in this process.
 class Report {
  public:
-  // Creates the file. Throws FileError.
+  /// Creates the file. Throws FileError.
   explicit Report(const std::filesystem::path& file);
   ~Report();
   Report(const Report&) = delete;
   Report& operator=(const Report&) = delete;
 
+  /// Each writes one line, cut at 400 bytes: what is begun, an item of the menu, why the case failed, that it
+  /// passed.
   void Step(const std::string& what) { Write("step", what); }
   void Item(const std::string& name) { Write("item", name); }
   void Failed(const std::string& seen) { Write("failed", seen); }
   void Passed() { Write("passed", {}); }
 
-  // What such a file holds; nothing where there is none.
+  /// What such a file holds; nothing where there is none.
   static ReportRead Read(const std::filesystem::path& file);
 
  private:

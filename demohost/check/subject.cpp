@@ -49,10 +49,10 @@ Subject::Subject(CaseRun& run) : run_(run) {
   run_.Step("loading");
   library_ = dlopen(run.Module().c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library_ == nullptr) run_.Fail(dlerror());
-  init_module_ = Find<norvik_init_module>("InitModule");
-  menu_config_ = Find<norvik_menu_config>("MenuConfig");
-  free_buff_ = Find<norvik_free_buff>("FreeBuff");
-  call_func_ = Find<norvik_call_func>("CallFunc");
+  initModule_ = Find<norvik_init_module>("InitModule");
+  menuConfig_ = Find<norvik_menu_config>("MenuConfig");
+  freeBuff_ = Find<norvik_free_buff>("FreeBuff");
+  callFunc_ = Find<norvik_call_func>("CallFunc");
   release_ = Find<norvik_release>("Release");
 }
 
@@ -68,14 +68,14 @@ Function Subject::Find(const char* name) {
   return reinterpret_cast<Function>(symbol);
 }
 
-CallEnd Subject::Init(norvik_handle public_information, const std::string& where) {
+CallEnd Subject::Init(norvik_handle publicInformation, const std::string& where) {
   run_.Step("InitModule" + where);
-  return Caught([&] { init_result_ = init_module_(public_information); });
+  return Caught([&] { initResult_ = initModule_(publicInformation); });
 }
 
 CallEnd Subject::Call(const std::string& request, const std::string& where) {
   run_.Step("CallFunc of " + Quoted(request) + where);
-  return Caught([&] { call_func_(request.c_str(), 0); });
+  return Caught([&] { callFunc_(request.c_str(), 0); });
 }
 
 CallEnd Subject::Release(const std::string& where) {
@@ -85,18 +85,18 @@ CallEnd Subject::Release(const std::string& where) {
 
 CallEnd Subject::Menu(char** buffer) {
   run_.Step("MenuConfig");
-  return Caught([&] { menu_config_(buffer); });
+  return Caught([&] { menuConfig_(buffer); });
 }
 
 CallEnd Subject::Free(char* buffer) {
   run_.Step(buffer == nullptr ? "FreeBuff of null" : "FreeBuff");
-  return Caught([&] { free_buff_(buffer); });
+  return Caught([&] { freeBuff_(buffer); });
 }
 
 void Subject::Start(const std::string& where) {
   const CallEnd end = Init(run_.Host().PublicInformation(), where);
   run_.Expect(end.kind == CallEnd::kReturned, "InitModule" + where + ": " + end.words);
-  run_.Expect(init_result_ == 0, "InitModule" + where + ": it returned " + std::to_string(init_result_));
+  run_.Expect(initResult_ == 0, "InitModule" + where + ": it returned " + std::to_string(initResult_));
 }
 
 void Subject::Pick(const std::string& item) {

@@ -21,7 +21,7 @@ Forms MakeForms(const char* rules) {
       icu::Transliterator::createInstance(rules, UTRANS_FORWARD, status));
   if (U_FAILURE(status)) throw std::runtime_error(std::string("no conversion ") + rules);
   Forms forms;
-  // The block "CJK Unified Ideographs", of which code page 936 has the most.
+  // The block "CJK Unified Ideographs": nearly all Chinese characters of code page 936 are in it.
   for (char16_t character = 0x4E00; character < 0xA000; ++character) {
     icu::UnicodeString text(character);
     transliterator->transliterate(text);

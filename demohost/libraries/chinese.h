@@ -1,3 +1,5 @@
+// Simplified and traditional characters for the translation library and the bank directory. Goes by
+// characters, not by words, as the code page does.
 #pragma once
 
 #include <string>
@@ -5,10 +7,12 @@
 
 namespace demohost {
 
-// Narrow text with each traditional character in its simplified form, and the other way round. Character by
-// character, so that the length stays; a character without another form, or whose other form the code page
-// lacks, stays as it is, and so does everything that isn't Chinese, markup included.
+/// Narrow text with each traditional character in its simplified form. The length stays. A character stays as
+/// it is where it has no other form or the code page lacks that form; so does everything that isn't Chinese,
+/// markup included.
 std::string SimplifiedFromTraditional(std::string_view text);
+
+/// The same in the other direction.
 std::string TraditionalFromSimplified(std::string_view text);
 
 }  // namespace demohost

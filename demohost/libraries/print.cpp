@@ -1,4 +1,4 @@
-#include "demohost/bank/refuse.h"
+#include "demohost/client_data.h"
 #include "demohost/host_words.h"
 #include "demohost/libraries/libraries.h"
 #include "demohost/output/report.h"
@@ -15,7 +15,7 @@ constexpr std::pair<std::string_view, std::string_view> kTitles[] = {
     {"TfrmNorvikDTLQry", "UI25830"},
 };
 
-// The lines above the rows of a report, by the fields of its head that tell them.
+// The lines above the rows of a report, by the fields of its head.
 constexpr std::pair<const char*, HostWord> kHeadLines[] = {
     {"COUNT", HostWord::kReportCount},
     {"MAKEDATE", HostWord::kReportMade},
@@ -54,11 +54,10 @@ ExportSheet SheetOf(const std::string& name, const std::string& headText, const 
 
 ReportPaper ChosenPaper() {
   const InfoStore& store = *CurrentServices().store;
-  return {store.GetIniValue("SYSCONFIG_DATA", "CLIENT.PRINT", "Portrait") != "1",
-          store.GetIniValue("SYSCONFIG_DATA", "CLIENT.PRINT", "Paper") == "A3"};
+  return {SettingOf(store, kPortraitSetting) != "1", SettingOf(store, kPaperSetting) == "A3"};
 }
 
-// A name that no earlier report bears.
+// A file name that no earlier report has.
 std::filesystem::path FileFor(const std::string& name) {
   const std::filesystem::path& folder = CurrentServices().output->printFolder;
   for (int number = 1;; ++number) {

@@ -1,4 +1,3 @@
-#include "demohost/bank/refuse.h"
 #include "demohost/libraries/libraries.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"
@@ -7,14 +6,14 @@ namespace demohost {
 namespace {
 
 constexpr std::string_view kImagesField = "ENV.IMAGES";
-// Where nobody can write: below a file.
+// A folder that nobody can write to: it is below a file.
 constexpr const char* kNoFolder = "/dev/null/";
 
 InfoStore& Store() {
   return *CurrentServices().store;
 }
 
-// The store, for a read of what stands under a key. Throws Refused.
+// The store, for a read of the entry under a key. Throws Refused.
 const InfoStore& StoreWith(const std::string& key) {
   if (CurrentServices().faults.entries.contains(key)) {
     throw Refused(refusal::kUnknownEntry, norvik::Utf8FromAnsi(key));
@@ -22,7 +21,7 @@ const InfoStore& StoreWith(const std::string& key) {
   return Store();
 }
 
-// Runs a function whose failure the caller isn't told about.
+// Runs a function that can't report its failure to the caller by a text; it goes to the operator.
 template <class Body>
 std::int32_t Reported(Body&& body) noexcept {
   char error[kLongError] = {};

@@ -2,7 +2,6 @@
 #include <thread>
 #include <utility>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/libraries/libraries.h"
 #include "demohost/refusals.h"
 

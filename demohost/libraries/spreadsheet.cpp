@@ -1,5 +1,6 @@
 #include "demohost/libraries/libraries.h"
 #include "demohost/output/export.h"
+#include "demohost/output/workbook.h"
 #include "platform/code_page.h"
 
 namespace demohost {

@@ -5,7 +5,6 @@
 #include <cstring>
 
 #include "data/string_functions.h"
-#include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
 #include "platform/code_page.h"
 
@@ -18,34 +17,18 @@ std::int32_t Idle() {
   return 0;
 }
 
-// The longest detail that leaves room for a key behind it in a caller's error text, bytes.
-constexpr std::size_t kLongestDetail = 200;
+// A detail of at most this many bytes leaves room for the key after it in a caller's error text.
+constexpr std::size_t kMaxDetail = 200;
 
 std::string Lines(const Refused& refused) {
   const std::string detail = norvik::AnsiFromUtf8(refused.Detail());
-  return Refused(refused.Key(), std::string(corvane::cutText(detail, kLongestDetail))).Lines();
+  return Refused(refused.Key(), std::string(corvane::cutText(detail, kMaxDetail))).Lines();
 }
 
 }  // namespace
 
-Services& CurrentServices() {
-  static Services services;
-  return services;
-}
-
-std::string CurrentLanguage() {
-  const InfoStore* store = CurrentServices().store;
-  return store ? store->GetIniValue("SYSCONFIG_DATA", "APPLICATION.LANG", "Language") : std::string();
-}
-
-std::string CurrentText(std::string_view key) {
-  const Services& services = CurrentServices();
-  if (services.texts == nullptr || services.faults.texts.contains(key)) return {};
-  return std::string(services.texts->Find(CurrentLanguage(), key));
-}
-
 void NoteCall(void* function) {
-  // Whoever is told may exchange the services.
+  // The function that is called may replace the services, itself among them.
   const std::function<void(void*)> called = CurrentServices().called;
   if (called) called(function);
 }

@@ -1,69 +1,41 @@
+// How a function of a library takes texts, gives results and reports failures by the contract, so that the
+// functions themselves say only what they do. Used by the files of libraries.h; the check counts its
+// buffers.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <exception>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "demohost/bank/bank.h"
-#include "demohost/bank_clock.h"
-#include "demohost/faults.h"
-#include "demohost/info_store.h"
-#include "demohost/output/output.h"
-#include "demohost/texts.h"
+#include "demohost/libraries/services.h"
 #include "platform/host_api.h"
 
 namespace demohost {
 
-// What the libraries' functions work on. The parts live longer than the libraries.
-struct Services {
-  InfoStore* store = nullptr;
-  const Texts* texts = nullptr;
-  Bank* bank = nullptr;
-  const BankClock* clock = nullptr;
-  Output* output = nullptr;
-  // The bank takes at least this long for an exchange.
-  int delayMilliseconds = 0;
-  // A failure that the caller isn't told about, in UTF-8.
-  std::function<void(const std::string& text)> report = {};
-  // Runs at the beginning of each call of a function, which is told as its library's table has it.
-  std::function<void(void* function)> called = {};
-  Faults faults = {};
-};
-
-// The services of the libraries that are registered now. The functions of a host's library get no context, so
-// there is one set in the process.
-Services& CurrentServices();
-
-// The language that the store holds now.
-std::string CurrentLanguage();
-
-// The text of a key in that language, UTF-8; empty where there is none.
-std::string CurrentText(std::string_view key);
-
-// Memory for a result pair, with a terminator that the length doesn't count; given back with ReleaseBuffer.
-// Null does nothing.
+/// Memory for a result pair, with a terminator that the length doesn't count. The caller returns it with
+/// ReleaseBuffer.
 char* NewBuffer(const std::string& text);
+
+/// Takes such a buffer back; null does nothing.
 void ReleaseBuffer(char* buffer);
-// Result buffers that were handed out and not given back yet.
+/// The number of buffers that were handed out and not returned yet.
 std::size_t OutstandingBuffers();
 
-// Sizes of a caller's error text, its terminator included.
+/// Sizes of a caller's error text, its terminator included.
 inline constexpr std::size_t kShortError = 255;
 inline constexpr std::size_t kLongError = 256;
 
-// Writes narrow text into the caller's buffer, cut between two characters where it is too long; null is no
-// buffer.
+/// Writes narrow text and a terminator into the caller's buffer of `size` bytes, cut between two characters
+/// where it is too long. A null buffer stays untouched.
 void WriteError(char* error, std::size_t size, std::string_view text);
 
-// The lines that tell a caller of an exception: the keys of a refusal, of an exception of the module's data
-// library, or kHostFailure with its text. Called from a catch clause.
+/// The lines that report the exception being handled to a caller: those of a refusal, the keys of an
+/// exception of the record library, or kHostFailure with its text. Called from a catch clause.
 std::string ErrorLines();
 
-// Runs the body of a library function: 1, or 0 with the error text written where it threw.
+/// Runs the body of a library function. Returns 1, or 0 with the error text written where the body threw.
 template <class Body>
 std::uint8_t Guarded(char* error, std::size_t size, Body&& body) noexcept {
   try {
@@ -75,7 +47,7 @@ std::uint8_t Guarded(char* error, std::size_t size, Body&& body) noexcept {
   }
 }
 
-// The same for a function that hands out a result pair: the body gives the text.
+/// The same for a function that fills a result pair: the body returns the text.
 template <class Body>
 std::uint8_t Answered(char** buffer, std::int32_t* length, char* error, std::size_t size,
                       Body&& body) noexcept {
@@ -86,14 +58,15 @@ std::uint8_t Answered(char** buffer, std::int32_t* length, char* error, std::siz
   });
 }
 
-// Text of a caller; null reads as empty.
+/// The caller's text; null reads as empty.
 inline std::string Text(const char* text) {
   return text == nullptr ? std::string() : std::string(text);
 }
 
-// Reports a call to Services::called.
+/// Reports a call to Services::called.
 void NoteCall(void* function);
 
+/// A function of a library's table that notes its call and runs `function`.
 template <auto function>
 struct Noted;
 
@@ -105,14 +78,14 @@ struct Noted<function> {
   }
 };
 
-// Entry of a function in a library's table, which notes each call before it runs.
+/// The entry of a function in a library's table, with each call noted before it runs.
 template <auto function>
 norvik_ordinal Entry(std::uint32_t ordinal) {
   return {ordinal, reinterpret_cast<void*>(&Noted<function>::Call)};
 }
 
-// Adds an entry for each ordinal from first to last that the table doesn't have: a function that does nothing
-// and gives 0. Callers bind these and don't call them.
+/// Adds an entry for each ordinal from `first` to `last`, both included, that the table doesn't have: a
+/// function that does nothing and returns 0. Modules bind these and don't call them.
 void AddIdle(std::vector<norvik_ordinal>& table, std::uint32_t first, std::uint32_t last);
 
 }  // namespace demohost

@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
+#include "demohost/text_file.h"
 #include "platform/code_page.h"
 
 namespace demohost {
@@ -20,8 +20,7 @@ CellKind KindOf(const corvane::Row& column) {
   return column.getValue("COLID").find("DAT") == std::string::npos ? CellKind::kText : CellKind::kDate;
 }
 
-}  // namespace
-
+// The column table's rows, in UTF-8.
 std::vector<ExportColumn> ReadColumns(const corvane::List& columns) {
   std::vector<ExportColumn> read;
   for (const corvane::Row& column : columns) {
@@ -31,6 +30,28 @@ std::vector<ExportColumn> ReadColumns(const corvane::List& columns) {
   }
   return read;
 }
+
+std::string Quoted(const std::string& cell, const std::string& separator) {
+  const bool plain = cell.find_first_of("\"\r\n") == std::string::npos &&
+                     (separator.empty() || cell.find(separator) == std::string::npos);
+  if (plain) return cell;
+  std::string quoted = "\"";
+  for (const char character : cell) {
+    if (character == '"') quoted += '"';
+    quoted += character;
+  }
+  return quoted + "\"";
+}
+
+void AddLine(std::string& text, const std::vector<std::string>& cells, const std::string& separator) {
+  for (std::size_t at = 0; at < cells.size(); ++at) {
+    if (at > 0) text += separator;
+    text += Quoted(cells[at], separator);
+  }
+  text += "\r\n";
+}
+
+}  // namespace
 
 ExportSheet ReadExport(const std::string& head, const std::string& columns, const std::string& data) {
   ExportSheet sheet;
@@ -53,6 +74,20 @@ ExportSheet ReadExport(const std::string& head, const std::string& columns, cons
     throw Refused(refusal::kUnreadableText);
   }
   return sheet;
+}
+
+void WriteDelimited(const std::filesystem::path& path, const ExportSheet& sheet,
+                    const std::string& separator) {
+  std::string text = "\xEF\xBB\xBF";
+  std::vector<std::string> captions;
+  for (const ExportColumn& column : sheet.columns) captions.push_back(column.caption);
+  AddLine(text, captions, separator);
+  for (const std::vector<std::string>& row : sheet.rows) AddLine(text, row, separator);
+  try {
+    ReplaceFile(path, text);
+  } catch (const FileError& error) {
+    throw Refused(refusal::kNotExported, error.what());
+  }
 }
 
 }  // namespace demohost

@@ -7,8 +7,9 @@
 #include <algorithm>
 #include <functional>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/refusals.h"
+#include "demohost/text_file.h"
+#include "demohost/words.h"
 
 namespace demohost {
 namespace {
@@ -18,11 +19,7 @@ constexpr int kDotsPerInch = 300;
 // page.
 constexpr double kColumnScale = kDotsPerInch / 96.0 * 0.72;
 
-QString ToQt(const std::string& text) {
-  return QString::fromStdString(text);
-}
-
-// Columns that stand beside each other on one page: from first to last - 1.
+// The columns of one page: from first to last - 1.
 struct Band {
   std::size_t first, last;
 };
@@ -132,8 +129,7 @@ class Report {
 void WriteReport(const std::filesystem::path& path, const ExportSheet& sheet, const ReportPaper& paper) {
   std::error_code error;
   std::filesystem::create_directories(path.parent_path(), error);
-  std::filesystem::path beside = path;
-  beside += ".new";
+  const std::filesystem::path beside = PlaceBeside(path);
   {
     QPdfWriter writer(QString::fromStdString(beside.string()));
     writer.setResolution(kDotsPerInch);

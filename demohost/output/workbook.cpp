@@ -1,13 +1,15 @@
+#include "demohost/output/workbook.h"
+
 #include <xlsxwriter.h>
 
 #include <algorithm>
 #include <charconv>
 #include <utility>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/calendar.h"
-#include "demohost/output/export.h"
 #include "demohost/refusals.h"
+#include "demohost/text_file.h"
+#include "demohost/words.h"
 
 namespace demohost {
 namespace {
@@ -26,7 +28,7 @@ bool NumberOf(const std::string& text, double& number) {
   return !text.empty() && result.ec == std::errc() && result.ptr == end;
 }
 
-// A workbook being written; what is left of it goes where Finish isn't reached.
+// A workbook being written; its file is removed where Finish isn't reached.
 class Workbook {
  public:
   explicit Workbook(const std::filesystem::path& file) : file_(file), book_(workbook_new(file.c_str())) {
@@ -129,28 +131,20 @@ class Workbook {
   lxw_format *title_, *caption_, *text_, *right_, *amount_, *number_, *date_;
 };
 
-std::string LowerEnding(const std::filesystem::path& path) {
-  std::string ending = path.extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c); });
-  return ending;
-}
-
 }  // namespace
 
 std::filesystem::path WriteWorkbook(const std::filesystem::path& path, const ExportSheet& sheet,
                                     const std::function<bool(const std::filesystem::path&)>& mayReplace) {
   std::filesystem::path target = path;
   std::error_code error;
-  if (LowerEnding(path) == ".xls") {
+  if (LowerAscii(path.extension().string()) == ".xls") {
     target.replace_extension(".xlsx");
     if (std::filesystem::exists(target, error)) {
       if (!mayReplace) throw Refused(refusal::kNotExported, target.string());
       if (!mayReplace(target)) return {};
     }
   }
-  std::filesystem::path beside = target;
-  beside += ".new";
+  const std::filesystem::path beside = PlaceBeside(target);
   Workbook workbook(beside);
   workbook.Write(sheet);
   workbook.Finish();

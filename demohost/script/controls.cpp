@@ -117,7 +117,7 @@ QObject* FindActionWidget(QWidget* window, const QString& action) {
   return hidden;
 }
 
-ListContent ReadList(const QAbstractItemView& list, int first, int most) {
+ListContent ReadList(const QAbstractItemView& list, int first, int maxRows) {
   ListContent content;
   const QAbstractItemModel* model = list.model();
   const QHeaderView* header = HeaderOf(list);
@@ -131,7 +131,7 @@ ListContent ReadList(const QAbstractItemView& list, int first, int most) {
     content.columns.push_back(
         {model->headerData(column, Qt::Horizontal).toString(), alignment.testFlag(Qt::AlignRight)});
   }
-  const int last = std::min(model->rowCount() - first, most) + first;
+  const int last = std::min(model->rowCount() - first, maxRows) + first;
   for (int row = first; row < last; ++row) {
     QStringList cells;
     for (const int column : shown) cells << model->index(row, column).data().toString();

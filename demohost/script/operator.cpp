@@ -14,7 +14,6 @@
 #include <QPushButton>
 
 #include "demohost/script/controls.h"
-#include "demohost/script/operator_find.h"
 
 namespace demohost {
 namespace {
@@ -60,7 +59,7 @@ Operator::Action Operator::Prepare(const ScriptStep& step) {
 }
 
 QWidget* Operator::Dialog() {
-  // A modal window without a button is a picture of something at work; it goes by itself.
+  // A modal window without a button is a picture of work in progress; it closes by itself.
   QWidget* modal = QApplication::activeModalWidget();
   return modal == nullptr || modal->findChild<QAbstractButton*>() == nullptr ? nullptr : modal;
 }
@@ -131,15 +130,15 @@ Operator::Action Operator::Start(const QStringList& words) {
   if (auto* entry = qobject_cast<QAction*>(found)) {
     if (!entry->isEnabled()) throw NotYet(QStringLiteral("%1 is disabled").arg(words[0]));
     return [this, entry] {
-      menu_asked_of_ = nullptr;
+      menuAskedOf_ = nullptr;
       if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
       entry->trigger();
     };
   }
   // The list's menu is made when it opens; the entry is there at the next try.
   auto* list = FindControlAs<QAbstractItemView>(target, QStringLiteral("m_lvMain"));
-  if (list != nullptr && menu_asked_of_ != list) {
-    menu_asked_of_ = list;
+  if (list != nullptr && menuAskedOf_ != list) {
+    menuAskedOf_ = list;
     QWidget* viewport = list->viewport();
     const QPoint middle = viewport->rect().center();
     QContextMenuEvent event(QContextMenuEvent::Mouse, middle, viewport->mapToGlobal(middle));
@@ -214,12 +213,12 @@ Operator::Action Operator::Picture(const QStringList& words) {
 
 Operator::Action Operator::Print(const QStringList& words) {
   bool counted = false;
-  const int most = words.isEmpty() ? 0 : words.last().toInt(&counted);
+  const int maxRows = words.isEmpty() ? 0 : words.last().toInt(&counted);
   const QString name = words.size() == (counted ? 2 : 1) ? words[0] : QString();
   const QAbstractItemView* list = List(name);
-  return [this, list, most, counted] {
+  return [this, list, maxRows, counted] {
     const int rows = list->model()->rowCount();
-    const ListContent content = ReadList(*list, 0, counted ? most : rows);
+    const ListContent content = ReadList(*list, 0, counted ? maxRows : rows);
     out_ << AlignedTable(content.columns, content.rows);
     const int left = rows - static_cast<int>(content.rows.size());
     out_ << (left > 0 ? QStringLiteral("%1 rows, %2 more not printed\n").arg(rows).arg(left)

@@ -1,3 +1,6 @@
+// The operator of a script, who does each step with the windows of this process. operator.cpp has the steps
+// and the way to a control, operator_input.cpp the steps that fill in a control, operator_expect.cpp the
+// expectations. Nothing here waits; the player does.
 #pragma once
 
 #include <QPointer>
@@ -6,47 +9,49 @@
 #include <functional>
 #include <stdexcept>
 
+#include "demohost/script/controls.h"
 #include "demohost/script/script.h"
 
-class QAbstractItemView;
 class QComboBox;
 
 namespace demohost {
 
-// What the operator asks of the client itself.
+/// What a script asks of the client itself, beside its windows.
 struct OperatorClient {
+  /// Picks an item of the menu.
   std::function<void(const QString& item)> pick;
+  /// Chooses the language and the font of the client.
   std::function<void(const QString& name)> language;
   std::function<void(const QString& name, int size)> font;
-  // Makes something of the host go wrong: "exchange" the next one, with the key of a refusal; "row" the first
-  // bill of the next query; "text" a key's text, "entry" a read of the public information and "images" the
-  // folder of pictures, from now on; "none" ends all that.
+  /// Makes something of the host go wrong: "exchange" the next exchange, with the key of a refusal; "row" the
+  /// first bill of the next query; from now on "text" the text of a key, "entry" a read of the public
+  /// information, "images" the folder of pictures; "none" ends all that.
   std::function<void(const QString& what, const QString& key)> fail;
-  // The window of the module that is in front, null if there is none.
+  /// The window of the module that is in front, null if there is none.
   std::function<QWidget*()> front;
-  // Ends the module, whatever of it is open.
+  /// Ends the module, whatever of it is open.
   std::function<void()> end = {};
 };
 
-// A step can't be done as things stand; what() says why, in UTF-8.
+/// A step can't be done at present; what() says why, in UTF-8.
 class NotYet : public std::runtime_error {
  public:
   explicit NotYet(const QString& reason) : std::runtime_error(reason.toStdString()) {}
 };
 
-// Does what the steps of a script say with the windows of this process.
+/// Does what the steps of a script say with the windows of this process.
 class Operator {
  public:
   using Action = std::function<void()>;
 
-  // out: takes tables and what the script says.
+  /// `out` takes tables and what the script says; it outlives the object.
   Operator(OperatorClient client, QTextStream& out) : client_(std::move(client)), out_(out) {}
 
-  // Looks whether the step can be done now, and gives what does it; for an expectation that is nothing.
-  // Throws NotYet.
+  /// Throws NotYet unless the step can be done now. Returns the function that does it, an empty one for an
+  /// expectation that is met.
   Action Prepare(const ScriptStep& step);
 
-  // The dialog in front that can be answered, or null.
+  /// The dialog in front that can be answered, or null.
   static QWidget* Dialog();
 
  private:
@@ -68,7 +73,7 @@ class Operator {
   Action Answer(const QStringList& words);
   Action Choose(const QStringList& words);
   Action Expect(const QStringList& words);
-  // For what the player does itself.
+  /// For a step that the player does itself.
   Action Nothing(const QStringList& words);
   Action Picture(const QStringList& words);
   Action Print(const QStringList& words);
@@ -87,9 +92,9 @@ class Operator {
   void ExpectFocus(const QWidget* control);
   void ExpectState(const QString& state, const QString& control);
 
-  // The dialog, else the chosen window, else the client's front window. Throws NotYet.
+  /// The dialog, else the chosen window, else the client's front window. Throws NotYet.
   QWidget* Target() const;
-  // The open menu, else the target. Throws NotYet.
+  /// The open menu, else the target. Throws NotYet.
   QWidget* Front() const;
   QWidget* Control(const QString& name) const;
   template <class T>
@@ -99,10 +104,18 @@ class Operator {
   OperatorClient client_;
   QTextStream& out_;
   QPointer<QWidget> window_;
-  QPointer<QWidget> menu_asked_of_;
+  QPointer<QWidget> menuAskedOf_;
 };
 
-// The button, list or edit that a step works on must take input. Throws NotYet.
+template <class T>
+T* Operator::ControlAs(const QString& name, const char* kind) const {
+  QWidget* target = Target();
+  if (T* control = FindControlAs<T>(target, name)) return control;
+  Control(name);
+  throw NotYet(QStringLiteral("%1 isn't a %2").arg(name, QLatin1String(kind)));
+}
+
+/// Throws NotYet unless the control is visible and takes input.
 void RequireEnabled(const QWidget* control);
 
 }  // namespace demohost

@@ -1,7 +1,7 @@
 #include <QAbstractButton>
 #include <QFileInfo>
 
-#include "demohost/script/operator_find.h"
+#include "demohost/script/operator.h"
 
 namespace demohost {
 namespace {

@@ -7,7 +7,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
-#include "demohost/script/operator_find.h"
+#include "demohost/script/operator.h"
 
 namespace demohost {
 namespace {

@@ -22,7 +22,7 @@ void Player::Turn() {
   QTimer::singleShot(kTurn, this, &Player::Turn);
   if (pause_ > 0 && waiting_.elapsed() < pause_) return;
   pause_ = 0;
-  // A step is at work and no dialog has come up: it pumps events in the middle of something.
+  // A step is running and no dialog is open: it pumps events in the middle of its work.
   if (running_ > 0 && Operator::Dialog() == nullptr) return waiting_.restart(), void();
   if (next_ < steps_.size()) return PlayNext();
   if (running_ == 0 && Operator::Dialog() == nullptr) return End(ScriptEnd::kPlayed, {});

@@ -9,7 +9,7 @@ namespace {
 constexpr int kAny = std::numeric_limits<int>::max();
 
 struct CommandRule {
-  int least, most;
+  int minWords, maxWords;
   const char* usage;
 };
 
@@ -70,7 +70,8 @@ const QHash<QString, CommandRule>& Expectations() {
   throw ScriptError(QStringLiteral("line %1: %2").arg(line).arg(reason).toStdString());
 }
 
-// Reads the word in quotes whose opening quote stands at `at`; afterwards `at` stands behind the closing one.
+// Reads the word in quotes whose opening quote is at `at`; afterwards `at` is the place after the closing
+// one.
 QString QuotedWord(const QString& text, qsizetype& at, int line) {
   QString word;
   for (++at; at < text.size(); ++at) {
@@ -118,7 +119,7 @@ void CheckWords(const ScriptStep& step) {
   if (found == Commands().constEnd())
     Fail(step.line, QStringLiteral("unknown command \"%1\"").arg(step.command));
   const auto check = [&step](const CommandRule& rule, qsizetype count) {
-    if (count < rule.least || count > rule.most) {
+    if (count < rule.minWords || count > rule.maxWords) {
       Fail(step.line, QStringLiteral("expected: %1").arg(QLatin1String(rule.usage)));
     }
   };
@@ -177,7 +178,7 @@ std::vector<ScriptStep> ParseScript(const QString& text) {
 }
 
 std::vector<int> ParseNumbers(const QString& text) {
-  constexpr int kMostRows = 10000000;
+  constexpr int kMaxRow = 10000000;
   std::vector<int> numbers;
   for (const QString& part : text.split(QLatin1Char(','))) {
     const QStringList ends = part.split(QLatin1Char('-'));
@@ -185,7 +186,7 @@ std::vector<int> ParseNumbers(const QString& text) {
     bool lastGood = false;
     const int first = ends.first().toInt(&firstGood);
     const int last = ends.last().toInt(&lastGood);
-    if (!firstGood || !lastGood || ends.size() > 2 || first < 1 || last < first || last > kMostRows) {
+    if (!firstGood || !lastGood || ends.size() > 2 || first < 1 || last < first || last > kMaxRow) {
       throw std::invalid_argument("not row numbers");
     }
     for (int number = first; number <= last; ++number) numbers.push_back(number);

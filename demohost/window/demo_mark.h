@@ -1,3 +1,5 @@
+// The mark by which a window of the demonstration can't be taken for one of a real bank. Watches every
+// window of the program, so no window has to ask for it.
 #pragma once
 
 #include <QObject>
@@ -7,11 +9,14 @@ class QWidget;
 
 namespace demohost {
 
-// Tells every window of the program apart from those of a real bank: a badge in its upper right corner and a
-// suffix of its title. Windows without a frame, menus and tool tips stay as they are.
+/// Puts a badge in the upper right corner of every window of the program and a suffix after its title.
+/// Windows without a frame, menus and tool tips stay as they are.
 class DemoMark : public QObject {
  public:
+  /// Begins to watch the application's windows; the text is empty at first.
   explicit DemoMark(QObject* parent);
+
+  /// Changes the text of every badge, also of those that are shown.
   void SetText(const QString& text);
 
  protected:

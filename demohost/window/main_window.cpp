@@ -11,30 +11,18 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "demohost/client_data.h"
 #include "demohost/host_words.h"
+#include "demohost/skins.h"
 #include "demohost/texts.h"
-#include "demohost/window/form_messages.h"
+#include "demohost/words.h"
 
 namespace demohost {
-namespace {
-
-// The system command that brings a window back, and its parameter.
-constexpr std::uint32_t kSystemCommand = 274;
-constexpr std::uintptr_t kRestore = 61728;
-
-QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-}  // namespace
-
 MainWindow::MainWindow(OpenForms& forms, MainWindowActions actions)
-    : forms_(forms), actions_(std::move(actions)), open_forms_(new QLabel), bank_day_(new QLabel) {
+    : forms_(forms), actions_(std::move(actions)), openForms_(new QLabel), bankDay_(new QLabel) {
   setObjectName(QStringLiteral("demohost_main"));
   resize(1180, 760);
-  statusBar()->addPermanentWidget(open_forms_);
-  statusBar()->addPermanentWidget(bank_day_);
+  statusBar()->addPermanentWidget(openForms_);
+  statusBar()->addPermanentWidget(bankDay_);
   handle_ = norvik_window_register(&Procedure, this, static_cast<QWidget*>(this));
 }
 
@@ -49,7 +37,7 @@ void MainWindow::Show(const ClientSettings& settings, const std::vector<Business
   setWindowTitle(ToQt(Word(HostWord::kTitle, settings.language)));
   BuildMenus(items);
   BuildWelcome(items);
-  bank_day_->setText(ToQt(Word(HostWord::kBankDay, settings.language)) + QLatin1Char(' ') + bankDay);
+  bankDay_->setText(ToQt(Word(HostWord::kBankDay, settings.language)) + QLatin1Char(' ') + bankDay);
   ShowOpenForms();
 }
 
@@ -150,9 +138,9 @@ void MainWindow::ShowOpenForms() {
     titles << (window == nullptr ? QString::fromStdString(form.className)
                                  : window->windowTitle().section(QStringLiteral(" ["), 0, 0));
   }
-  open_forms_->setText(titles.isEmpty() ? ToQt(Word(HostWord::kNoForms, settings_.language))
-                                        : ToQt(Word(HostWord::kOpenForms, settings_.language)) +
-                                              QStringLiteral(": ") + titles.join(QStringLiteral(", ")));
+  openForms_->setText(titles.isEmpty() ? ToQt(Word(HostWord::kNoForms, settings_.language))
+                                       : ToQt(Word(HostWord::kOpenForms, settings_.language)) +
+                                             QStringLiteral(": ") + titles.join(QStringLiteral(", ")));
 }
 
 void MainWindow::FillWindowMenu(QMenu* menu) {
@@ -160,8 +148,9 @@ void MainWindow::FillWindowMenu(QMenu* menu) {
   for (const OpenForms::Form& form : forms_.Announced()) {
     const QWidget* window = OpenForms::WindowOf(form);
     if (window == nullptr) continue;
-    menu->addAction(window->windowTitle(), this,
-                    [handle = form.handle] { norvik_window_send(handle, kSystemCommand, kRestore, 0); });
+    menu->addAction(window->windowTitle(), this, [handle = form.handle] {
+      norvik_window_send(handle, form_message::kSystemCommand, form_message::kRestore, 0);
+    });
   }
   if (menu->isEmpty()) menu->addAction(ToQt(Word(HostWord::kNoForms, settings_.language)))->setEnabled(false);
 }

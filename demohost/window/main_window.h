@@ -1,3 +1,5 @@
+// The host's main window: menus, welcome page, status bar, and the procedure that takes the module's
+// messages. Used by the client, which gives it as functions what the menus do.
 #pragma once
 
 #include <QMainWindow>
@@ -14,13 +16,13 @@ class QVBoxLayout;
 
 namespace demohost {
 
-// An entry of the business menu: what the module is called with, and its caption in the present language.
+/// An entry of the business menu: what the module is called with, and its caption in the present language.
 struct BusinessItem {
   std::string name;
   QString caption;
 };
 
-// What the operator chose in the host's window.
+/// What the operator chose in the host's window.
 struct ClientSettings {
   std::string language;
   QString fontName;
@@ -28,7 +30,7 @@ struct ClientSettings {
   std::string style;
 };
 
-// What the main window asks of the client.
+/// What the main window asks of the client.
 struct MainWindowActions {
   std::function<void(const std::string& item)> pick;
   std::function<void(const std::string& language)> chooseLanguage;
@@ -37,20 +39,21 @@ struct MainWindowActions {
   std::function<void()> makeShortcut;
 };
 
-// The host's main window: the business menu, the settings, the open forms. It is also the window that the
-// module's messages go to.
+/// The host's main window: the business menu, the settings, the open forms. It is also the window that the
+/// module's messages go to.
 class MainWindow : public QMainWindow {
  public:
+  /// Registers the window with the platform; `forms` outlives it.
   MainWindow(OpenForms& forms, MainWindowActions actions);
   ~MainWindow() override;
 
-  // Shows menus and captions in the language of the settings.
+  /// Builds menus and captions for the settings, the items and the bank's day; does not open the window.
   void Show(const ClientSettings& settings, const std::vector<BusinessItem>& items, const QString& bankDay);
 
-  // A line for the operator in the status bar.
+  /// A line for the operator in the status bar.
   void Tell(const QString& text);
 
-  // The handle that the module sends its messages to.
+  /// The handle that the module sends its messages to.
   norvik_handle Handle() const { return handle_; }
 
  private:
@@ -65,8 +68,8 @@ class MainWindow : public QMainWindow {
   OpenForms& forms_;
   MainWindowActions actions_;
   ClientSettings settings_;
-  QLabel* open_forms_;
-  QLabel* bank_day_;
+  QLabel* openForms_;
+  QLabel* bankDay_;
   norvik_handle handle_;
 };
 

@@ -50,7 +50,7 @@ std::string Broken(const std::string& fault) {
   return std::string(BROKEN_MODULES) + "/broken_" + fault + ".so";
 }
 
-// A module with one fault, the case that finds it, and a piece of what that case tells.
+// A module with one fault, the case that finds it, and a piece of what that case reports.
 struct Fault {
   const char* fault;
   const char* finder;
@@ -168,7 +168,7 @@ TEST(Check, OpensNoItemOfAnEmptyMenu) {
 TEST(Check, RefusesACaseThatItDoesNotHave) {
   for (const char* name : {"Load", "open-", "open"}) {
     const Checked checked = Check(NORVIK_QRY, std::string("--case ") + name);
-    EXPECT_EQ(checked.status, 2);
+    EXPECT_EQ(checked.status, 2) << name;
     EXPECT_EQ(checked.text, std::string("demohost: the check has no case \"") + name + "\"\n");
   }
 }

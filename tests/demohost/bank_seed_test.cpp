@@ -18,7 +18,7 @@ TEST(BankSeed, HoldsEveryKindOfBill) {
   Database bank = OpenBank(folder / "data/bank.sqlite", TestPlan(2000));
   const struct {
     const char* sql;
-    std::int64_t least, most;
+    std::int64_t min, max;
   } cases[] = {
       {"SELECT count(*) FROM bill", 2000, 2000},
       {"SELECT count(DISTINCT BILLNUM) FROM bill", 2000, 2000},
@@ -42,9 +42,10 @@ TEST(BankSeed, HoldsEveryKindOfBill) {
        0, 0},
       {"SELECT count(*) FROM event WHERE length(BSNFLWNO) > 18 OR APPTYPE = '-9999'", 0, 0},
   };
-  for (const auto& [sql, least, most] : cases) {
+  for (const auto& [sql, min, max] : cases) {
     const std::int64_t count = Count(bank, sql);
-    EXPECT_TRUE(count >= least && count <= most) << sql << " gives " << count;
+    EXPECT_TRUE(count >= min && count <= max)
+        << sql << " finds " << count << ", expected " << min << " to " << max;
   }
 }
 

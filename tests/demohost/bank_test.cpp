@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "demohost/bank/amount.h"
-#include "demohost/bank/refuse.h"
+#include "demohost/refusals.h"
 #include "platform/code_page.h"
 #include "tests/demohost/folder.h"
 #include "tests/demohost/test_plan.h"
@@ -215,7 +215,7 @@ TEST_F(BankTest, NamesTheInstitutionsOfAnAccount) {
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>2</SRC></stream>"), "SRC\r\nBK30010");
 }
 
-TEST_F(BankTest, TellsOfItsOwnFailure) {
+TEST_F(BankTest, ReportsItsOwnFailure) {
   database_.Run("DROP TABLE custody");
   EXPECT_EQ(RefusalOf("EBBADQAH", "<stream><SRC>1</SRC><list name=\"userDataList\"><row><CUSTACC>" +
                                       accounts_[0] + "</CUSTACC></row></list></stream>"),

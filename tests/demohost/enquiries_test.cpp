@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "demohost/bank/bank.h"
-#include "demohost/bank/refuse.h"
+#include "demohost/refusals.h"
 #include "platform/code_page.h"
 #include "tests/demohost/folder.h"
 #include "tests/demohost/test_plan.h"
@@ -33,9 +33,9 @@ class EnquiriesTest : public testing::Test {
     for (const auto& [name, value] : fields) request.addField(corvane::Field(name, value));
     corvane::List list;
     list.setAttribute("name", "userDataList");
-    for (const Fields& fieldsOfRow : rows) {
+    for (const Fields& rowFields : rows) {
       corvane::Row row;
-      for (const auto& [name, value] : fieldsOfRow) row[name] = value;
+      for (const auto& [name, value] : rowFields) row[name] = value;
       list.addRow(row);
     }
     if (!rows.empty()) request.addList(list);
@@ -59,14 +59,14 @@ class EnquiriesTest : public testing::Test {
 
 TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
   const auto bill = First(
-      "SELECT b.BILLSID, b.QURYNUM, b.CUSTACC, b.BILLNUM, b.BILLTYP, b.ACCPBNM || b.ACPNM, count(e.ID) FROM "
-      "bill b "
-      "JOIN enquiry e ON e.BILL = b.ID AND e.SYSTEM = 'ECDS' WHERE b.BILLSID <> '' AND b.QURYNUM <> '' GROUP "
-      "BY b.ID");
+      "SELECT b.BILLSID, b.QURYNUM, b.CUSTACC, b.BILLNUM, b.BILLTYP, b.ACCPBNM || b.ACPNM, count(e.ID) "
+      "FROM bill b JOIN enquiry e ON e.BILL = b.ID AND e.SYSTEM = 'ECDS' "
+      "WHERE b.BILLSID <> '' AND b.QURYNUM <> '' GROUP BY b.ID");
   const Fields byId = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", ""}, {"CUSTACC", bill[2]}};
   const Fields byNumber = {{"QURYTYP", "2"}, {"BILLSID", ""}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
   const Fields byBoth = {{"QURYTYP", "1"}, {"BILLSID", bill[0]}, {"QURYNUM", bill[1]}, {"CUSTACC", bill[2]}};
   for (const Fields& fields : {byId, byNumber, byBoth}) {
+    SCOPED_TRACE("QURYTYP " + fields.at("QURYTYP") + ", QURYNUM " + fields.at("QURYNUM"));
     corvane::CorvaneStream answer = Ask("EBBADEHQ", fields);
     EXPECT_EQ(answer.getValue("BILLNUM"), bill[3]);
     EXPECT_EQ(answer.getValue("BILLTYP"), bill[4]);
@@ -85,9 +85,8 @@ TEST_F(EnquiriesTest, TellWhatIsKnownOfABill) {
   EXPECT_EQ(answer.getList("resultList")[0].getValue("INFOTYP"), registered[2]);
 
   const auto large = First(
-      "SELECT b.BILLSID, b.CUSTACC, b.BILLNUM, count(*) FROM bill b JOIN enquiry e ON e.BILL = b.ID AND "
-      "e.SYSTEM = "
-      "'HVPS' "
+      "SELECT b.BILLSID, b.CUSTACC, b.BILLNUM, count(*) "
+      "FROM bill b JOIN enquiry e ON e.BILL = b.ID AND e.SYSTEM = 'HVPS' "
       "WHERE b.BILLSID <> '' GROUP BY b.ID");
   corvane::CorvaneStream result =
       Ask("EBBADHHQ", {{"BILLSID", large[0]}, {"CUSTACC", large[1]}, {"BILLNUM", large[2]}});
@@ -118,7 +117,9 @@ TEST_F(EnquiriesTest, RefuseWhatNamesNoBillOfTheAccount) {
       {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}, {"BILLNUM", "1"}}, bill[0] + "\r\nBK30015"},
       {"EBBADHHQ", {{"BILLSID", bill[0]}, {"CUSTACC", bill[1]}}, "BILLNUM\r\nBK30003"},
   };
-  for (const auto& [code, fields, refusal] : cases) EXPECT_EQ(RefusalOf(code, fields), refusal) << code;
+  for (const auto& [code, fields, refusal] : cases) {
+    EXPECT_EQ(RefusalOf(code, fields), refusal) << code << ", expected " << refusal;
+  }
 }
 
 TEST_F(EnquiriesTest, SynchronizeTheStatesOfOpenOrders) {
@@ -187,9 +188,9 @@ TEST_F(EnquiriesTest, CancelWhatMayGoAndListTheRest) {
   for (const auto& [field, value, refusal] : cases) {
     Fields wrong = head;
     wrong[field] = value;
-    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), refusal);
+    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), refusal) << field;
     wrong.erase(field);
-    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), field + std::string("\r\nBK30003"));
+    EXPECT_EQ(RefusalOf("EBBCMCOQ", wrong, rows), field + std::string("\r\nBK30003")) << "without " << field;
   }
   rows[4]["TRNAMT"] = "x";
   EXPECT_EQ(RefusalOf("EBBCMCOQ", head, rows), "TRNAMT\r\nBK30011");

@@ -1,3 +1,4 @@
+// A scratch folder for tests that need files; used all over the tests of the demonstration host.
 #pragma once
 
 #include <stdlib.h>
@@ -6,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-// A folder of the test's own, gone with the object.
+/// A folder of the test's own, gone with the object.
 class Folder {
  public:
   Folder() {

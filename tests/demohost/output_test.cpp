@@ -4,9 +4,10 @@
 #include <cstdio>
 #include <regex>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/output/export.h"
 #include "demohost/output/report.h"
+#include "demohost/output/workbook.h"
+#include "demohost/refusals.h"
 #include "demohost/shortcut.h"
 #include "demohost/text_file.h"
 #include "platform/code_page.h"
@@ -81,13 +82,14 @@ TEST(Export, WritesAWorkbookThatAnotherReaderReads) {
   const Folder folder;
   const auto file = WriteWorkbook(folder / "a.xls", Sheet());
   EXPECT_EQ(file, folder / "a.xlsx");
-  folder.Write("read.py",
-               "import openpyxl, sys\n"
-               "sheet = openpyxl.load_workbook(sys.argv[1]).active\n"
-               "print(sheet.freeze_panes, sheet.column_dimensions['A'].width)\n"
-               "for row in sheet.iter_rows():\n"
-               "    print('|'.join('' if c.value is None else type(c.value).__name__ + ':' + repr(c.value) + "
-               "':' + c.number_format for c in row))\n");
+  folder.Write(
+      "read.py",
+      "import openpyxl, sys\n"
+      "sheet = openpyxl.load_workbook(sys.argv[1]).active\n"
+      "print(sheet.freeze_panes, sheet.column_dimensions['A'].width)\n"
+      "for row in sheet.iter_rows():\n"
+      "    cells = [(c.value, c.number_format) for c in row]\n"
+      "    print('|'.join('' if v is None else type(v).__name__ + ':' + repr(v) + ':' + f for v, f in cells))\n");
   const std::string output =
       OutputOf("/usr/bin/python3 " + (folder / "read.py").string() + " " + file.string() + " 2>&1");
   const char* lines[] = {
@@ -95,10 +97,10 @@ TEST(Export, WritesAWorkbookThatAnotherReaderReads) {
       "str:'代保管票据查询':General",
       "str:'操作员':General|str:'王芳':General",
       "str:'票号':General|str:'票面金额':General|str:'到期日':General",
-      "str:'0031310012000001':@|float:1250411.89:#,##0.00|str:'20260229':@|str:'20260115':@|str:'n/a':@|str:'"
-      "背书\\\\转让|\"待定\"':@",
-      "str:'2':@|str:'100000000000000.01':@|datetime:datetime.datetime(2026, 6, 15, 0, "
-      "0):yyyy-mm-dd||int:3:0|str:'=1+1\\n€':@",
+      "str:'0031310012000001':@|float:1250411.89:#,##0.00|str:'20260229':@|str:'20260115':@|str:'n/a':@|"
+      "str:'背书\\\\转让|\"待定\"':@",
+      "str:'2':@|str:'100000000000000.01':@|datetime:datetime.datetime(2026, 6, 15, 0, 0):yyyy-mm-dd||"
+      "int:3:0|str:'=1+1\\n€':@",
   };
   for (const char* line : lines)
     EXPECT_NE(output.find(line), std::string::npos) << line << "\nin\n" << output;
@@ -133,7 +135,7 @@ TEST(Report, RepeatsItsHeadOnEachPage) {
   };
   const int titles = count("代保管票据查询");
   EXPECT_GE(titles, 3);
-  EXPECT_EQ(count("备注"), titles / 2) << "the title stands twice on a page, as title and in the head";
+  EXPECT_EQ(count("备注"), titles / 2) << "the title is on a page twice, as title and in the head";
   EXPECT_EQ(count("LASTROW"), 1);
   EXPECT_TRUE(std::regex_search(pages, std::regex("1 ?/ ?" + std::to_string(titles / 2))))
       << pages.substr(0, 4000);

@@ -67,7 +67,7 @@ class Screen : public QWidget {
     answer = dialog.exec();
   }
 
-  // A picture of something at work, longer than a script is patient, and then a question.
+  // A picture of work in progress, for longer than the script's patience, and then a question.
   void Work() {
     QDialog busy(this);
     QTimer::singleShot(400, &busy, &QDialog::accept);
@@ -135,13 +135,26 @@ class PlayerTest : public testing::Test {
 };
 
 TEST_F(PlayerTest, WorksTheControlsAsAnOperatorDoes) {
-  Run("pick ITEM6066\nset m_edNo 12a3\nselect m_cbxAcc 1002\nselect m_lbxState in gone\nset m_crbAllCheck "
-      "on\n"
-      "tick 1,3-4\nexpect ticked 3\nstart m_actQuery\nlanguage English\nfont Sans 12\nexpect text m_edNo "
-      "123\n"
-      "expect text m_cbxAcc 1002-乙公司\nexpect checked m_crbAllCheck\nexpect disabled m_btnOff\nexpect "
-      "enabled m_actQuery\n"
-      "expect rows 4\nexpect rows >3\nexpect cell 2:金额 200\nexpect dialog none\nexpect title Screen\n");
+  Run("pick ITEM6066\n"
+      "set m_edNo 12a3\n"
+      "select m_cbxAcc 1002\n"
+      "select m_lbxState in gone\n"
+      "set m_crbAllCheck on\n"
+      "tick 1,3-4\n"
+      "expect ticked 3\n"
+      "start m_actQuery\n"
+      "language English\n"
+      "font Sans 12\n"
+      "expect text m_edNo 123\n"
+      "expect text m_cbxAcc 1002-乙公司\n"
+      "expect checked m_crbAllCheck\n"
+      "expect disabled m_btnOff\n"
+      "expect enabled m_actQuery\n"
+      "expect rows 4\n"
+      "expect rows >3\n"
+      "expect cell 2:金额 200\n"
+      "expect dialog none\n"
+      "expect title Screen\n");
   EXPECT_EQ(picked_, (QStringList{"ITEM6066", "English", "Sans12"}));
   EXPECT_EQ(screen_.activated, 2);
   EXPECT_EQ(screen_.queries, 1);
@@ -179,7 +192,7 @@ TEST_F(PlayerTest, FailsWithThePlaceAndTheReason) {
   for (const auto& [script, reason] : cases) {
     const Played played = Play(script);
     EXPECT_EQ(played.end, ScriptEnd::kFailed) << script;
-    EXPECT_EQ(played.reason.toStdString(), reason);
+    EXPECT_EQ(played.reason.toStdString(), reason) << script;
   }
 }
 

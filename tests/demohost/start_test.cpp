@@ -54,7 +54,7 @@ TEST(Options, RefuseWhatTheyDoNotTake) {
       ParseOptions(QStringList{"demohost"} + arguments, message);
       ADD_FAILURE() << arguments.join(' ').toStdString();
     } catch (const OptionError& error) {
-      EXPECT_STREQ(error.what(), reason);
+      EXPECT_STREQ(error.what(), reason) << arguments.join(' ').toStdString();
     }
   }
   QString message;
@@ -72,7 +72,7 @@ std::string FailureOf(const std::function<void()>& action) {
   return "done";
 }
 
-TEST(Module, TellsWhatItLacks) {
+TEST(Module, SaysWhatItLacks) {
   const Folder folder;
   EXPECT_NE(FailureOf([&] { Module(folder / "none.so"); }).find("none.so"), std::string::npos);
   EXPECT_NE(FailureOf([&] { Module(folder.Write("bad.so", "no library")); }).find("bad.so"),

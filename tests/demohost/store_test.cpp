@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "demohost/bank/refuse.h"
 #include "demohost/client_data.h"
 #include "demohost/info_store.h"
 #include "demohost/refusals.h"
@@ -42,23 +41,26 @@ TEST(InfoStore, RefusesWhatItDoesNotHold) {
   ini.addSection("S", row);
   store.SetIni("I", ini);
   const struct {
+    const char* name;
     std::function<void()> read;
     const char* result;
   } cases[] = {
-      {[&] { store.GetField("NONE", "A"); }, "NONE\r\nHS40001"},
-      {[&] { store.GetField("ENVIRONMENT", "B"); }, "B\r\nHS40001"},
-      {[&] { store.GetField("ENVIRONMENT", "A"); }, "done"},
-      {[&] { store.GetList("NONE"); }, "NONE\r\nHS40001"},
-      {[&] { store.GetIni("NONE"); }, "NONE\r\nHS40001"},
-      {[&] { store.GetIniValue("I", "NONE", "Item"); }, "I NONE\r\nHS40001"},
-      {[&] { store.GetIniValue("I", "S", "Other"); }, "done"},
-      {[&] { store.GetIniplus("NONE"); }, "NONE\r\nHS40001"},
-      {[&] { store.GetIniplusList("FIELDDEF", "TfrmOther"); }, "done"},
-      {[&] { store.GetIniplusRow("FIELDDEF", "TfrmX", 0); }, "done"},
-      {[&] { store.GetIniplusRow("FIELDDEF", "TfrmX", 1); }, "FIELDDEF TfrmX 1\r\nHS40001"},
-      {[&] { store.GetIniplusRow("FIELDDEF", "TfrmX", -1); }, "FIELDDEF TfrmX -1\r\nHS40001"},
+      {"unknown block", [&] { store.GetField("NONE", "A"); }, "NONE\r\nHS40001"},
+      {"unknown field", [&] { store.GetField("ENVIRONMENT", "B"); }, "B\r\nHS40001"},
+      {"a field", [&] { store.GetField("ENVIRONMENT", "A"); }, "done"},
+      {"unknown list", [&] { store.GetList("NONE"); }, "NONE\r\nHS40001"},
+      {"unknown ini", [&] { store.GetIni("NONE"); }, "NONE\r\nHS40001"},
+      {"unknown section", [&] { store.GetIniValue("I", "NONE", "Item"); }, "I NONE\r\nHS40001"},
+      {"unknown item", [&] { store.GetIniValue("I", "S", "Other"); }, "done"},
+      {"unknown iniplus", [&] { store.GetIniplus("NONE"); }, "NONE\r\nHS40001"},
+      {"section without rows", [&] { store.GetIniplusList("FIELDDEF", "TfrmOther"); }, "done"},
+      {"a row", [&] { store.GetIniplusRow("FIELDDEF", "TfrmX", 0); }, "done"},
+      {"row past the last", [&] { store.GetIniplusRow("FIELDDEF", "TfrmX", 1); },
+       "FIELDDEF TfrmX 1\r\nHS40001"},
+      {"row before the first", [&] { store.GetIniplusRow("FIELDDEF", "TfrmX", -1); },
+       "FIELDDEF TfrmX -1\r\nHS40001"},
   };
-  for (const auto& [read, result] : cases) EXPECT_EQ(RefusalOf(read), result);
+  for (const auto& [name, read, result] : cases) EXPECT_EQ(RefusalOf(read), result) << name;
   EXPECT_EQ(store.GetIniValue("I", "S", "Item"), "v");
   EXPECT_EQ(store.Handle("NONE"), 0u);
 }
@@ -93,7 +95,7 @@ TEST(InfoStore, PutsADamagedFileAside) {
   EXPECT_TRUE(std::filesystem::exists(folder / "column_info.xml"));
 }
 
-TEST(InfoStore, TellsOfAFileThatCannotBeWritten) {
+TEST(InfoStore, ReportsAFileThatCannotBeWritten) {
   const Folder folder;
   folder.Write("file", "");
   InfoStore store(folder / "file/below");

@@ -1,10 +1,12 @@
+// The plan of a small bank with every dictionary from which a record takes a code. Used by the tests of the
+// demonstration host that ask a bank.
 #pragma once
 
 #include "demohost/bank/seed.h"
 
 namespace demohost {
 
-// A bank's plan with few codes, around a fixed day.
+/// A bank's plan with few codes, around a fixed day.
 inline BankPlan TestPlan(std::int64_t bills) {
   return {bills,
           *DayOf("20260615"),

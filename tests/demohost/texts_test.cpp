@@ -15,7 +15,7 @@ bool FitsCodePage(const std::string& utf8) {
   return norvik::Utf8FromAnsi(norvik::AnsiFromUtf8(utf8)) == utf8;
 }
 
-// What is wrong with a text as it stands in its file; empty when nothing is.
+// What is wrong with a text of a file, escapes unresolved; empty when nothing is.
 std::string Fault(const std::string& text) {
   if (text.empty()) return "empty text";
   if (text.front() == ' ' || text.back() == ' ' || text.back() == '\r') return "blank at an end";

@@ -44,7 +44,7 @@ TEST(OpenForms, FollowHandlesAndMessages) {
   EXPECT_EQ(Names(forms.Announced()), (std::vector<std::string>{"TfrmOne", "TfrmTwo"}));
   forms.Activated(100);
   EXPECT_EQ(Names(forms.Announced()), (std::vector<std::string>{"TfrmTwo", "TfrmOne"}));
-  // A dialog enters its handle without a message, and takes it away again.
+  // A dialog enters its handle without a message, and removes it again.
   forms.HandleEntered("TFrmComMsg", 13);
   EXPECT_EQ(forms.Announced().size(), 2u);
   EXPECT_EQ(forms.All().size(), 3u);

@@ -28,24 +28,24 @@ QWidget* FormOf(const QString& className) {
 class MinimalHost : public testing::Test {
  protected:
   void SetUp() override {
-    m_module = dlopen(NORVIK_MODULE, RTLD_NOW | RTLD_LOCAL);
-    ASSERT_NE(m_module, nullptr) << dlerror();
+    module_ = dlopen(NORVIK_MODULE, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(module_, nullptr) << dlerror();
     static const norvik_handle kPublicInformation = minimal_host_open(nullptr);
-    ASSERT_EQ(Export<norvik_init_module>(m_module, "InitModule")(kPublicInformation), 0U);
+    ASSERT_EQ(Export<norvik_init_module>(module_, "InitModule")(kPublicInformation), 0U);
   }
 
   void TearDown() override {
-    if (!m_module) return;
-    Export<norvik_release>(m_module, "Release")();
-    dlclose(m_module);
+    if (!module_) return;
+    Export<norvik_release>(module_, "Release")();
+    dlclose(module_);
   }
 
   void Pick(const std::string& item) {
     const std::string request = "<row><ItemName>" + item + "</ItemName></row>";
-    Export<norvik_call_func>(m_module, "CallFunc")(request.c_str(), 0);
+    Export<norvik_call_func>(module_, "CallFunc")(request.c_str(), 0);
   }
 
-  void* m_module = nullptr;
+  void* module_ = nullptr;
 };
 
 }  // namespace

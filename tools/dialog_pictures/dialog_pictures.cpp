@@ -35,7 +35,7 @@ constexpr const char* kOrder = "OD000000000004";  // went through three steps, o
 constexpr int kLooks = 20;                        // milliseconds between two looks at what is open
 constexpr int kPatience = 250;                    // looks that a dialog may take to come
 
-// A dialog: what is done before its picture is taken, and what behind it.
+// A dialog: what is done before its picture is taken, and what after it.
 struct Scene {
   const char* form;
   const char* picture;
@@ -85,7 +85,7 @@ class Photographer {
       Complain(QStringLiteral("%1: %2").arg(QLatin1String(scene.form), fault));
     const QString file = folder_ + QLatin1Char('/') + QLatin1String(scene.picture);
     if (!form->Widget()->grab().save(file)) Complain(file + QStringLiteral(" can't be written"));
-    // Behind this look, since a timer stands still while its own call opens a dialog.
+    // After this look, since a timer stands still while its own call opens a dialog.
     QTimer::singleShot(0, form, [&scene, form] { scene.leave(form); });
   }
   void Complain(const QString& what) {

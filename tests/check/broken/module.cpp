@@ -73,7 +73,7 @@ std::uint32_t HandleOf(const char* key) {
   std::abort();
 }
 
-// How a missing function is told.
+// Reports a missing function.
 void Refuse(const Library& library, std::uint32_t ordinal) {
   if (Has("missing_swallowed") && ordinal == 4 && library.key == std::string_view("CF14010")) return;
   if (Has("missing_wrong_key") && ordinal == 7 && library.key == std::string_view("CF19002")) {
@@ -92,7 +92,7 @@ void Bind(const Library& library, norvik_handle handle) {
   }
 }
 
-// A screen: a window that tells the host of itself.
+// A screen: a window that announces itself to the host.
 class Screen : public QWidget {
  public:
   explicit Screen(const char* name) : name_(name) {

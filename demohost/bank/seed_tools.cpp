@@ -1,4 +1,4 @@
-#include "demohost/bank/seed_words.h"
+#include "demohost/bank/seed_tools.h"
 
 #include <cstdio>
 
