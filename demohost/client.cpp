@@ -83,7 +83,7 @@ Client::Client(const Options& options)
   output_.made = [this](const std::filesystem::path& file) { Announce(HostWord::kSaved, file.string()); };
   output_.mayReplace = [this](const std::filesystem::path& file) { return MayReplace(file); };
   output_.printSettings = [this](const std::string&) {
-    if (AskPrintSettings(store_, CurrentLanguage(), &window_)) Save();
+    if (AskPrintSettings(store_, ChosenLanguage(), &window_)) Save();
   };
   Services services{&store_, &texts_, &bank_, &clock_, &output_, options.delay, {}};
   services.report = [this](const std::string& text) { window_.Tell(ToQt(text)); };
@@ -116,7 +116,7 @@ BankPlan Client::Plan(const Options& options) const {
   return {options.bills, kBankDay, CodesOf(tables_)};
 }
 
-std::string Client::CurrentLanguage() const {
+std::string Client::ChosenLanguage() const {
   return SettingOf(store_, kLanguageSetting);
 }
 
@@ -125,7 +125,7 @@ void Client::Show() {
 }
 
 void Client::ShowWindow() {
-  const ClientSettings settings{CurrentLanguage(), ToQt(SettingOf(store_, kFontNameSetting)),
+  const ClientSettings settings{ChosenLanguage(), ToQt(SettingOf(store_, kFontNameSetting)),
                                 std::max(1, std::atoi(SettingOf(store_, kFontSizeSetting).c_str())),
                                 SettingOf(store_, kStyleSetting)};
   std::vector<BusinessItem> items;
@@ -147,7 +147,7 @@ void Client::Pick(const std::string& item) {
 }
 
 void Client::ShowFailure(const std::exception& failure) {
-  const std::string language = CurrentLanguage();
+  const std::string language = ChosenLanguage();
   QMessageBox::warning(
       &window_, window_.windowTitle(),
       ToQt(Word(HostWord::kModuleFailed, language)) + QLatin1Char('\n') + ToQt(failure.what()));
@@ -200,12 +200,12 @@ void Client::Save() {
 }
 
 void Client::Announce(HostWord word, const std::string& detail) {
-  const std::string_view text = Word(word, CurrentLanguage());
+  const std::string_view text = Word(word, ChosenLanguage());
   window_.Tell(ToQt(text) + QStringLiteral(": ") + ToQt(detail));
 }
 
 bool Client::MayReplace(const std::filesystem::path& file) {
-  const std::string_view question = texts_.Find(CurrentLanguage(), kMayReplace);
+  const std::string_view question = texts_.Find(ChosenLanguage(), kMayReplace);
   QMessageBox box(QMessageBox::Question, window_.windowTitle(),
                   ToQt(question) + QLatin1Char('\n') + ToQt(file.string()),
                   QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());

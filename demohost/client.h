@@ -67,7 +67,7 @@ class Client {
   bool MayReplace(const std::filesystem::path& file);
   void ShowFailure(const std::exception& failure);
   void Announce(HostWord word, const std::string& detail);
-  std::string CurrentLanguage() const;
+  std::string ChosenLanguage() const;
 
   Options options_;
   Texts texts_;

@@ -21,14 +21,14 @@ struct Options {
   std::filesystem::path data;     ///< the bank, pictures, printed reports
   std::filesystem::path config;   ///< layouts and settings
   std::filesystem::path desktop;  ///< where shortcuts go
-  std::int64_t bills = 10000;
-  Day today = kBankDay;
-  int delay = 0;           ///< milliseconds that an exchange takes at least
-  int directoryDelay = 0;  ///< milliseconds more until the bank directory is full
-  int patience = 5000;     ///< milliseconds that a step of a script may wait
-  QString script;          ///< a script's file, "-" for the standard input, empty for none
-  std::string open;        ///< a menu item to open at start
-  std::string language;    ///< instead of the saved one, for this run
+  std::int64_t bills = 10000;     ///< of the bank
+  Day today = kBankDay;           ///< the bank's day
+  int delay = 0;                  ///< milliseconds that an exchange takes at least
+  int directoryDelay = 0;         ///< milliseconds more until the bank directory is full
+  int patience = 5000;            ///< milliseconds that a step of a script may wait
+  QString script;                 ///< a script's file, "-" for the standard input, empty for none
+  std::string open;               ///< a menu item to open at start
+  std::string language;           ///< instead of the saved one, for this run
 
   std::filesystem::path check;        ///< the module to check against the contract; empty for no check
   std::string checkCase;              ///< the only case to play; empty for all

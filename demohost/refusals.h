@@ -47,10 +47,11 @@ namespace demohost {
 /// empty).
 class Refused : public std::runtime_error {
  public:
+  /// `key` is one of the keys above, or one of the module's.
   explicit Refused(std::string_view key, std::string detail = {})
       : std::runtime_error(std::string(key)), detail_(std::move(detail)) {}
 
-  /// One of the keys above, or one of the module's.
+  /// The key.
   std::string Key() const { return what(); }
   /// The detail, or an empty text.
   const std::string& Detail() const { return detail_; }

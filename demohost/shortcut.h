@@ -14,7 +14,7 @@ struct Shortcut {
   std::string icon;  ///< path of a picture, may be empty
 };
 
-/// Writes <folder>/norvik-<item>.desktop and makes it executable; an entry of that name is replaced.
+/// Writes `folder`/norvik-ITEM.desktop and makes it executable; an entry of that name is replaced.
 /// `program` is the command that is run, followed by "--open ITEM". Returns the file. Throws FileError, also
 /// for an item that isn't letters and digits.
 std::filesystem::path WriteShortcut(const std::filesystem::path& folder, const std::filesystem::path& program,

@@ -7,8 +7,8 @@
 
 namespace demohost {
 
-/// Makes a skin <target>/<name>.skin of each list of colours <source>/<name>.colours: the style sheet
-/// <source>/forms.qss with "@name" replaced by the colour of that name, in UTF-8, compressed as qCompress
+/// Makes a skin `target`/NAME.skin of each list of colours `source`/NAME.colours: the style sheet
+/// `source`/forms.qss with "@name" replaced by the colour of that name, in UTF-8, compressed as qCompress
 /// does, which is the form of a module's skins. "@tick" is the path of the picture of a tick that is
 /// drawn beside the skin. Throws FileError, also for a colour that a list lacks.
 void PackSkins(const std::filesystem::path& source, const std::filesystem::path& target);

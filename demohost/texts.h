@@ -28,7 +28,7 @@ bool IsLanguage(std::string_view name);
 /// The texts of all keys in all languages, in UTF-8.
 class Texts {
  public:
-  /// Reads <folder>/zh_CN.txt, zh_TW.txt and en.txt: KEY=text a line, UTF-8, `\n`, `\t` and `\\` as escapes,
+  /// Reads `folder`/zh_CN.txt, zh_TW.txt and en.txt: KEY=text a line, UTF-8, `\n`, `\t` and `\\` as escapes,
   /// # before comments. Throws FileError for a line of another form and for a key that occurs twice.
   explicit Texts(const std::filesystem::path& folder);
 

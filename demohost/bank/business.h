@@ -25,19 +25,21 @@ enum class ConditionKind {
 struct Condition {
   std::string_view field;
   ConditionKind kind;
-  std::string_view column;
-  std::string_view dictionary = {};
+  std::string_view column;           ///< an expression over the tables of the business
+  std::string_view dictionary = {};  ///< of a code
 };
 
 /// What "EBBADQDB" answers for one business code.
 struct Business {
   std::string_view code;
-  std::string columns;  ///< the list after SELECT, in the order of the answer
-  std::string tables;   ///< the joins after FROM
-  std::string_view order;
-  std::vector<Condition> conditions;
-  std::string_view limitedFrom,
-      limitedTo;  ///< a range that is given with both ends and spans at most 180 days, or empty
+  std::string columns;                ///< the list after SELECT, in the order of the answer
+  std::string tables;                 ///< the joins after FROM
+  std::string_view order;             ///< what the answer is sorted by
+  std::vector<Condition> conditions;  ///< every field that a request must have
+  /// The fields of a range that is given with both ends or not at all, and spans at most 180 days; empty
+  /// where there is none.
+  std::string_view limitedFrom;
+  std::string_view limitedTo;
 };
 
 /// The business of that code, or null.

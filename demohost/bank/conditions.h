@@ -17,7 +17,7 @@ namespace demohost {
 
 /// The conditions of a statement, with their values in the order of the question marks.
 struct Where {
-  std::string sql;
+  std::string sql;  ///< " AND ..." for each condition, to follow a condition
   std::vector<std::variant<std::string, std::int64_t>> values;
 };
 

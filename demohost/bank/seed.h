@@ -18,8 +18,8 @@ using CodeTables = std::map<std::string, std::vector<std::string>>;
 
 /// What a bank is made of. The same values make the same bank.
 struct BankPlan {
-  std::int64_t bills = 10000;
-  Day today{};       ///< the bills' dates lie around this day
+  std::int64_t bills = 10000;  ///< how many there are
+  Day today{};                 ///< the dates of the bills are around this day
   CodeTables codes;  ///< each code is in some record; "-9999" and "AC00", which mean no choice, are in none
 };
 

@@ -18,6 +18,7 @@ namespace demohost {
 /// the standard differ from library to library.
 class Random {
  public:
+  /// Begins the sequence of this seed.
   explicit Random(std::uint32_t seed) : engine_(seed) {}
 
   /// 0 to `bound` - 1; `bound` must be above 0.

@@ -13,7 +13,7 @@ namespace demohost::check {
 
 /// A named case of the check.
 struct Case {
-  const char* name;
+  const char* name;            ///< as the command line takes it
   const char* sentence;        ///< what holds for a module that passes
   const char* needs;           ///< the earlier case without which it is skipped; "" for none
   void (*play)(CaseRun& run);  ///< fails through `run`, or returns

@@ -25,8 +25,8 @@ inline constexpr const char* kExchange = "function 5 of secure communication";
 struct Scene {
   std::string what;  ///< a name of `act`, for reports
   std::function<void()> prepare;
-  std::function<CallEnd()> act;
-  bool opens = true;  ///< the module is started and stays so
+  std::function<CallEnd()> act;  ///< returns how its call into the module ended
+  bool opens = true;             ///< the module is started and stays so
 };
 
 /// Plays scenes and makes each call of a host at each place that comes up in them, a round for each; the case

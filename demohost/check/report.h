@@ -25,11 +25,13 @@ class Report {
   Report(const Report&) = delete;
   Report& operator=(const Report&) = delete;
 
-  /// Each writes one line, cut at 400 bytes: what is begun, an item of the menu, why the case failed, that it
-  /// passed.
+  /// Writes a line, cut at 400 bytes: what is begun now.
   void Step(const std::string& what) { Write("step", what); }
+  /// Writes the name of an item of the menu.
   void Item(const std::string& name) { Write("item", name); }
+  /// Writes why the case has failed.
   void Failed(const std::string& seen) { Write("failed", seen); }
+  /// Writes that the case has passed.
   void Passed() { Write("passed", {}); }
 
   /// What such a file holds; nothing where there is none.

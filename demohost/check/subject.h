@@ -15,11 +15,13 @@ namespace demohost::check {
 
 /// How a call into a module ended.
 struct CallEnd {
-  enum Kind { kReturned, kContract, kForeign };  ///< an exception of corvane::TException, or another one
+  /// It returned, threw a corvane::TException, or threw anything else.
+  enum Kind { kReturned, kContract, kForeign };
   Kind kind = kReturned;
   std::vector<std::string> keys;      ///< of kContract, narrow text
   std::string words = "it returned";  ///< what was seen, UTF-8
 
+  /// True if it threw a corvane::TException with this one key.
   bool Threw(const char* key) const { return kind == kContract && keys == std::vector<std::string>{key}; }
 };
 
@@ -35,11 +37,15 @@ class Subject {
   Subject(const Subject&) = delete;
   Subject& operator=(const Subject&) = delete;
 
-  /// The five calls as they are. Each is noted as a step; `where` says under which circumstances.
+  /// Calls InitModule. Each call is noted as a step; `where` says under which circumstances.
   CallEnd Init(norvik_handle publicInformation, const std::string& where = {});
+  /// Calls CallFunc with the text of a request.
   CallEnd Call(const std::string& request, const std::string& where = {});
+  /// Calls Release.
   CallEnd Release(const std::string& where = {});
+  /// Calls MenuConfig with a buffer of the host's, or with null in it.
   CallEnd Menu(char** buffer);
+  /// Calls FreeBuff, null allowed.
   CallEnd Free(char* buffer);
 
   /// InitModule as a sound host calls it; the case fails unless it returns 0.

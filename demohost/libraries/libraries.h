@@ -34,8 +34,8 @@ extern const std::array<HostLibrary, 6> kHostLibraries;
 
 /// A function that a library is registered without.
 struct MissingFunction {
-  std::size_t library;  ///< its place in kHostLibraries
-  std::uint32_t ordinal;
+  std::size_t library;    ///< its place in kHostLibraries
+  std::uint32_t ordinal;  ///< its number in the library
 };
 
 /// The six libraries, registered as modules of this program from construction to destruction. At most one

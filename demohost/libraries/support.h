@@ -70,8 +70,10 @@ void NoteCall(void* function);
 template <auto function>
 struct Noted;
 
+/// The same, taken apart into result and arguments.
 template <class Result, class... Arguments, Result (*function)(Arguments...)>
 struct Noted<function> {
+  /// What the table has in the place of the function.
   static Result Call(Arguments... arguments) {
     NoteCall(reinterpret_cast<void*>(&Call));
     return function(arguments...);

@@ -16,10 +16,10 @@ enum class CellKind { kText, kAmount, kNumber, kDate };
 
 /// A column of an export, texts in UTF-8.
 struct ExportColumn {
-  std::string field;
+  std::string field;  ///< the name of its values in a record
   std::string caption;
-  int width = 0;  ///< pixels
-  bool right = false;
+  int width = 0;       ///< pixels
+  bool right = false;  ///< its values are aligned to the right
   CellKind kind = CellKind::kText;
 };
 
@@ -28,7 +28,7 @@ struct ExportSheet {
   std::string title;
   std::vector<std::pair<std::string, std::string>> head;  ///< the lines above the list: a name and its value
   std::vector<ExportColumn> columns;
-  std::vector<std::vector<std::string>> rows;
+  std::vector<std::vector<std::string>> rows;  ///< a cell for each column
 };
 
 /// The sheet of the three texts that a module hands to the spreadsheet library: a row, and two lists. Throws

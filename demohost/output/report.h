@@ -13,8 +13,8 @@ namespace demohost {
 
 /// The paper of a report.
 struct ReportPaper {
-  bool landscape = true;
-  bool a3 = false;  ///< else A4
+  bool landscape = true;  ///< else portrait
+  bool a3 = false;        ///< else A4
 };
 
 /// Lays a sheet out as a PDF: on each page the title, the head, the captions and a page number, and as many

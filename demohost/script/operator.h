@@ -20,8 +20,9 @@ namespace demohost {
 struct OperatorClient {
   /// Picks an item of the menu.
   std::function<void(const QString& item)> pick;
-  /// Chooses the language and the font of the client.
+  /// Chooses the language of the client.
   std::function<void(const QString& name)> language;
+  /// Chooses its font, with the size in points.
   std::function<void(const QString& name, int size)> font;
   /// Makes something of the host go wrong: "exchange" the next exchange, with the key of a refusal; "row" the
   /// first bill of the next query; from now on "text" the text of a key, "entry" a read of the public
@@ -36,12 +37,14 @@ struct OperatorClient {
 /// A step can't be done at present; what() says why, in UTF-8.
 class NotYet : public std::runtime_error {
  public:
+  /// The reason becomes what().
   explicit NotYet(const QString& reason) : std::runtime_error(reason.toStdString()) {}
 };
 
 /// Does what the steps of a script say with the windows of this process.
 class Operator {
  public:
+  /// What does a step; empty for nothing.
   using Action = std::function<void()>;
 
   /// `out` takes tables and what the script says; it outlives the object.

@@ -17,10 +17,10 @@ class ScriptError : public std::runtime_error {
 
 /// One line of an operator's script: its command and the words after it.
 struct ScriptStep {
-  int line = 0;
+  int line = 0;    ///< counted from 1
   QString source;  ///< the line as it was written, trimmed
   QString command;
-  QStringList words;
+  QStringList words;  ///< without quotes and escapes
 };
 
 /// Reads a script: one step a line, words divided by blanks, quotes around a word with blanks (with \" \\ \n

@@ -32,17 +32,18 @@ class OpenForms {
   /// A form that has a handle.
   struct Form {
     std::string className;
-    norvik_handle handle = 0;
+    norvik_handle handle = 0;    ///< takes messages to the form
     std::uintptr_t address = 0;  ///< 0 until the form has been announced
   };
 
   /// Takes note of a handle entered in the store, 0 for a closed form. A key that isn't a form's is ignored.
   void HandleEntered(const std::string& key, norvik_handle value);
 
-  /// Take the three messages about a form, which is given by its address. A form that is shown is the one
-  /// that entered its handle last.
+  /// Takes the message kShown: the form at this address is the one that entered its handle last.
   void Shown(std::uintptr_t form);
+  /// Takes kClosed: the form is no longer known.
   void Closed(std::uintptr_t form);
+  /// Takes kActivated: the form is in front.
   void Activated(std::uintptr_t form);
 
   /// The announced forms, the one that was in front last at the end.
