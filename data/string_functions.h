@@ -1,10 +1,8 @@
-// Functions over narrow text: searching and cutting by whole characters, trimming, replacing, and numbers as
-// text.
+// Functions over narrow text: search and cut by whole characters, trim, replace, and numbers as text.
 //
-// This is the one place where the library steps through narrow text. In a double-byte code page the second
-// byte of a character may look like `\`, `|` or another ASCII character; it is not that character, and none
-// of these operations takes it for one. StringVector splits and joins by them; where a character ends is
-// platform/code_page.h's matter.
+// In a double-byte code page the second byte of a character may look like `\`, `|` or another ASCII character;
+// it is not that character, and none of these operations takes it for one. StringVector splits and joins by
+// them; where a character ends is platform/code_page.h's matter.
 #pragma once
 
 #include <cstddef>

@@ -1,18 +1,7 @@
-// Writing documents as XML text.
+// Writing documents as XML text: one document as a text of its own, or several elements into one.
 //
-// For the documents themselves and for callers that put several documents into one text. The text is the
-// prolog and the root element, with no white space between elements and no line end after it. An element
-// without content is `<NAME/>`; attributes stand in byte order of their names, empty ones are left out.
-//
-// In character data &, < and > are escaped, in attribute values &, < and "; a CR is written &#13; in both, a
-// tab and an LF in attribute values as &#9; and &#10;, so that every value is read back byte for byte. Other
-// characters stand as themselves, in the ANSI code page whatever the prolog says; a byte that the code page
-// lacks comes out as '?'.
-//
-// What a reader would refuse is not written: a tag or attribute name that is no XML name or bears a prefix
-// that nothing around it declares, a declaration that binds a name which XML reserves, two attributes of one
-// element that differ in nothing but prefixes of the same namespace, an encoding's label with a quote, a
-// control character that XML forbids, a character that is none.
+// For the documents themselves and for callers that put several documents into one text. It does not change
+// what it writes; what no reader would take it refuses.
 #pragma once
 
 #include <cstddef>
@@ -46,9 +35,21 @@ CORVANE_EXPORT bool writeXml(const Ini& ini, std::string& text);
 /// The same of another class.
 CORVANE_EXPORT bool writeXml(const Iniplus& iniplus, std::string& text);
 
-/// Appends elements to one text. The operations throw TException with the inner key of what is refused:
-/// ET10062 a tag, ET10072 an attribute's name, ET10073 its value, ET10074 an attribute that the element has
-/// already, ET10071 a value in character data or the encoding's label.
+/// Appends elements to one text: the prolog and the root element, with no white space between elements and no
+/// line end after it. An element without content is `<NAME/>`; attributes stand in byte order of their names,
+/// empty ones are left out.
+///
+/// In character data &, `<` and > are escaped, in attribute values &, `<` and "; a CR is written &#13; in
+/// both, a tab and an LF in attribute values as &#9; and &#10;, so that every value is read back byte for
+/// byte. Other characters stand as themselves, in the ANSI code page whatever the prolog says; a byte that
+/// the code page lacks comes out as '?'.
+///
+/// What a reader would refuse is not written: a tag or attribute name that is no XML name or bears a prefix
+/// that nothing around it declares, a declaration that binds a name which XML reserves, two attributes of one
+/// element that differ in nothing but prefixes of the same namespace, an encoding's label with a quote, a
+/// control character that XML forbids, a character that is none. The operations throw TException with the
+/// inner key of what is refused: ET10062 a tag, ET10072 an attribute's name, ET10073 its value, ET10074 an
+/// attribute that the element has already, ET10071 a value in character data or the encoding's label.
 class CORVANE_EXPORT XmlWriter {
  public:
   /// Begins with the prolog.

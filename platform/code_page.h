@@ -1,15 +1,8 @@
 // Narrow text and its code page: where its characters are, and the ways to UTF-16 and UTF-8 and back.
 //
-// A narrow string is bytes in the process's ANSI code page: 936 unless SetAnsiCodePage names another. Served
-// are 65001 (UTF-8) and the Windows code pages whose characters are bytes and pairs and begin with ASCII:
-// 874, 932, 936, 949, 950, 1250 to 1257 and the like, with the tables that ICU has of them. Refused are 1258,
-// which writes accents apart from their letters, and those of EBCDIC, UTF-16, shifted or longer codes. In
-// code page 936 each of the 23,940 pairs, 0x80 (the euro sign) and 0xFF come back unchanged, the user-defined
-// characters among them. One rule holds for what a code page lacks: a character without a code point widens
-// to one U+FFFD, one that it cannot express (a surrogate pair is one, a lone surrogate too) narrows to one
-// '?', and its neighbours stay whole. Where a character ends is said in platform/character_bounds.h. A second
-// byte may look like an ASCII character: the second byte of 126 pairs of code page 936 is 0x5C. Whoever
-// searches or cuts narrow text steps by CharacterLength, or uses data/string_functions.h, which does.
+// For documents, the toolkit and hosts. A second byte may look like an ASCII character (the second byte of
+// 126 pairs of code page 936 is 0x5C), so whoever searches or cuts narrow text steps by CharacterLength, or
+// uses data/string_functions.h, which does. Where a character ends is said in platform/character_bounds.h.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +14,19 @@
 
 namespace norvik {
 
-/// Sets the code page of all narrow text in the process. To be called at start, before any other thread
-/// converts text. Throws std::invalid_argument for a code page that is not served, and changes nothing then.
+/// Sets the code page of all narrow text in the process, 936 unless it is set. Served are 65001 (UTF-8) and
+/// the Windows code pages whose characters are bytes and pairs and begin with ASCII: 874, 932, 936, 949, 950,
+/// 1250 to 1257 and the like, with the tables that ICU has of them. Refused are 1258, which writes accents
+/// apart from their letters, and those of EBCDIC, UTF-16, shifted or longer codes. In code page 936 each of
+/// the 23,940 pairs, 0x80 (the euro sign) and 0xFF come back unchanged, the user-defined characters among
+/// them.
+///
+/// One rule holds for what a code page lacks: a character without a code point widens to one U+FFFD, one that
+/// it cannot express (a surrogate pair is one, a lone surrogate too) narrows to one '?', and its neighbours
+/// stay whole.
+///
+/// To be called at start, before any other thread converts text. Throws std::invalid_argument for a code page
+/// that is not served, and changes nothing then.
 NORVIK_EXPORT void SetAnsiCodePage(unsigned codePage);
 
 /// The code page of narrow text.

@@ -1,12 +1,7 @@
 // XML text to events, over expat: the one place that judges whether a text is XML.
 //
-// The text is narrow and is decoded here, in pieces, so that the whole is never held twice; the encoding that
-// its prolog names does not count, even where the label is none that XML allows. The reading is strict: what
-// is not well-formed XML 1.0 with namespaces is refused, forbidden characters, NUL and unbound prefixes among
-// them. Declarations inside a DOCTYPE are read; an external subset is not, and a reference to an external or
-// undeclared entity is refused, so nothing is ever opened; after an external subset or a parameter entity
-// whatever looks like such a reference is refused, in a comment too. Expansion is bounded by expat's own
-// guard against amplification and by kMaxEntities, which also bounds how deep entities nest.
+// For the documents' reader (data/xml_reader.h), which turns the events into narrow text. Nothing outside of
+// the text is ever opened, and expansion is bounded.
 #pragma once
 
 #include <cstddef>
@@ -67,6 +62,14 @@ struct XmlResult {
 };
 
 /// Reads `text`, bytes in the ANSI code page. Rethrows what an event threw.
+///
+/// The text is decoded in pieces, so that the whole is never held twice; the encoding that its prolog names
+/// does not count, even where the label is none that XML allows. The reading is strict: what is not
+/// well-formed XML 1.0 with namespaces is refused, forbidden characters, NUL and unbound prefixes among them.
+/// Declarations inside a DOCTYPE are read; an external subset is not, and a reference to an external or
+/// undeclared entity is refused; after an external subset or a parameter entity whatever looks like such a
+/// reference is refused, in a comment too. Expansion is bounded by expat's own guard against amplification
+/// and by kMaxEntities, which also bounds how deep entities nest.
 NORVIK_EXPORT XmlResult ReadXml(std::string_view text, XmlEvents& events);
 
 /// True if `name` (UTF-8) is a name with at most one prefix that the reader takes as a tag.

@@ -1,4 +1,6 @@
-// What leaves a shared library, for the tests that compare it with the headers. Needs the program nm.
+// What leaves a shared library, for the tests that compare it with the headers.
+//
+// It looks with the program nm, which comes with the compiler, at the file that the test itself has loaded.
 #pragma once
 
 #include <dlfcn.h>
