@@ -6,9 +6,11 @@
 #include "dialogs/audit_foot.h"
 #include "dialogs/font_fit.h"
 #include "dialogs/memo_break.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "dialogs/view_bsn_flow.h"
 #include "framework/business/m_query_intf.h"
+#include "framework/columns/column_table.h"
 #include "host/pub_info.h"
 #include "toolkit/application.h"
 #include "toolkit/conversion.h"
@@ -21,19 +23,18 @@ constexpr int kWidth = 860;
 constexpr int kHeight = 520;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
-constexpr int kRowGap = 4;                   // so that the form fits a low screen with a large font
-constexpr int kPurposeWidth = 468;           // pixels, at the smallest font
-constexpr int kPurposeCharacters = 39;       // full-width ones in a line, 78 bytes
-constexpr std::size_t kLongestShown = 4000;  // bytes of a value, more than a screen has room for
+constexpr int kRowGap = 4;                    // so that the form fits a low screen with a large font
+constexpr int kPurposeWidth = 468;            // pixels, at the smallest font
+constexpr int kPurposeCharacters = 39;        // full-width ones in a line, 78 bytes
+constexpr std::size_t kMaxShownBytes = 4000;  // of a value: more than a screen has room for
 
 constexpr const char* kFlowTransaction = "COMQRYFW";
 constexpr const char* kFirstLevel = "PSTLEVEL0";
-constexpr const char* kNoFlow = "UI42801";
 constexpr const char* kAmountUnit = "UI42802";
 
 }  // namespace
 
-// A caption and the value beside it: a field, and behind it, where there is one, a text and a second field.
+// A caption and the value beside it: a field and, in some rows, a text and a second field after it.
 struct TfrmEBillAuditFoot::Line {
   TLabel* TfrmEBillAuditFoot::*caption;
   const char* captionName;
@@ -105,7 +106,7 @@ void TfrmEBillAuditFoot::BuildBasicInfo() {
     if (this->*line.value != m_lbPurValue) grid.Put(this->*line.value, row, 1);
     ++row;
   }
-  // Its width is its own, and no bound for the values above it.
+  // The purpose has a width of its own, which does not bound the values above it.
   TRowLayout purpose = grid.PutRow(row - 1, 1);
   purpose.Add(m_lbPurValue);
   purpose.AddStretch();
@@ -147,10 +148,10 @@ void TfrmEBillAuditFoot::Construct() {
   }
 }
 
-// Of the display formats this list knows the amount and the right edge alone.
+// Of the display formats this list has only the amount and the right edge.
 void TfrmEBillAuditFoot::BuildColumns() {
   CMQueryIntf business;
-  corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", ClassName());
+  corvane::List fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, ClassName());
   for (corvane::Row& fieldDef : fieldDefs) {
     corvane::Row columnRow;
     std::string caption;
@@ -176,19 +177,19 @@ void TfrmEBillAuditFoot::ShowRecord() {
     std::string value = m_record.getValue(line.field) + line.join;
     if (line.secondField[0] != '\0') value += m_record.getValue(line.secondField);
     if (this->*line.value == m_lbAmtValue) value += " " + TranslateKey(kAmountUnit);
-    (this->*line.value)->SetCaption(std::string(corvane::cutText(value, kLongestShown)));
+    (this->*line.value)->SetCaption(std::string(corvane::cutText(value, kMaxShownBytes)));
     (this->*line.value)->SetHint(value);
   }
   const std::string purpose = norvik::BreakableMemo(m_lbPurValue->Caption());
   m_lbPurValue->SetCaption(purpose);
   m_lbPurValue->SetWidth(TextWidth(*m_lbPurValue, kPurposeCharacters, kPurposeWidth));
-  // A purpose without end leaves the list and the buttons on the screen.
+  // A very long purpose leaves the list and the buttons on the screen.
   m_lbPurValue->SetHeight(TextHeight(*m_lbPurValue, purpose, m_lbPurValue->Width(), 0));
 }
 
 void TfrmEBillAuditFoot::m_btnViewFlowClick(TObject*) {
   if (m_record.getValue("FLOWID").empty()) {
-    ShowWarnMsg(TranslateKey(kNoFlow), this);
+    ShowWarnMsg(TranslateKey(norvik::message::kNoFlow), this);
     return;
   }
   ShowFlow();
@@ -200,7 +201,7 @@ void TfrmEBillAuditFoot::ShowFlow() {
   request.addField(m_record.getField("FLOWID"));
   if (!business.SendRequest(kFlowTransaction, request, answer, this)) return;
   if (answer.getList(kFirstLevel).size() == 0) {
-    ShowWarnMsg(TranslateKey(kNoFlow), this);
+    ShowWarnMsg(TranslateKey(norvik::message::kNoFlow), this);
     return;
   }
   const TFormPointer<TfrmViewBsnFlow> form(CreateForm<TfrmViewBsnFlow>(this, answer));

@@ -1,4 +1,5 @@
-// The form behind ShowAuditFoot.
+// The form of ShowAuditFoot: captions and values of a record above the list of its approval steps. Callers
+// use dialogs/audit_foot.h; tests and pictures build the form itself.
 #pragma once
 
 #include "data/corvane.h"
@@ -16,8 +17,8 @@ class TfrmEBillAuditFoot : public TBaseForm {
 
   void BuildControls() override;
   void SetCaptions() override;
-  // Builds the list's columns from the column table of this class; the user's saved layouts are not asked.
-  // Standard reporting, with the columns built so far.
+  /// Builds the list's columns from the column table of this class; the user's saved layouts are not read. A
+  /// failure is reported in the standard way, and the columns built so far stay.
   void Construct() override;
   void PreInitHook1() override {}
   void PreInitHook2() override {}
@@ -57,7 +58,7 @@ class TfrmEBillAuditFoot : public TBaseForm {
   void BuildColumns();
   void ShowRecord();
   void m_btnViewFlowClick(TObject* sender);
-  // Asks the bank for the record's flow and shows it; warns where there is none.
+  /// Asks the bank for the record's flow and shows it; warns if there is none.
   void ShowFlow();
 
   corvane::Row m_record;

@@ -2,6 +2,7 @@
 
 #include "dialogs/audit.h"
 #include "dialogs/form_owner.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "toolkit/layout.h"
 #include "toolkit/text.h"
@@ -66,7 +67,7 @@ void TfrmAudit::ResetForm() {
 
 void TfrmAudit::m_btnOkClick(TObject*) {
   if (m_rdgAudit->ItemIndex() == kDisagree && Trim(m_memInfo->Text()).empty()) {
-    ShowInfoMsg(TranslateKey("UI12207"), this);
+    ShowInfoMsg(TranslateKey(norvik::message::kOpinionMissing), this);
     m_memInfo->SetFocus();
     return;
   }

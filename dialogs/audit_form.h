@@ -1,4 +1,5 @@
-// The form behind ShowAuditDlg.
+// The form of ShowAuditDlg: a verdict to choose and an opinion to type. Callers use dialogs/audit.h; tests
+// build the form itself.
 #pragma once
 
 #include "framework/base/base_form.h"
@@ -7,13 +8,13 @@
 #include "toolkit/labels.h"
 #include "toolkit/radio_group.h"
 
-// Tag is kConfirmed once the user has confirmed, otherwise 0.
+/// Tag is kConfirmed after the user has confirmed, otherwise 0.
 class TfrmAudit : public TBaseForm {
   Q_OBJECT
 
  public:
   static constexpr int kConfirmed = 1;
-  // Items of m_rdgAudit.
+  /// Items of m_rdgAudit.
   static constexpr int kAgree = 0;
   static constexpr int kDisagree = 1;
 

@@ -11,8 +11,8 @@
 namespace {
 
 constexpr const char* kLoaderMutex = "_BankInfoLoader_";
-constexpr std::size_t kShortestNumber = 8;
-constexpr std::uint32_t kMostTopCodes = 1000000;  // ends the search in a directory that never ends
+constexpr std::size_t kMinNumberSize = 8;
+constexpr std::uint32_t kMaxTopCodes = 1000000;  // bounds the search in a directory without end
 
 // The directory as it is asked: `closed` turns true when the host ends the life from inside one of its
 // functions.
@@ -23,7 +23,7 @@ class Directory {
 
   // The first top-level code, in key order, that has the area; nothing if none has.
   std::optional<std::string> TopCodeOf(const std::string& area) const {
-    for (std::uint32_t i = 0; i < kMostTopCodes; ++i) {
+    for (std::uint32_t i = 0; i < kMaxTopCodes; ++i) {
       const char* const code = Checked(functions_.top_code(functions_.context, i));
       if (code == nullptr) return std::nullopt;
       std::string copy = code;
@@ -75,7 +75,7 @@ std::string TBankInfo::GetBankName(const std::string& number) {
   EnsureLoaded();
   const auto directory = norvik::FindBankDirectory(m_directory);
   const bool readable = m_loaded || m_mutex == 0;
-  if (!directory || !readable || number.size() < kShortestNumber || number.find('\0') != std::string::npos) {
+  if (!directory || !readable || number.size() < kMinNumberSize || number.find('\0') != std::string::npos) {
     return {};
   }
   const std::string area = number.substr(3, 4);

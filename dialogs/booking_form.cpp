@@ -2,6 +2,7 @@
 
 #include "dialogs/booking.h"
 #include "dialogs/form_owner.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "dialogs/validators.h"
 #include "framework/rules/date_range.h"
@@ -10,20 +11,16 @@
 namespace {
 
 constexpr int kImageSize = 32;
-constexpr const char* kMissingDate = "UI42518";
-constexpr const char* kInvalidDate = "UI42985";
-constexpr const char* kEarlyDate = "UI42987";
-constexpr const char* kLateDate = "UI42995";
 
 }  // namespace
 
 std::string TfrmBookingProc::DateFault(const std::string& date, const std::string& firstDate,
                                        const std::string& bankDate) {
-  if (date.empty()) return kMissingDate;
-  if (!CheckDate(date).empty()) return kInvalidDate;
+  if (date.empty()) return norvik::message::kBookingDateMissing;
+  if (!CheckDate(date).empty()) return norvik::message::kBookingDateInvalid;
   const std::int32_t day = ParseNumber(date);
-  if (day < ParseNumber(firstDate)) return kEarlyDate;
-  return day > ParseNumber(norvik::NextMonthDate(bankDate)) ? kLateDate : "";
+  if (day < ParseNumber(firstDate)) return norvik::message::kBookingDateEarly;
+  return day > ParseNumber(norvik::NextMonthDate(bankDate)) ? norvik::message::kBookingDateLate : "";
 }
 
 void TfrmBookingProc::BuildControls() {
@@ -120,7 +117,7 @@ bool TfrmBookingProc::CheckChosenDate() {
   const std::string fault = DateFault(m_edtPreFlgDate->Text(), m_minDate, m_common->GetServerDate());
   if (fault.empty()) return true;
   ShowWarnMsg(TranslateKey(fault), this);
-  if (fault == kInvalidDate) m_edtPreFlgDate->Clear();
+  if (fault == norvik::message::kBookingDateInvalid) m_edtPreFlgDate->Clear();
   m_edtPreFlgDate->SetFocus();
   return false;
 }

@@ -1,4 +1,5 @@
-// The form behind ShowBookingDlg.
+// The form of ShowBookingDlg: at once, or on a day that the user chooses. Callers use dialogs/booking.h;
+// tests build the form itself.
 #pragma once
 
 #include <memory>
@@ -11,13 +12,13 @@
 #include "toolkit/labels.h"
 #include "toolkit/radio_group.h"
 
-// Tag is kConfirmed once the user has confirmed, otherwise 0.
+/// Tag is kConfirmed after the user has confirmed, otherwise 0.
 class TfrmBookingProc : public TBaseForm {
   Q_OBJECT
 
  public:
   static constexpr int kConfirmed = 1;
-  // Items of m_grpPreFlg.
+  /// Items of m_grpPreFlg.
   static constexpr int kAtOnce = 0;
   static constexpr int kScheduled = 1;
 
@@ -31,9 +32,9 @@ class TfrmBookingProc : public TBaseForm {
   void ResetForm() override;
   void FormDestroy() override;
 
-  // The key of the text that tells what is wrong with a date, empty for a good one: a day of the calendar, by
-  // number not before `firstDate` and not after the same day of the month behind `bankDate` (or that month's
-  // last day), both included.
+  /// The key of the message for a date that can't be accepted, empty for a valid one: a day of the calendar,
+  /// by number not before `firstDate` and not after the same day of the month following `bankDate` (or that
+  /// month's last day), both included.
   static std::string DateFault(const std::string& date, const std::string& firstDate,
                                const std::string& bankDate);
 
@@ -53,7 +54,7 @@ class TfrmBookingProc : public TBaseForm {
   void m_grpPreFlgClick(TObject* sender);
   void m_btnOkClick(TObject* sender);
   void m_btnCancelClick(TObject* sender);
-  // Warns of a date that cannot be taken; true for a good one.
+  /// Warns of a date that can't be accepted; true for a valid one.
   bool CheckChosenDate();
 
   std::unique_ptr<CQueryCommon> m_common;

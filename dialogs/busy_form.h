@@ -1,4 +1,5 @@
-// The two forms of the busy display; dialogs/busy.h shows and hides them.
+// The two forms of the busy display: one over an exchange, one over a wait of the module. dialogs/busy.h
+// shows and hides them; nobody else does.
 #pragma once
 
 #include <QPointer>
@@ -9,9 +10,9 @@
 #include "toolkit/form.h"
 #include "toolkit/panels.h"
 
-// What tells the two busy forms apart.
+/// What differs between the two busy forms.
 struct TBusyDesign {
-  const char* file;  // in the host's image directory
+  const char* file;  ///< in the host's image directory
   TCommonAVI animation;
   int stopFrame;
   int width;
@@ -19,26 +20,26 @@ struct TBusyDesign {
   TPosition position;
 };
 
-// A busy form. A missing or unreadable animation file leaves the built-in animation.
+/// A busy form. A missing or unreadable animation file leaves the built-in animation.
 class TBusyForm : public TForm {
   Q_OBJECT
 
  public:
   void BuildControls() override;
-  // Reads the host's image directory, "ENV.IMAGES" of "ENVIRONMENT"; a failing read goes up.
+  /// Reads the host's image directory, "ENV.IMAGES" of "ENVIRONMENT"; a failing read propagates.
   void Construct() override;
-  // Ends the thread that moves the picture.
+  /// Ends the thread that moves the picture.
   void FormDestroy() override;
 
-  // Shows the form over all others without waiting, has it painted, and sets it moving.
+  /// Shows the form over all others without waiting, has it painted, and starts its movement.
   void Begin();
-  // Throws away what the user has pressed meanwhile and takes the form away; the window that was active is
-  // active again.
+  /// Discards what the user has pressed meanwhile and closes the form; the window that was active is active
+  /// again.
   void End();
 
   TPanel* m_pnlmain = nullptr;
   TAnimate* m_amtmain = nullptr;
-  std::string m_imagePath;  // the directory; from the show on the animation file
+  std::string m_imagePath;  ///< the directory; from the show on the animation file
 
  protected:
   TBusyForm(TComponent* owner, const TBusyDesign& design) : TForm(owner), design_(design) {}
@@ -56,7 +57,7 @@ class TBarForm : public TBusyForm {
   Q_OBJECT
 
  public:
-  // `key` tells whose exchange it covers.
+  /// `key` is the class name of the form whose exchange is covered.
   TBarForm(TComponent* owner, std::string key);
 
   const std::string& Key() const { return key_; }

@@ -15,7 +15,7 @@ constexpr double kHoursOfDay = 24;
 constexpr double kMinutesOfDay = 24 * 60;
 constexpr double kSecondsOfDay = 24 * 60 * 60;
 
-// Names of months and days in the host's language, told by its character set.
+// Names of months and days in the host's language, which its character set identifies.
 QLocale LocaleOf(std::uint8_t charset) {
   if (charset == kSimplifiedChinese) return QLocale(QLocale::Chinese, QLocale::China);
   return charset == kTraditionalChinese ? QLocale(QLocale::Chinese, QLocale::Taiwan)
@@ -51,7 +51,7 @@ void TDateCalendar::BuildControls() {
   TBaseForm::BuildControls();
   m_time = NewComponent<TTimer>(this, "m_time");
   m_time->SetInterval(1000);
-  m_time->OnTimer = [this](TObject* sender) { timeTimer_(sender); };
+  m_time->OnTimer = [this](TObject* sender) { m_timeTimer(sender); };
   m_pnlmonth = NewComponent<TPanel>(this, "m_pnlmonth");
   m_pnltime = NewComponent<TPanel>(this, "m_pnltime");
   BuildMonth();
@@ -170,7 +170,7 @@ void TDateCalendar::ShowDateTime() {
 
 // Counts the second up, so that the proposed time stays the present one; beyond the last second the day may
 // change.
-void TDateCalendar::timeTimer_(TObject*) {
+void TDateCalendar::m_timeTimer(TObject*) {
   m_time->SetEnabled(false);
   if (m_uds->Position() != kLastSecond) {
     m_uds->SetPosition(m_uds->Position() + 1);

@@ -1,4 +1,5 @@
-// The form behind PickDateTime.
+// The form of PickDateTime: a month, a clock, or both. Callers use dialogs/date_calendar.h; tests build the
+// form itself.
 #pragma once
 
 #include <string>
@@ -13,7 +14,7 @@
 #include "toolkit/panels.h"
 #include "toolkit/timer.h"
 
-// Tag is kConfirmed once the user has confirmed, otherwise 0. The seconds run while the form is open.
+/// Tag is kConfirmed after the user has confirmed, otherwise 0. The seconds advance while the form is open.
 class TDateCalendar : public TBaseForm {
   Q_OBJECT
 
@@ -30,8 +31,8 @@ class TDateCalendar : public TBaseForm {
   void FormShow(TObject* sender) override;
   void ResetForm() override;
 
-  // The date-time of a text of 8 or 14 digits, the time of the first being that of `now`; `now` for all
-  // else.
+  /// The date-time of a text of 8 or 14 digits, with the time of `now` where there are 8; `now` for any other
+  /// text.
   static TDateTime Parse(const std::string& text, TDateTime now);
 
   TTimer* m_time = nullptr;
@@ -57,10 +58,10 @@ class TDateCalendar : public TBaseForm {
  private:
   void BuildMonth();
   void BuildTime();
-  void timeTimer_(TObject* sender);
+  void m_timeTimer(TObject* sender);
   void m_btnokClick(TObject* sender);
   void m_btncancelClick(TObject* sender);
-  // The calendar's day with the time of the three edits.
+  /// The calendar's day with the time of the three edits.
   TDateTime ShownDateTime() const;
   void ShowDateTime();
 

@@ -25,7 +25,7 @@ constexpr int kButtonLift = 5;
 constexpr int kBytesInLine = 44;
 constexpr int kLineHeight = 14;
 
-// What tells the three modes apart; an empty caption hides the right button.
+// What differs between the three modes; an empty caption hides the right button.
 struct ModeDesign {
   const char* form;
   const char* leftButton;
@@ -34,9 +34,9 @@ struct ModeDesign {
 };
 
 const ModeDesign& DesignOf(TMessageMode mode) {
-  static constexpr ModeDesign designs[] = {
+  static constexpr ModeDesign kDesigns[] = {
       {"UI12013", "UI12002", "", 1}, {"UI12014", "UI12002", "", 0}, {"UI12015", "UI12016", "UI12017", 2}};
-  return designs[static_cast<std::size_t>(mode)];
+  return kDesigns[static_cast<std::size_t>(mode)];
 }
 
 }  // namespace
@@ -46,8 +46,8 @@ TFrmComMsg::TFrmComMsg(TComponent* owner, std::string text, TMessageMode mode)
 
 int TFrmComMsg::ExtraHeight(const std::string& text) {
   const std::size_t lines = text.size() / kBytesInLine + 1 + corvane::StringVector(text, "\r\n", true).size();
-  const int most = Screen->Height() / 2;  // a text without end leaves the buttons on the screen
-  return std::clamp(static_cast<int>(std::min<std::size_t>(lines, 10000)) * kLineHeight - 42, 0, most);
+  const int maximum = Screen->Height() / 2;  // a very long text leaves the buttons on the screen
+  return std::clamp(static_cast<int>(std::min<std::size_t>(lines, 10000)) * kLineHeight - 42, 0, maximum);
 }
 
 void TFrmComMsg::BuildControls() {
@@ -114,7 +114,7 @@ void TFrmComMsg::FitToFont() {
   Arrange();
 }
 
-// The buttons stand below the text: one in the middle, two there as a group.
+// The buttons are below the text: one in the middle, two there as a group.
 void TFrmComMsg::Arrange() {
   const int extra = m_lblInfo->Height() - kTextHeight;
   m_memo->SetBounds(kTextLeft, kTextTop, m_lblInfo->Width(), m_lblInfo->Height());

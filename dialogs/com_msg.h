@@ -1,4 +1,5 @@
-// The form behind ShowInfoMsg, ShowWarnMsg and ShowConfirmMsg.
+// The form of ShowInfoMsg, ShowWarnMsg and ShowConfirmMsg: an icon, a text and one or two buttons. Callers
+// use dialogs/messages.h; tests answer the form.
 #pragma once
 
 #include <string>
@@ -11,8 +12,8 @@
 
 enum class TMessageMode { kInformation = 0, kWarning = 1, kQuestion = 2 };
 
-// Tag is the user's answer: kConfirmed once m_btnOk was pressed, otherwise 0. A text that is higher than half
-// of the screen stands in m_memo, where it scrolls, instead of in the label.
+/// Tag is the user's answer: kConfirmed after m_btnOk was pressed, otherwise 0. A text that is higher than
+/// half of the screen is shown in m_memo, where it scrolls, instead of in the label.
 class TFrmComMsg : public TBaseForm {
   Q_OBJECT
 
@@ -28,8 +29,8 @@ class TFrmComMsg : public TBaseForm {
   void PreInitHook2() override {}
   void ResetForm() override;
 
-  // Pixels that a text adds to the designed height: 14 for each of its bytes' 44 and each of its lines,
-  // less 42.
+  /// Pixels that a text adds to the designed height: 14 for each 44 of its bytes and each of its lines, less
+  /// 42.
   static int ExtraHeight(const std::string& text);
 
   TImage* m_Img = nullptr;

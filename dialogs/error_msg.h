@@ -1,4 +1,5 @@
-// The form behind ShowErrorMsg: a summary, and below it a pane with the whole text that opens and closes.
+// The form of ShowErrorMsg: a summary, and below it a pane with the whole text that opens and closes. Callers
+// use dialogs/messages.h; tests read the form.
 #pragma once
 
 #include <string>
@@ -24,8 +25,8 @@ class TFrmErrorMsg : public TBaseForm {
   TImage* m_img = nullptr;
   TLabel* m_lblInfo = nullptr;
   TBevel* Bevel1 = nullptr;
-  TbsSkinButton* m_btnMail = nullptr;  // hidden
-  TbsSkinButton* m_btnCopy = nullptr;  // shown with the pane
+  TbsSkinButton* m_btnMail = nullptr;  ///< hidden
+  TbsSkinButton* m_btnCopy = nullptr;  ///< shown with the pane
   TbsSkinButton* m_btnDetail = nullptr;
   TbsSkinButton* m_btnOK = nullptr;
   TMemo* m_memo = nullptr;

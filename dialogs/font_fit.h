@@ -1,5 +1,6 @@
-// Sizes that follow a control's font, for the forms whose design gives them in pixels at the smallest font:
-// the design is the least, and grows where the font needs more.
+// Sizes that follow a control's font, for the forms whose design states them in pixels at the smallest font:
+// the design is the minimum, and a larger font makes the control larger. The message forms and the approval
+// view use them; nothing here places a control.
 #pragma once
 
 #include <string>
@@ -7,16 +8,16 @@
 class TControl;
 class TbsSkinButton;
 
-// Width of so many full-width characters in the control's font, at least `least` pixels and at most 70% of
-// the screen.
-int TextWidth(const TControl& control, int characters, int least);
+/// Width of `characters` full-width characters in the control's font, at least `minimum` pixels and, beyond
+/// that, at most 70% of the screen.
+int TextWidth(const TControl& control, int characters, int minimum);
 
-// Height of the text in the control's font, wrapped at a width; at most half of the screen, at least
-// `least`. Only the beginning of a very long text is measured.
-int TextHeight(const TControl& control, const std::string& text, int width, int least);
+/// Height of the text in the control's font, wrapped at a width; at least `minimum` pixels, and at most half
+/// of the screen. Of a very long text only the beginning is measured.
+int TextHeight(const TControl& control, const std::string& text, int width, int minimum);
 
-// Whether the whole text is to be seen in a control of that width and TextHeight.
+/// Whether the whole text fits a control of that width and of the height that TextHeight returns.
 bool TextFits(const TControl& control, const std::string& text, int width);
 
-// Gives a button the room that its caption needs in its font, at least the given size.
-void FitButton(TbsSkinButton& button, int leastWidth, int leastHeight);
+/// Sizes a button so that its caption fits in its font, at least to the given size.
+void FitButton(TbsSkinButton& button, int minWidth, int minHeight);

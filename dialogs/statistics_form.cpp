@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "dialogs/statistics.h"
 #include "dialogs/validators.h"
+#include "framework/business/batch_rows.h"
+#include "framework/columns/column_table.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "toolkit/conversion.h"
@@ -13,7 +16,6 @@
 
 namespace {
 
-constexpr const char* kRefusedColor = "255";  // colour of a record that the server refused
 constexpr int kFirstColumnsWidth = 120;
 constexpr int kUnknownWidth = 200;
 
@@ -83,7 +85,7 @@ void TfrmStatistics::SetCaptions() {
 void TfrmStatistics::Construct() {
   TBaseForm::Construct();
   try {
-    m_fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", m_ownerClass);
+    m_fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, m_ownerClass);
   } catch (const corvane::TException& failure) {
     ReportException(failure);
   }
@@ -107,7 +109,7 @@ bool TfrmStatistics::Prepare(TForm* owner, TKVXListView* listView, const corvane
   } catch (const norvik::LifeEnded&) {
     throw;
   } catch (...) {
-    ShowInfoMsg(TranslateKey("UI12581"), this);
+    ShowInfoMsg(TranslateKey(norvik::message::kNoSums), this);
     return false;
   }
 }
@@ -139,7 +141,7 @@ std::string TfrmStatistics::CurrencyOf(const corvane::Property& record) {
 void TfrmStatistics::AddRecord(const TListItem* item) {
   const corvane::Property& record = *item->Data();
   const std::string currency = CurrencyOf(record);
-  if (record.getValue("Color") == kRefusedColor) throw std::runtime_error("");
+  if (record.getValue("Color") == norvik::kRefusedColor) throw std::runtime_error("");
   auto& [records, sums] = m_sums[currency];
   for (const std::string& id : m_sumColumns) {
     const std::string amount = record.getValue(id);
@@ -148,7 +150,7 @@ void TfrmStatistics::AddRecord(const TListItem* item) {
   ++records;
 }
 
-// A column without a definition takes caption and width of the sum column before it.
+// A column without a definition has the caption and the width of the sum column before it.
 void TfrmStatistics::BuildColumns(TListView* table) {
   table->Columns().Clear();
   AddColumn(table, g_pTranslate->Translate("UI12576"), taLeftJustify, kFirstColumnsWidth);

@@ -1,4 +1,5 @@
-// The form behind ShowStatistics.
+// The form of ShowStatistics: two tables, of all records and of the ticked ones. Callers use
+// dialogs/statistics.h; tests build the form itself.
 #pragma once
 
 #include <map>
@@ -21,15 +22,15 @@ class TfrmStatistics : public TBaseForm {
 
   void BuildControls() override;
   void SetCaptions() override;
-  // Reads the column table of the owner's class; a failure takes the standard reporting, and the sums then
-  // have no captions.
+  /// Reads the column table of the owner's class; a failure is reported in the standard way, and the sums
+  /// then have no captions.
   void Construct() override;
   void PreInitHook1() override {}
   void PreInitHook2() override {}
   void ResetForm() override;
 
-  // Fills both tables; true if they are ready. Any failure, a refused record or an amount that is no
-  // number, shows one message and gives false.
+  /// Fills both tables; true when they are ready. Any failure, such as a record that the bank refused or an
+  /// amount that is no number, shows one message and returns false.
   bool Prepare(TForm* owner, TKVXListView* listView, const corvane::StringVector& columns,
                const std::string& caption);
 
@@ -48,7 +49,7 @@ class TfrmStatistics : public TBaseForm {
  private:
   struct TTotals {
     int records = 0;
-    std::map<std::string, TDecimal> sums;  // by column id
+    std::map<std::string, TDecimal> sums;  ///< by column id
   };
 
   TListView* BuildTable(TbsSkinPanel* panel, const char* name, TbsSkinScrollBar* horizontal,
@@ -60,10 +61,10 @@ class TfrmStatistics : public TBaseForm {
   void BuildColumns(TListView* table);
   void Fill(TListView* table) const;
 
-  TKVXListView* m_listView = nullptr;  // not owned
+  TKVXListView* m_listView = nullptr;  ///< not owned
   corvane::StringVector m_sumColumns;
-  std::map<std::string, TTotals> m_sums;      // by currency text
-  std::optional<std::string> usualCurrency_;  // of a record that names none, once asked for
+  std::map<std::string, TTotals> m_sums;      ///< by currency text
+  std::optional<std::string> usualCurrency_;  ///< of a record that names none, once asked for
   std::string m_ownerClass;
   corvane::List m_fieldDefs;
 };

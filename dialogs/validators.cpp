@@ -6,6 +6,7 @@
 #include <limits>
 #include <string_view>
 
+#include "dialogs/message_keys.h"
 #include "toolkit/decimal_text.h"
 
 namespace {
@@ -28,7 +29,7 @@ unsigned HexValue(char c) {
   return 16;
 }
 
-// Takes white space and one sign off the front; true if the sign was "-".
+// Removes white space and one sign from the beginning; true if the sign was "-".
 bool TakeSign(std::string_view& text) {
   while (!text.empty() && IsSpace(text.front())) text.remove_prefix(1);
   if (text.empty() || (text.front() != '-' && text.front() != '+')) return false;
@@ -70,10 +71,10 @@ int LastDayOfMonth(int year, int month) {
 }  // namespace
 
 std::string CheckDate(const std::string& text) {
-  if (text.size() != 8 || !IsAllDigits(text)) return "ET11019";
+  if (text.size() != 8 || !IsAllDigits(text)) return norvik::message::kNotEightDigits;
   const bool valid = IsValidDate(ParseNumber(text.substr(0, 4)), ParseNumber(text.substr(4, 2)),
                                  ParseNumber(text.substr(6, 2)));
-  return valid ? "" : "ET11018";
+  return valid ? "" : norvik::message::kNoSuchDay;
 }
 
 bool IsValidDate(int year, int month, int day) {

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kAnnouncedForm = 1;  // Tag of a form that the host is told of
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 
@@ -52,7 +51,7 @@ void TfrmViewBsnFlow::SetCaptions() {
 
 void TfrmViewBsnFlow::Construct() {
   TBaseForm::Construct();
-  SetTag(kAnnouncedForm);
+  SetTag(kAnnouncedMark);
 }
 
 void TfrmViewBsnFlow::ResetForm() {
@@ -66,8 +65,8 @@ void TfrmViewBsnFlow::ResetForm() {
 void TfrmViewBsnFlow::ReadAnswer() {
   m_bsnName = m_answer.getValue("BSNNM");
   const auto lists = std::distance(m_answer.listsBegin(), m_answer.listsEnd());
-  const int most = std::max(kEmptyLevels, static_cast<int>(lists));
-  m_levelCount = std::min(StrToInt(m_answer.getValue("AUDITTOTAL")), most);
+  const int maximum = std::max(kEmptyLevels, static_cast<int>(lists));
+  m_levelCount = std::min(StrToInt(m_answer.getValue("AUDITTOTAL")), maximum);
   m_batchList = m_answer.getList("PSTLEVEL0");
   m_levelLists.clear();
   for (int level = 1; level <= m_levelCount; ++level) {

@@ -1,4 +1,5 @@
-// The form that shows as a tree who may approve a business at each level.
+// The form that shows as a tree who may approve a business at each level. The approval view opens it with the
+// bank's answer in hand; it asks the bank for nothing.
 #pragma once
 
 #include <cstdint>
@@ -15,9 +16,9 @@ class TfrmViewBsnFlow : public TBaseForm {
   Q_OBJECT
 
  public:
-  // `answer`: BSNNM, the name of the business; AUDITTOTAL, its number of levels; the lists PSTLEVEL0 (batch
-  // step) and PSTLEVEL1 and so on, of rows with OPRNO, OPRNM and CSTNMCN, whose attribute PSTNM is the name
-  // of the step and "name" its key.
+  /// `answer`: BSNNM, the name of the business; AUDITTOTAL, its number of levels; the lists PSTLEVEL0 (batch
+  /// step) and PSTLEVEL1 and so on, of rows with OPRNO, OPRNM and CSTNMCN, whose attribute PSTNM is the name
+  /// of the step and "name" its key.
   TfrmViewBsnFlow(TComponent* owner, corvane::CorvaneStream answer);
 
   void BuildControls() override;
@@ -25,12 +26,12 @@ class TfrmViewBsnFlow : public TBaseForm {
   void Construct() override;
   void PreInitHook1() override {}
   void PreInitHook2() override {}
-  // Builds the tree. An AUDITTOTAL that is no number raises the toolkit's EConvertError, and the tree stays
-  // empty. A level without a list has a node without a name, up to as many levels as the answer has lists or
-  // kEmptyLevels, if that is more.
+  /// Builds the tree. An AUDITTOTAL that is no number raises the toolkit's EConvertError, and the tree stays
+  /// empty. A level without a list is a node without a name; there are at most as many levels as the answer
+  /// has lists or kEmptyLevels, whichever is more.
   void ResetForm() override;
 
-  // Levels that are shown though the answer says nothing about them; bounds what an answer can ask for.
+  /// Levels that are shown though the answer has no list for them; bounds what an answer can ask for.
   static constexpr int kEmptyLevels = 100;
 
   TKVXTreeView* m_tvBsnFlowID = nullptr;

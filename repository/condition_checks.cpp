@@ -1,5 +1,6 @@
 #include "repository/condition_checks.h"
 
+#include "dialogs/message_keys.h"
 #include "dialogs/validators.h"
 #include "framework/rules/amount_text.h"
 #include "framework/rules/date_range.h"
@@ -30,7 +31,7 @@ DateRangeFault CheckDateRange(const DateRangeRule& rule, const std::string& star
   if (!start.empty() && end.empty()) return {rule.endMissing};
   if (start.empty() && !end.empty()) return {rule.startMissing};
   if (end < start) return {rule.reversed, true};
-  if (compulsory && DaysBetweenDates(start, end) >= kLongestPeriod) return {rule.tooLong, true};
+  if (compulsory && DaysBetweenDates(start, end) > kMaxPeriodDays) return {rule.tooLong, true};
   return {};
 }
 
@@ -38,14 +39,14 @@ AmountRangeFault CheckAmounts(std::string& minimum, std::string& maximum) {
   if (minimum.empty() && maximum.empty()) return {};
   if (minimum.empty()) {
     Normalize(maximum);
-    return {"UI44564"};
+    return {message::kMinimumMissing};
   }
   Normalize(minimum);
-  if (maximum.empty()) return {"UI44565"};
+  if (maximum.empty()) return {message::kMaximumMissing};
   Normalize(maximum);
-  const TDecimal most(maximum);
-  if (most <= TDecimal()) return {"UI44566", true};
-  if (TDecimal(minimum) > most) return {"UI44567"};
+  const TDecimal upper(maximum);
+  if (upper <= TDecimal()) return {message::kMaximumNotPositive, true};
+  if (TDecimal(minimum) > upper) return {message::kMinimumAboveMaximum};
   return {};
 }
 

@@ -3,8 +3,10 @@
 #include <utility>
 
 #include "dialogs/bank_info.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/base/kept_focus.h"
+#include "framework/business/batch_rows.h"
 #include "host/translate.h"
 #include "repository/record_info_form.h"
 #include "toolkit/action.h"
@@ -26,7 +28,6 @@ namespace {
 
 constexpr const char* kQueryTransaction = "EBBADQDB";
 constexpr const char* kInstitutionsTransaction = "EBBADQAH";
-constexpr const char* kAnswerList = "resultList";
 constexpr const char* kDefaultBillType = "AC00";
 constexpr const char* kSumColumn = "PAYAMT";
 
@@ -111,7 +112,7 @@ void TCustodyQueryForm::AfterTranslate() {
   TranslateDateChoices();
 }
 
-// The pass over a form's texts knows nothing of a radio group's items.
+// The translation of a form does not include a radio group's items.
 void TCustodyQueryForm::TranslateDateChoices() {
   for (std::size_t i = 0; i < std::size(kDateChoiceKeys); ++i) {
     m_rgSelDate->Items().SetStrings(i, TranslateKey(kDateChoiceKeys[i]));
@@ -148,7 +149,7 @@ void TCustodyQueryForm::ResetForm() {
   LoadDictionaries();
   m_cbxAcc->SetItemIndex(0);
   StartAccount();
-  // A screen that was closed by its button doesn't open again on that.
+  // A screen that was closed by its button doesn't open with the focus on it again.
   SetActiveControl(m_cbxAcc);
   m_lvMainClick(this);
 }
@@ -180,13 +181,12 @@ void TCustodyQueryForm::m_cbxAccChange(TObject*) {
     corvane::CorvaneStream answer;
     request.addField(corvane::Field("SRC", "1"));
     corvane::List accounts;
-    accounts.setAttribute("name", "userDataList");
     corvane::Row row;
     row["CUSTACC"] = account;
     accounts.addRow(row);
-    request.addList(accounts);
+    norvik::AddUserData(request, accounts);
     if (!m_pCommon->SendRequest(kInstitutionsTransaction, request, answer, this)) return;
-    institutions = answer.getList(kAnswerList);
+    institutions = answer.getList(norvik::kAnswerList);
   }
   ShowInstitutions(institutions);
 }
@@ -232,8 +232,8 @@ void TCustodyQueryForm::m_actQueryExecute(TObject* sender) {
   m_crbAllCheck->SetEnabled(m_lvMain->Items().Count() > 0);
 }
 
-// A query for no account at all would be answered, too: the accounts that the host could not tell are asked
-// for once more.
+// A query for no account at all would be answered, too: accounts that the host could not supply are requested
+// once more.
 bool TCustodyQueryForm::FindAccounts() {
   if (accountsKnown_) return true;
   if (!LoadAccounts()) return false;
@@ -258,7 +258,7 @@ void TCustodyQueryForm::AddAccounts(corvane::CorvaneStream& stream) {
     accounts.push_back(m_cbxAcc->GetKey());
   }
   corvane::List list;
-  list.setAttribute("name", kAnswerList);
+  list.setAttribute("name", norvik::kAnswerList);
   for (const std::string& batch : norvik::AccountBatches(accounts)) {
     corvane::Row row;
     row["CUSTACC"] = batch;
@@ -269,9 +269,9 @@ void TCustodyQueryForm::AddAccounts(corvane::CorvaneStream& stream) {
 
 void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
   EmptyList();
-  corvane::List& rows = answer.getList(kAnswerList);
+  corvane::List& rows = answer.getList(norvik::kAnswerList);
   if (rows.size() == 0) {
-    ShowWarnMsg(TranslateKey("UI42512"), nullptr);
+    ShowWarnMsg(TranslateKey(norvik::message::kNothingFound), nullptr);
     return;
   }
   BuildMissingColumns(*m_pCommon);
@@ -287,7 +287,7 @@ void TCustodyQueryForm::ShowQueryResult(corvane::CorvaneStream& answer) {
 }
 
 void TCustodyQueryForm::m_lvMainClick(TObject* sender) {
-  // First, since nothing is asked of the host for it.
+  // First, since nothing is requested from the host for it.
   FollowTicks();
   TQueryForm::m_lvMainClick(sender);
   if (Profile().outputAlwaysOn) m_actOutput->SetEnabled(true);

@@ -20,7 +20,6 @@ constexpr const char* kExportType = "ECDSHISDTL";
 constexpr int kFieldsOfRow = 3;  // of the head
 constexpr int kCellsOfField = 2;
 constexpr int kGap = 8;
-constexpr int kFocusedState = 2;  // TListItem::SetState: the focus
 
 struct TypeTexts {
   const char* code;
@@ -129,7 +128,7 @@ void TEnquiryForm::FillHead() {
     if (row.rule == HeadRule::kBillType) {
       value = type.typeKey == nullptr ? std::string() : g_pTranslate->Translate(type.typeKey);
     }
-    // The pass over the form's texts is over when the head is filled.
+    // The form has been translated before the head is filled.
     if (row.rule == HeadRule::kByBillType) head_[i].caption->SetCaption(TranslateKey(type.captionKey));
     head_[i].value->SetCaption(value);
   }

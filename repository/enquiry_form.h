@@ -1,5 +1,6 @@
-// The answer to an enquiry on one bill: a head with the bill's data and a list of records. The screen makes
-// the exchange; the dialog only shows the result. The three dialogs differ in their profiles alone.
+// The answer to an enquiry on one bill: a head with the bill's data and a list of records. The repository
+// screen makes the exchange and opens the dialog, which only shows the result. The three dialogs differ in
+// their profiles alone.
 //
 // The dialogs show, sum and export; they don't print or audit.
 #pragma once
@@ -16,33 +17,36 @@ class TbsSkinPanel;
 
 namespace norvik {
 
-// How a row of the head gets its caption and value.
+/// How a row of the head finds its caption and value.
 enum class HeadRule {
-  kField,       // caption by its key, value as the answer has it
-  kBillType,    // value: the text of the bill's type
-  kByBillType,  // caption: by the bill's type
+  kField,       ///< caption by its key, value as the answer has it
+  kBillType,    ///< value: the text of the bill's type
+  kByBillType,  ///< caption: by the bill's type
 };
 
+/// A row of the head.
 struct HeadRow {
-  const char* label;          // name of the caption; the value's is the same with "Val" behind it
-  const char* captionKey;     // empty: the design caption stays
-  const char* designCaption;  // UTF-8
-  const char* field;          // of the answer
+  const char* label;          ///< name of the caption; the value's is the same + "Val"
+  const char* captionKey;     ///< empty: the design caption stays
+  const char* designCaption;  ///< UTF-8
+  const char* field;          ///< of the answer
   HeadRule rule = HeadRule::kField;
 };
 
-// What a dialog is.
+/// A dialog's caption and head.
 struct EnquiryProfile {
   const char* captionKey;
   std::span<const HeadRow> head;
 };
 
+/// The profiles of the three dialogs.
 extern const EnquiryProfile kHistoryProfile;
 extern const EnquiryProfile kSignProfile;
 extern const EnquiryProfile kBigResultProfile;
 
 }  // namespace norvik
 
+/// The base of the three dialogs.
 class TEnquiryForm : public TDetailForm {
   Q_OBJECT
 
@@ -53,7 +57,7 @@ class TEnquiryForm : public TDetailForm {
   void ResetForm() override;
   void FormDestroy() override;
 
-  // Takes the fields of the answer; before the dialog is shown. A field that they lack shows as empty.
+  /// Sets the fields of the answer; before the dialog is shown. A field that they lack shows as empty.
   void SetRecord(corvane::Row record);
 
   TbsSkinPanel* m_pnlNormal = nullptr;
@@ -66,7 +70,7 @@ class TEnquiryForm : public TDetailForm {
   void FillHead();
 
   const norvik::EnquiryProfile& profile_;
-  std::vector<norvik::CaptionValue> head_;  // as the rows of the profile
+  std::vector<norvik::CaptionValue> head_;  // in the order of the profile's rows
   std::unique_ptr<CDetailCommon> m_pCommon;
   corvane::Row m_record;
 };

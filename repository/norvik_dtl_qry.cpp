@@ -1,5 +1,6 @@
 #include "repository/norvik_dtl_qry.h"
 
+#include "dialogs/message_keys.h"
 #include "repository/record_info_form.h"
 #include "toolkit/combo_box.h"
 
@@ -18,9 +19,9 @@ constexpr norvik::DateRangeRule kBusinessDates = {.startMissing = "UI44842",
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikDTLQry::Profile() const {
-  static const norvik::CustodyProfile profile =
+  static const norvik::CustodyProfile kProfile =
       PeriodProfile("CB200330", "BusinessDTLQry", "UI25830", {{"APPTYPE", "BUSITYPE"}});
-  return profile;
+  return kProfile;
 }
 
 std::vector<Condition> TfrmNorvikDTLQry::Conditions() {
@@ -66,7 +67,8 @@ void TfrmNorvikDTLQry::StartAccount() {
 
 bool TfrmNorvikDTLQry::CheckConditions() {
   const std::string flowNumber = m_edFlowNo->Text();
-  if (!flowNumber.empty() && !m_pCommon->IsAlphanumeric(flowNumber)) return Refuse("UI44873");
+  if (!flowNumber.empty() && !m_pCommon->IsAlphanumeric(flowNumber))
+    return Refuse(norvik::message::kFlowNumberInvalid);
   return CheckDates(kBusinessDates, m_dtStartDate, m_dtEndDate);
 }
 

@@ -1,9 +1,10 @@
 // TfrmNorvikDTLQry, menu item "ITEM6068": the single business events on the bills in custody, by business
-// type, flow number and date.
+// type, flow number and date. The menu opens it; it shows no bill's enquiries.
 #pragma once
 
 #include "repository/period_query_form.h"
 
+/// The screen of business events.
 class TfrmNorvikDTLQry : public TPeriodQueryForm {
   Q_OBJECT
 
@@ -11,7 +12,7 @@ class TfrmNorvikDTLQry : public TPeriodQueryForm {
   using TPeriodQueryForm::TPeriodQueryForm;
 
   bool CheckConditions() override;
-  // Limits the date also where the quick choice wrote it.
+  /// Limits the date even if the quick choice wrote it.
   void m_dtEndDateChange(TObject* sender) override;
 
   TKVXEdit* m_edBillId = nullptr;
@@ -22,6 +23,6 @@ class TfrmNorvikDTLQry : public TPeriodQueryForm {
   std::vector<norvik::Condition> Conditions() override;
   void LoadDictionaries() override;
   TRecordInfoForm* NewRecordView() override;
-  // With more accounts than one the institutions stay empty until the operator picks an account.
+  /// With more than one account the institutions remain empty until the operator chooses an account.
   void StartAccount() override;
 };

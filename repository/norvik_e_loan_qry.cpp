@@ -18,9 +18,9 @@ constexpr norvik::DateRangeRule kApplicationDates = {.startMissing = "UI44840",
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikELoanQry::Profile() const {
-  static const norvik::CustodyProfile profile = PeriodProfile(
+  static const norvik::CustodyProfile kProfile = PeriodProfile(
       "CB200320", "ELoanQry", "UI25828", {{"APPREST", "LOANRESULT"}, {"APPTYPE", "LOANTYPEAPP"}});
-  return profile;
+  return kProfile;
 }
 
 std::vector<Condition> TfrmNorvikELoanQry::Conditions() {

@@ -1,9 +1,10 @@
 // TfrmNorvikELoanQry, menu item "ITEM6067": the customer's applications on the custody business, by number,
-// type, status and date.
+// type, status and date. The menu opens it; it shows no bill's enquiries.
 #pragma once
 
 #include "repository/period_query_form.h"
 
+/// The screen of applications.
 class TfrmNorvikELoanQry : public TPeriodQueryForm {
   Q_OBJECT
 

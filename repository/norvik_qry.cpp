@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/base/kept_focus.h"
+#include "framework/business/batch_rows.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "repository/enquiry_form.h"
@@ -40,7 +43,6 @@ constexpr norvik::DateRangeRule kDueDates = {.startMissing = "UI44869",
 
 constexpr const char* kBillId = "BILLSID";
 constexpr const char* kAccount = "CUSTACC";
-constexpr const char* kAnswerList = "resultList";
 constexpr norvik::CodedColumn kRegistrationType = {"INFOTYP", "SIGNINFOTYPE"};
 
 template <class Dialog>
@@ -51,7 +53,7 @@ TEnquiryForm* NewDialog(TComponent* owner) {
 }  // namespace
 
 const norvik::CustodyProfile& TfrmNorvikQry::Profile() const {
-  static const norvik::CustodyProfile profile = {
+  static const norvik::CustodyProfile kProfile = {
       .businessCode = "CB200310",
       .exportType = "BillQry",
       .captionKey = "UI25826",
@@ -62,7 +64,7 @@ const norvik::CustodyProfile& TfrmNorvikQry::Profile() const {
       .advanceOpen = false,
       .namesInstitutions = false,
       .outputAlwaysOn = false};
-  return profile;
+  return kProfile;
 }
 
 void TfrmNorvikQry::BuildControls() {
@@ -102,7 +104,7 @@ void TfrmNorvikQry::LoadDictionaries() {
 
 void TfrmNorvikQry::InitAgentStatusList() {
   m_lbxAgentStt->Clear();
-  for (const corvane::Row& status : g_pPubInfo->GetIniplusList("BUSINESSDICT", "AGENTSTT")) {
+  for (const corvane::Row& status : g_pPubInfo->GetIniplusList(kDictionaries, "AGENTSTT")) {
     const std::string key = status.getValue("TYPEKEY");
     const std::string text = g_pTranslate->Translate(status.getValue("TYPE"));
     m_lbxAgentStt->Keys().Add(key);
@@ -115,7 +117,7 @@ void TfrmNorvikQry::InitAgentStatusList() {
 }
 
 bool TfrmNorvikQry::CheckConditions() {
-  if (m_lbxAgentStt->SelCount() == 0) return Refuse("UI44568");
+  if (m_lbxAgentStt->SelCount() == 0) return Refuse(norvik::message::kNoStatusSelected);
   if (!CheckDates(kDepositDates, m_dtStorageStartDate, m_dtStorageEndDate)) return false;
   if (m_pnlAdvance->RollState()) return true;
   return CheckDates(kDueDates, m_dtDeadStartDate, m_dtDeadEndDate) &&
@@ -129,6 +131,7 @@ bool TfrmNorvikQry::CheckAmountRange(TKVXEdit* minEdit, TKVXEdit* maxEdit) {
   minEdit->SetText(minimum);
   maxEdit->SetText(maximum);
   if (fault.messageKey.empty()) return true;
+  // Without an owner the message is over the host's main window, as the one for an empty answer is.
   ShowWarnMsg(g_pTranslate->Translate(fault.messageKey), nullptr);
   if (fault.emptiesMaximum) maxEdit->Clear();
   return false;
@@ -138,26 +141,28 @@ TRecordInfoForm* TfrmNorvikQry::NewRecordView() {
   return CreateForm<TfrmQryInfo>(this);
 }
 
-// What the enquiries differ in.
+// What differs between the enquiries.
 struct TfrmNorvikQry::Enquiry {
   const char* transaction;
   const char* numberField;  // sent beside the bill's id and account
-  bool byNumber;            // the number does where the bill has no id
-  const char* missingKey;   // told for a bill without what the enquiry goes by
+  bool byNumber;            // the number is enough if the bill has no id
+  const char* missingKey;   // the message for a bill without the number that the enquiry needs
   const norvik::CodedColumn* coded;
   TEnquiryForm* (*newDialog)(TComponent* owner);
 };
 
 void TfrmNorvikQry::m_actECDSHistoryInfoExecute(TObject*) {
-  Enquire({"EBBADEHQ", "QURYNUM", true, "UI44810", nullptr, &NewDialog<TfrmECDSHistoryDtl>});
+  Enquire({"EBBADEHQ", "QURYNUM", true, norvik::message::kNoBillIdOrNumber, nullptr,
+           &NewDialog<TfrmECDSHistoryDtl>});
 }
 
 void TfrmNorvikQry::m_actECDSSignInfoExecute(TObject*) {
-  Enquire({"EBBADERQ", "QURYNUM", true, "UI44810", &kRegistrationType, &NewDialog<TfrmECDSignDtl>});
+  Enquire({"EBBADERQ", "QURYNUM", true, norvik::message::kNoBillIdOrNumber, &kRegistrationType,
+           &NewDialog<TfrmECDSignDtl>});
 }
 
 void TfrmNorvikQry::m_actBigResultExecute(TObject*) {
-  Enquire({"EBBADHHQ", "BILLNUM", false, "UI44418", nullptr, &NewDialog<TfrmBigResultDtl>});
+  Enquire({"EBBADHHQ", "BILLNUM", false, norvik::message::kNoBillId, nullptr, &NewDialog<TfrmBigResultDtl>});
 }
 
 void TfrmNorvikQry::EnableRowActions(bool on) {
@@ -176,13 +181,14 @@ void TfrmNorvikQry::Enquire(const Enquiry& enquiry) {
   }
   if (enquiry.byNumber) fields["QURYTYP"] = identified ? "1" : "2";
   const KeptFocus focus(this);
+  std::exception_ptr failure;
   try {
     ShowAnswer(enquiry, fields);
   } catch (...) {
-    m_lvMainClick(this);
-    throw;
+    failure = std::current_exception();
   }
   m_lvMainClick(this);
+  if (failure) std::rethrow_exception(failure);
 }
 
 void TfrmNorvikQry::ShowAnswer(const Enquiry& enquiry, const corvane::Row& fields) {
@@ -193,7 +199,7 @@ void TfrmNorvikQry::ShowAnswer(const Enquiry& enquiry, const corvane::Row& field
   EnableRowActions(false);
   if (!m_pCommon->SendRequest(enquiry.transaction, request, answer, this)) return;
   dialog->SetRecord(answer.getFieldsRow());
-  corvane::List& rows = answer.getList(kAnswerList);
+  corvane::List& rows = answer.getList(norvik::kAnswerList);
   if (rows.size() > 0) {
     if (enquiry.coded != nullptr) {
       m_pCommon->DecodeDictColumn(rows, enquiry.coded->field, enquiry.coded->dictionary);

@@ -1,12 +1,13 @@
 // TfrmNorvikQry, menu item "ITEM6066": which bills are held in custody, where, in which status, by deposit
-// date, due date and amount. The advanced conditions are off, in check and request alike, while their panel
-// is rolled up.
+// date, due date and amount. The menu opens it. The advanced conditions are ignored, in check and request
+// alike, while their panel is rolled up.
 #pragma once
 
 #include "repository/custody_query_form.h"
 
 class TEnquiryForm;
 
+/// The screen of the bills in custody.
 class TfrmNorvikQry : public TCustodyQueryForm {
   Q_OBJECT
 
@@ -15,24 +16,24 @@ class TfrmNorvikQry : public TCustodyQueryForm {
 
   void BuildControls() override;
   bool CheckConditions() override;
-  // Tells the first fault of a range of amounts; the edits get the amounts in their normal form.
+  /// Reports the first fault of a range of amounts; the edits receive the amounts in their normal form.
   bool CheckAmountRange(TKVXEdit* minEdit, TKVXEdit* maxEdit);
-  // Fills m_lbxAgentStt from the host's dictionary, with the default set selected. A failed read goes up.
+  /// Fills m_lbxAgentStt from the host's dictionary, with the default set selected. A failed read propagates.
   void InitAgentStatusList();
 
-  // A typed deposit date ends the quick choice's hold on the dates; the other dates leave the quick choice
-  // alone.
+  /// A typed deposit date ends the quick choice's effect on the dates; the other dates leave the quick choice
+  /// alone.
   virtual void m_dtStorageStartDateChange(TObject* sender);
   virtual void m_dtStorageEndDateChange(TObject*) {}
   virtual void m_dtDeadStartDateChange(TObject*) {}
   virtual void m_dtDeadEndDateChange(TObject*) {}
 
-  // The enquiries on the ticked bill: each asks the bank and shows the answer in a dialog of its own. A bill
-  // without the number that the enquiry goes by is told, and nothing is asked.
+  /// The enquiries on the ticked bill: each sends a request to the bank and shows the answer in a dialog of
+  /// its own. A bill without the number that the enquiry needs is reported, and nothing is sent.
   virtual void m_actECDSHistoryInfoExecute(TObject* sender);
   virtual void m_actECDSSignInfoExecute(TObject* sender);
   virtual void m_actBigResultExecute(TObject* sender);
-  // Sets the three actions of the enquiries; m_actTicketInfo stays as it is.
+  /// Enables or disables the three actions of the enquiries; m_actTicketInfo is unchanged.
   void EnableRowActions(bool on);
 
   TKVXEdit* m_edBatNo = nullptr;

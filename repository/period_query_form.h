@@ -1,9 +1,11 @@
 // What the screens of applications and of business events share beyond the custody screen: a compulsory range
-// of dates of less than 181 days, whose quick choice follows what is typed, and a type to choose.
+// of dates of at most 180 days, whose quick choice follows what is typed, and a type to choose. The limit
+// itself is in repository/condition_checks.h.
 #pragma once
 
 #include "repository/custody_query_form.h"
 
+/// The base of the two screens.
 class TPeriodQueryForm : public TCustodyQueryForm {
   Q_OBJECT
 
@@ -20,24 +22,24 @@ class TPeriodQueryForm : public TCustodyQueryForm {
   TKVXComboBox* m_cbxLoanType = nullptr;
 
  protected:
-  // What a screen says beside one of its dates.
+  /// The caption and the mark beside a date.
   struct DateCaption {
     const char* key;
-    const char* design;  // UTF-8
-    const char* star;    // name of its "*"
+    const char* design;  ///< UTF-8
+    const char* star;    ///< name of its "*"
   };
 
-  // The profile of a screen of this kind; it decodes `ownColumns` first.
+  /// The profile of a screen of this kind; it decodes `ownColumns` first.
   static norvik::CustodyProfile PeriodProfile(const char* businessCode, const char* exportType,
                                               const char* captionKey,
                                               std::vector<norvik::CodedColumn> ownColumns);
   std::pair<TKVXDateTime*, TKVXDateTime*> QuickDates() override { return {m_dtStartDate, m_dtEndDate}; }
-  // The screen's table: its conditions, and behind them the two dates in the advanced panel.
+  /// The screen's table: its conditions, then the two dates in the advanced panel.
   std::vector<norvik::Condition> WithDates(std::vector<norvik::Condition> conditions,
                                            const DateCaption& start, const DateCaption& end);
   norvik::Condition LoanTypeCondition(const char* captionKey, const char* designCaption,
                                       norvik::ConditionCell cell);
 
-  // True for a change that the quick choice made, which is then forgotten.
+  /// Whether the quick choice made the change; the mark is then cleared.
   bool MadeByQuickChoice();
 };

@@ -104,7 +104,7 @@ void TRecordInfoForm::ShowRow(const ShownRow& shown, bool firstType) {
     const bool hidden = firstType && *row.firstType->field == '\0';
     shown.caption->SetVisible(!hidden);
     shown.value->SetVisible(!hidden);
-    // The pass over the form's texts is over when the record is filled in.
+    // The form has been translated before the record is filled in.
     shown.caption->SetCaption(
         TranslateKey(firstType && !hidden ? row.firstType->captionKey : row.captionKey));
     if (firstType) field = row.firstType->field;

@@ -1,5 +1,5 @@
-// The record of one row, field by field, as it stands in the list; nothing is asked of the bank. The three
-// views differ in their tables of rows alone.
+// The record of one row, field by field, as it is in the list; nothing is requested from the bank. The
+// screens open a view each. The three views differ in their tables of rows alone.
 #pragma once
 
 #include <string>
@@ -16,6 +16,7 @@ class TbsSkinExPanel;
 class TbsSkinScrollBar;
 class TbsSkinScrollBox;
 
+/// The base of the three views.
 class TRecordInfoForm : public TBaseForm {
   Q_OBJECT
 
@@ -24,13 +25,13 @@ class TRecordInfoForm : public TBaseForm {
   void SetCaptions() override;
   void PreInitHook1() override {}
   void PreInitHook2() override {}
-  // Fills the values from the record, by the bill's type.
+  /// Fills the values from the record, by the bill's type.
   void ResetForm() override;
 
-  // Takes the record to show; before the form is shown. A field that it lacks shows as empty.
+  /// Sets the record to show; before the form is shown. A field that it lacks shows as empty.
   void SetRecord(corvane::Property record);
   void m_btnCloseClick(TObject* sender);
-  // The panel of the bill was rolled up or opened: rows that its type hides stay hidden.
+  /// The panel of the bill was rolled up or opened: rows that its type hides remain hidden.
   void m_spBillInfoChangeRollState(TObject* sender);
 
   TbsSkinScrollBox* m_tbsSkinScrollBox = nullptr;
@@ -39,7 +40,7 @@ class TRecordInfoForm : public TBaseForm {
   TbsSkinButton* m_btnClose = nullptr;
 
  protected:
-  // `panels` are the view's tables.
+  /// `panels` are the view's tables.
   TRecordInfoForm(TComponent* owner, std::vector<norvik::RecordPanel> panels);
 
  private:

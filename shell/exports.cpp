@@ -1,29 +1,29 @@
-// The module's five exports; platform/host_api.h tells a host how to call them.
+// The module's five exports; platform/host_api.h says how a host calls them.
 #include <type_traits>
 
 #include "shell/module.h"
 
-#define NORVIK_EXPORT extern "C" __attribute__((visibility("default")))
+#define NORVIK_ENTRY extern "C" __attribute__((visibility("default")))
 
-NORVIK_EXPORT uint32_t InitModule(norvik_handle public_information_module) {
-  norvik::StartModule(public_information_module);
+NORVIK_ENTRY uint32_t InitModule(norvik_handle publicInformationModule) {
+  norvik::StartModule(publicInformationModule);
   return 0;
 }
 
-NORVIK_EXPORT void MenuConfig(char** buffer) {
+NORVIK_ENTRY void MenuConfig(char** buffer) {
   if (buffer) norvik::CopyMenu(buffer);
 }
 
-NORVIK_EXPORT int32_t FreeBuff(char* buffer) {
+NORVIK_ENTRY int32_t FreeBuff(char* buffer) {
   delete[] buffer;
   return 0;
 }
 
-NORVIK_EXPORT void CallFunc(const char* request, uint32_t /*reserved*/) {
+NORVIK_ENTRY void CallFunc(const char* request, uint32_t /*reserved*/) {
   norvik::CallItem(request ? request : "");
 }
 
-NORVIK_EXPORT void Release() {
+NORVIK_ENTRY void Release() {
   norvik::StopModule();
 }
 

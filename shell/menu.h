@@ -1,25 +1,28 @@
+// What the module offers in the host's menu, and the one screen of each item. The exports use it; it knows
+// nothing of the host beyond the window that it restores.
 #pragma once
 
 #include <span>
 #include <string>
 #include <string_view>
 
-/// What the module offers in the host's menu, and the one screen behind each item.
 class TApplication;
 class TForm;
 
 namespace norvik {
 
+/// An item of the menu and what can be done with its screen.
 struct MenuItem {
+  /// The item's name.
   std::string_view item;
-  /// Opens the item's screen, or brings the same one back: one that was closed is shown anew and runs its
-  /// reset, one that is open or minimised comes forward as it was. Does nothing while the screen is being
-  /// made. A failure while it is made is passed on, and the next call makes it anew; a failing show is
+  /// Opens the item's screen, or brings the same one back: one that was closed is shown again and runs its
+  /// reset, one that is open or minimised comes to the front as it was. Does nothing while the screen is
+  /// being made. A failure while it is made is passed on, and the next call makes it again; a failing show is
   /// reported. LifeEnded if the host ends the life meanwhile.
   void (*open)(const std::string& item);
-  /// The item's screen, null while it is absent.
+  /// The item's screen, null while there is none.
   TForm* (*screen)();
-  /// Makes the item's screen absent if it belongs to that life, which deletes it.
+  /// Forgets the item's screen if it belongs to that life, which deletes it.
   void (*forget)(const TApplication* life);
 };
 

@@ -80,7 +80,7 @@ void StartModule(norvik_handle publicInformation) {
     scope.Check();
     services->started = true;
   } catch (const LifeEnded&) {
-    // The host has released the module while it was starting; a start of its own may stand in this one's
+    // The host has released the module while it was starting; another start may have succeeded in this one's
     // place.
     const Services* newest = ServicesOf(NewestApplication());
     if (newest == nullptr || !newest->started) throw corvane::TException(key::kNotInitialised);

@@ -1,3 +1,6 @@
+// What the five exports do, in C++: start and stop of the module, a pick of the menu, the text of the menu.
+// shell/exports.cpp is its only caller but for the tests. Failures are corvane::TException; nothing is caught
+// here. User-interface thread.
 #pragma once
 
 #include <cstdint>
@@ -5,10 +8,9 @@
 
 #include "platform/host_api.h"
 
-/// What the five exports do. Failures are corvane::TException; nothing is caught here. User-interface thread.
 namespace norvik {
 
-/// Makes the services in a fixed order and binds them. What was made before a step that fails stays for
+/// Makes the services in a fixed order and binds them. What was made before a step that fails remains for
 /// Release. What an earlier start has left is released first.
 void StartModule(norvik_handle publicInformation);
 

@@ -28,8 +28,8 @@ void CloseEach(Service*... services) {
 }  // namespace
 
 Services::Services(TApplication* life) : TComponent(life) {
-  life->OnLeave = [this] { put_aside_ = Exchange({}); };
-  life->OnEnter = [this] { Exchange(put_aside_); };
+  life->OnLeave = [this] { setAside_ = Exchange({}); };
+  life->OnEnter = [this] { Exchange(setAside_); };
 }
 
 Services::~Services() {

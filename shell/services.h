@@ -1,5 +1,5 @@
-// The services of one life of the module: the objects behind the module-wide pointers, which are set only
-// while that life is served.
+// The services of one life of the module: the objects that the module-wide pointers point to, which are set
+// only while that life is served. shell/module.cpp makes and closes them; everybody else uses the pointers.
 #pragma once
 
 #include "dialogs/bank_info.h"
@@ -21,17 +21,16 @@ class Services : public TComponent {
   Q_OBJECT
 
  public:
-  /// From now on the module-wide pointers come and go with the life, which is the one that is served.
+  /// From now on the module-wide pointers are set and cleared with the life, which is the one that is served.
   explicit Services(TApplication* life);
   ~Services() override;
 
-  /// Ends every use of the host: an operation that is under way throws LifeEnded when the host comes back
-  /// from it.
+  /// Ends every use of the host: an operation in progress throws LifeEnded when the host returns from it.
   void Close();
 
   /// True from the end of StartModule to the beginning of StopModule.
   bool started = false;
-  /// True while a failure is shown. The form that shows it asks the host for texts and fonts as any other
+  /// True while a failure is shown. The form that shows it reads texts and fonts from the host as any other
   /// does, and what made the first failure may fail there again.
   bool reporting = false;
 
@@ -47,7 +46,7 @@ class Services : public TComponent {
   };
   static Pointers Exchange(const Pointers& pointers);
 
-  Pointers put_aside_;
+  Pointers setAside_;
 };
 
 /// The services of a life, null if it has none.

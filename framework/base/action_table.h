@@ -1,19 +1,21 @@
-// The actions of a form as a table.
+// The actions of a form as a table: name, caption key, picture and handler. The frames and the screens build
+// their action lists from it; where the actions appear is up to the form.
 #pragma once
 
 #include "toolkit/action.h"
 #include "toolkit/image_list.h"
 
+/// One action: the form's member that holds it, and what it starts with.
 template <class Form>
 struct ActionLine {
   TAction* Form::*action;
   const char* name;
   const char* captionKey;
   TStockImage image;
-  void (Form::*execute)(TObject* sender);  // null: the action has no handler
+  void (Form::*execute)(TObject* sender);  ///< null: the action has no handler
 };
 
-// Makes the form's actions in the order of the table; their pictures join the images of `list`.
+/// Makes the form's actions in the order of the table; their pictures join the images of `list`.
 template <class Form, std::size_t kCount>
 void BuildActions(Form* form, TActionList* list, const ActionLine<Form> (&lines)[kCount]) {
   for (const ActionLine<Form>& line : lines) {
@@ -26,7 +28,7 @@ void BuildActions(Form* form, TActionList* list, const ActionLine<Form> (&lines)
   }
 }
 
-// Sets the captions of the actions to their keys.
+/// Sets the captions of the actions to their keys.
 template <class Form, std::size_t kCount>
 void SetActionCaptions(Form* form, const ActionLine<Form> (&lines)[kCount]) {
   for (const ActionLine<Form>& line : lines) (form->*line.action)->SetCaption(line.captionKey);

@@ -27,7 +27,7 @@ std::string Configured(const char* section, const std::string& item) {
   return g_pPubInfo->GetIniValue(kConfiguration, section, item);
 }
 
-// A switch of the configuration: empty and "0" are off, all else is on.
+// A switch of the configuration: empty and "0" are off, everything else is on.
 bool SwitchedOn(const char* section, const std::string& item) {
   const std::string value = Configured(section, item);
   return !value.empty() && value != "0";
@@ -94,8 +94,8 @@ void TBaseForm::FormClose(TObject*) {
   if (Tag() != 0) SendToHost(kMessageFormClosed);
 }
 
-// On a control that the configuration lists, a key moves the focus only with Shift; elsewhere Shift is not
-// looked at.
+// On a control that the configuration lists, a key moves the focus only with Shift; on any other control
+// Shift makes no difference.
 bool TBaseForm::MovesFocus(TShiftState shift) const {
   const std::string control = ActiveControl()->ClassName();
   const bool listed = SwitchedOn("CONTROL.UPDOWN", control) || SwitchedOn("CONTROL.RETURN", control);
@@ -151,9 +151,9 @@ void TBaseForm::ApplySkinData(TWinControl* parent) {
 }
 
 void TBaseForm::ReadFont() {
-  constexpr const char* section = "APPLICATION.FONT";
-  m_nFontSize = StrToInt(Configured(section, "Size"));
-  m_strFontName = Configured(section, "Name");
+  constexpr const char* kSection = "APPLICATION.FONT";
+  m_nFontSize = StrToInt(Configured(kSection, "Size"));
+  m_strFontName = Configured(kSection, "Name");
   m_nFontCharset = CharsetOf(Configured("APPLICATION.LANG", "Language"));
 }
 

@@ -24,13 +24,13 @@ void TranslateProperty(TObject* object, const char* name) {
   if (IsPublishedProp(object, name)) SetStrProp(object, name, Translated(GetStrProp(object, name)));
 }
 
-// The skin colours the text; the host's font and the form's sizes stay.
+// The skin sets the colour of the text; the host's font and the form's sizes are left alone.
 void SetSkinFlags(TObject* control) {
   constexpr struct {
     const char* name;
     bool value;
-  } flags[] = {{"UseSkinFont", false}, {"UseSkinFontColor", true}, {"UseSkinSize", false}};
-  for (const auto& flag : flags) {
+  } kFlags[] = {{"UseSkinFont", false}, {"UseSkinFontColor", true}, {"UseSkinSize", false}};
+  for (const auto& flag : kFlags) {
     if (IsPublishedProp(control, flag.name)) SetPropValue(control, flag.name, flag.value);
   }
 }
@@ -90,7 +90,8 @@ void TranslateControls(TWinControl* parent) {
     }
   }
   TranslateProperty(parent, "Caption");
-  // The text of a box is that of its chosen entry, which stays the chosen one when another bears its text.
+  // The text of a box is that of its chosen entry; translated as an entry it remains the chosen one even when
+  // another entry has the same text.
   if (qobject_cast<TCustomComboBox*>(parent) == nullptr) TranslateProperty(parent, "Text");
   TranslateProperty(parent, "Hint");
   TranslateItems(parent);

@@ -1,5 +1,5 @@
-// Guards for the time of an exchange that a form makes: the control that started it loses neither the focus nor
-// its action for good. The screens and the frames use them; they know nothing of the exchange itself.
+// Guards for the time of an exchange that a form makes: the control that started it keeps the focus, and its
+// action is enabled again. The frames and the screens use them; they know nothing of the exchange itself.
 #pragma once
 
 #include <QPointer>
@@ -8,7 +8,7 @@
 #include "toolkit/control.h"
 #include "toolkit/form.h"
 
-/// Gives the focus back at its end to the control that had it: a control that is disabled for a while loses the
+/// Returns the focus at its end to the control that had it: a control that is disabled for a while loses the
 /// focus to the next one, and the operator's next key would press that.
 class KeptFocus {
  public:

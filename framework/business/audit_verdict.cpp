@@ -3,15 +3,13 @@
 #include <cstdint>
 
 #include "dialogs/audit.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/business/batch_rows.h"
 #include "host/translate.h"
 #include "toolkit/conversion.h"
 
 namespace {
-
-constexpr const char* kNothingTicked = "UI52869";
-constexpr const char* kLongOpinion = "UI52934";
 
 void Warn(const char* key) {
   ShowWarnMsg(g_pTranslate->Translate(key), nullptr);
@@ -39,13 +37,13 @@ corvane::List AuditRows(TKVXListView* listView) {
 }
 
 void WarnOfNothingTicked() {
-  Warn(kNothingTicked);
+  Warn(message::kNothingTicked);
 }
 
 bool AskVerdict(bool& agree, std::string& opinion) {
   if (!ShowAuditDlg(agree, opinion, nullptr)) return false;
-  if (opinion.size() <= kLongestOpinion) return true;
-  Warn(kLongOpinion);
+  if (opinion.size() <= kMaxOpinionBytes) return true;
+  Warn(message::kOpinionTooLong);
   return false;
 }
 

@@ -8,6 +8,17 @@
 #include "toolkit/kvx_list_view.h"
 
 namespace norvik {
+namespace {
+
+constexpr const char* kNoReasonGiven = "UI52438";
+
+}  // namespace
+
+corvane::List TickedRecords(TKVXListView* listView) {
+  corvane::List records;
+  listView->GetDataVector(records, dvChecked);
+  return records;
+}
 
 corvane::List TickedRows(TKVXListView* listView, const char* indexField, const RowFiller& fill) {
   corvane::List rows;
@@ -32,11 +43,15 @@ TListItem* ItemNamed(TKVXListView* listView, const std::string& index) {
   return at < 0 || at >= listView->Items().Count() ? nullptr : listView->Items()[at];
 }
 
-std::string FailureText(const std::string& code, const std::string& information) {
+std::string ReasonOf(const std::string& code) {
   constexpr std::uint8_t kReasonFlag = 1;
+  return g_pError->GetReasonText(code, kReasonFlag);
+}
+
+std::string FailureText(const std::string& code, const std::string& information) {
   if (!code.empty() && !information.empty()) return "[" + code + "]" + information;
-  if (!code.empty()) return g_pError->GetReasonText(code, kReasonFlag);
-  return information.empty() ? TBaseForm::TranslateKey("UI52438") : information;
+  if (!code.empty()) return ReasonOf(code);
+  return information.empty() ? TBaseForm::TranslateKey(kNoReasonGiven) : information;
 }
 
 std::string CancelAmount(const corvane::Row& record) {

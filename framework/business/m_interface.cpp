@@ -3,9 +3,10 @@
 #include <vector>
 
 #include "dialogs/busy.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/business/batch_rows.h"
-#include "framework/columns/column_order.h"
+#include "framework/columns/column_table.h"
 #include "framework/columns/export_rules.h"
 #include "framework/rules/amount_text.h"
 #include "host/excel.h"
@@ -26,16 +27,12 @@ enum OutputType : std::uint8_t { kWorkbook = 1, kText = 3 };
 constexpr const char* kTextSeparator = "|";
 constexpr int kTextOption = 2;
 
-std::string Value(const corvane::Row& row, const char* key) {
-  return row.getValue(key);
-}
-
 std::string UserField(const char* key) {
   corvane::List users = g_pPubInfo->GetList("CMLGUSERINFO");
-  return users.size() == 0 ? std::string() : Value(users[0], key);
+  return users.size() == 0 ? std::string() : users[0].getValue(key);
 }
 
-// Takes the busy form of an exchange away, whatever happens in it; also where it could not be shown.
+// Hides the busy form of an exchange, whatever happens in it; also if it could not be shown.
 class BusyEnd {
  public:
   explicit BusyEnd(TForm* owner) : owner_(owner) {}
@@ -43,7 +40,7 @@ class BusyEnd {
     try {
       HideBar(owner_);
     } catch (const norvik::LifeEnded&) {
-      // The form has gone with its life; what follows meets the end at its own next check.
+      // The form has gone with its life; the code that follows meets the end at its own next check.
     }
   }
   BusyEnd(const BusyEnd&) = delete;
@@ -52,8 +49,6 @@ class BusyEnd {
  private:
   TForm* owner_;
 };
-
-constexpr const char* kRefusedColor = "255";
 
 TAlignment AlignmentOf(const std::string& align) {
   if (align == "C") return taCenter;
@@ -71,10 +66,10 @@ bool LostItsText(const corvane::Row& fieldDef, corvane::List& savedLayout) {
 }  // namespace
 
 void CMInterface::ShowResultTotals(const corvane::CorvaneStream& answer) {
-  constexpr const char* kLines[][2] = {{"UI51028", "SUCTOTALNUM"},
-                                       {"UI51029", "SUCTOTALMONEY"},
-                                       {"UI51030", "ERRTOTALNUM"},
-                                       {"UI51031", "ERRTOTALMONEY"}};
+  constexpr const char* kLines[][2] = {{norvik::message::kSucceededCount, "SUCTOTALNUM"},
+                                       {norvik::message::kSucceededAmount, "SUCTOTALMONEY"},
+                                       {norvik::message::kFailedCount, "ERRTOTALNUM"},
+                                       {norvik::message::kFailedAmount, "ERRTOTALMONEY"}};
   std::string text;
   for (const auto& [label, field] : kLines) {
     if (!text.empty()) text += "\r\n";
@@ -86,7 +81,7 @@ void CMInterface::ShowResultTotals(const corvane::CorvaneStream& answer) {
 bool CMInterface::SendRequest(const std::string& code, corvane::CorvaneStream& request,
                               corvane::CorvaneStream& answer, TForm* owner) {
   const bool done = Exchange(code, request, answer, owner);
-  // The bar pumps messages once more when it goes.
+  // The busy form processes messages once more when it closes.
   CheckLife();
   return done;
 }
@@ -95,7 +90,7 @@ bool CMInterface::Exchange(const std::string& code, corvane::CorvaneStream& requ
                            corvane::CorvaneStream& answer, TForm* owner) {
   const BusyEnd end(owner);
   try {
-    // What the user picks in the host meanwhile waits for the end of the exchange.
+    // What the user picks in the host meanwhile waits until the exchange has ended.
     const THold hold;
     ShowBar(owner);
     answer.clear();
@@ -106,7 +101,8 @@ bool CMInterface::Exchange(const std::string& code, corvane::CorvaneStream& requ
   } catch (const norvik::LifeEnded&) {
     throw;
   } catch (...) {
-    // Nothing is known about a failure of another class that could be told to the user.
+    // A failure of another class has no key and so no text for the user; the caller sees an exchange that
+    // failed.
   }
   answer.clear();
   return false;
@@ -141,11 +137,11 @@ bool CMInterface::LoadBusinessFlows(const char* bsnCode) {
     corvane::List operations = g_pPubInfo->GetList("CMLGBSNOPR");
     for (unsigned i = 0; i < businesses.size(); ++i) {
       corvane::Row flow;
-      flow["FLOWID"] = Value(businesses[i], "FLOWID");
+      flow["FLOWID"] = businesses[i].getValue("FLOWID");
       for (unsigned j = 0; j < operations.size(); ++j) {
-        if (Value(operations[j], "FLOWID") != flow.getValue("FLOWID")) continue;
+        if (operations[j].getValue("FLOWID") != flow.getValue("FLOWID")) continue;
         m_flows.addRow(flow);
-        (Value(operations[j], "PSTCLASS") == "01" ? m_flowsPrimary : m_flowsOther).addRow(flow);
+        (operations[j].getValue("PSTCLASS") == "01" ? m_flowsPrimary : m_flowsOther).addRow(flow);
       }
     }
     return true;
@@ -156,10 +152,8 @@ bool CMInterface::LoadBusinessFlows(const char* bsnCode) {
 }
 
 int CMInterface::FindColumnByCaption(TKVXListView* listView, const std::string& caption) {
-  for (int i = 0; i < listView->Columns().Count(); ++i) {
-    if (listView->Columns()[i]->Caption() == caption) return i + 1;
-  }
-  return -1;
+  const TListColumn* column = norvik::FindColumn(listView, caption);
+  return column == nullptr ? -1 : column->Index() + 1;
 }
 
 void CMInterface::PrintRecords(const std::string& className, const std::string& text, corvane::Row& head,
@@ -212,13 +206,13 @@ void CMInterface::InitListColumns(TKVXListView* listView, const std::string& cla
     listView->SetColumnsWhole(false);
     listView->Columns().Clear();
     listView->ColumnIds().clear();
-    corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", className);
+    corvane::List fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, className);
     bool whole = true;
     if (fieldDefs.size() == 0) {
       listView->SetColumnsWhole(true);
       return;
     }
-    corvane::List savedLayout = g_pPubInfo->GetIniplusList("COLUMN_INFO", className);
+    corvane::List savedLayout = g_pPubInfo->GetIniplusList(norvik::kLayoutDocument, className);
     corvane::Ini workingTable;
     for (const unsigned index : norvik::ColumnOrder(fieldDefs, savedLayout)) {
       corvane::Row columnRow;
@@ -245,7 +239,7 @@ void CMInterface::AddListColumn(TKVXListView* listView, corvane::Row& fieldDef, 
   listView->ColumnIds().push_back(fieldDef.getValue("COLID"));
   caption.clear();
   if (fieldDef.getValue("DISPLAY") == norvik::kDataColumnKey) {
-    column->SetMaxWidth(1);
+    column->SetMaxWidth(norvik::kHiddenMaxWidth);
   } else {
     columnRow["COLID"] = fieldDef.getValue("COLID");
     caption = g_pTranslate->Translate(fieldDef.getValue("DISPLAY"));
@@ -253,7 +247,7 @@ void CMInterface::AddListColumn(TKVXListView* listView, corvane::Row& fieldDef, 
   }
   column->SetWidth(StrToInt(fieldDef.getValue("WIDTH")));
   if (column->Width() == 0 && !caption.empty()) {
-    column->SetMaxWidth(1);
+    column->SetMaxWidth(norvik::kHiddenMaxWidth);
     fieldDef["COLFMT"] = "X";
   }
   column->SetAlignment(AlignmentOf(fieldDef.getValue("ALIGN")));
@@ -270,7 +264,7 @@ void CMInterface::ApplyResultList(const corvane::CorvaneStream& answer, const st
     m_resultFlags[item->Index()] = flag;
     corvane::Property& record = *listView->PropertyOf(item);
     record["Reason"] = flag;
-    record["Color"] = kRefusedColor;
+    record["Color"] = norvik::kRefusedColor;
     listView->RefreshItem(item);
   }
   listView->SetItemIndex(-1);

@@ -1,8 +1,8 @@
-// CMInterface: what every screen asks of the bank and the host, whatever its business. A screen owns one
-// object of a descendant and goes through it alone. Everything runs on the user-interface thread.
+// CMInterface: what every screen asks of the bank and the host, whatever its business. A screen owns an
+// object of a descendant and does all exchanges through it. Everything runs on the user-interface thread.
 //
 // The standard reporting, where an operation promises it: the failure's keys become one text, the text is
-// shown, and the operation ends with the state as far as it came.
+// shown, and the operation ends with the state that it had reached.
 #pragma once
 
 #include <cstdint>
@@ -15,82 +15,83 @@ class TControl;
 class TForm;
 class TKVXListView;
 
+/// The operations that all business objects share.
 class CMInterface {
  public:
   virtual ~CMInterface() = default;
 
-  // Hooks of the family; nothing calls them.
+  /// Hooks of the family; nothing calls them.
   virtual bool ReservedCheck1() = 0;
   virtual bool ReservedCheck2() = 0;
   virtual bool ReservedCheck3() = 0;
 
-  // Shows in one warning how many records of a batch went through and how many failed, with their amounts.
+  /// Shows in one warning how many records of a batch succeeded and how many failed, with their amounts.
   virtual void ShowResultTotals(const corvane::CorvaneStream& answer);
 
-  // Sends `request` under the transaction code `code`, with the busy form over `owner` meanwhile. True:
-  // `answer` holds the bank's answer. False: the failure has been reported and `answer` is empty. The call
-  // blocks as long as the host takes, and sets the encoding of `request` to "GBK". LifeEnded if the host ends
-  // the life meanwhile.
+  /// Sends `request` under the transaction code `code`, with the busy form over `owner` meanwhile. True:
+  /// `answer` holds the bank's answer. False: `answer` is empty; a TException has been reported, a failure of
+  /// any other class has not. The call blocks as long as the host does, and sets the encoding of `request` to
+  /// "GBK". LifeEnded if the host ends the life meanwhile.
   bool SendRequest(const std::string& code, corvane::CorvaneStream& request, corvane::CorvaneStream& answer,
                    TForm* owner);
 
-  // The user's number; empty when the host fails, which is reported, or knows no user.
+  /// The user's number; empty when the host fails, which is reported, or knows no user.
   std::string GetOperatorNo();
 
-  // The bank's day as "yyyymmdd"; the local clock is never asked.
+  /// The bank's day as "yyyymmdd"; the local clock is never asked.
   std::string GetServerDate();
 
-  // Brings an amount as typed into the form with two decimals; true when it was in it already. A null text
-  // counts as empty. A text that is no number raises the toolkit's EConvertError.
+  /// Converts an amount as typed into the form with two decimals; true if it had that form already. A null
+  /// text counts as empty. A text that is no number raises the toolkit's EConvertError.
   bool NormalizeAmount(const char* text, std::string& out);
 
-  // Takes the flows of a business from the host's tables into Flows and its two parts. A failure takes the
-  // standard reporting and gives false; what was added stays.
+  /// Reads the flows of a business from the host's tables into m_flows and its two parts. A failure is
+  /// reported in the standard way and returns false; what was added remains.
   bool LoadBusinessFlows(const char* bsnCode);
 
-  // Builds the columns of a list view from the column table and the user's saved layout of `className`, and
-  // stores the working table. A class without a column table leaves the list without columns. A failure takes
-  // the standard reporting; the columns built so far stay, and the list's ColumnsWhole becomes false, as it
-  // does where a column that the layout names has no caption.
+  /// Builds the columns of a list view from the column table and the user's saved layout of `className`, and
+  /// stores the working table. A class without a column table leaves the list without columns. A failure is
+  /// reported in the standard way; the columns built so far remain, and the list's ColumnsWhole becomes
+  /// false, as it does if a column that the layout names has no caption.
   void InitListColumns(TKVXListView* listView, const std::string& className);
 
-  // Adds one column for a row of the column table, which becomes internal (COLFMT "X") where its width is 0.
-  // `columnRow` takes the column's COLID, `caption` its text; a data column leaves `caption` empty.
+  /// Adds one column for a row of the column table, which becomes internal (COLFMT "X") if its width is 0.
+  /// `columnRow` receives the column's COLID, `caption` its text; a data column leaves `caption` empty.
   void AddListColumn(TKVXListView* listView, corvane::Row& fieldDef, corvane::Row& columnRow,
                      std::string& caption);
 
-  // The position, counted from 1, of the first column with that caption, as GetTotalMoney takes it; -1
-  // without one.
+  /// The position, counted from 1, of the first column with that caption, as GetTotalMoney expects it; -1
+  /// without one.
   int FindColumnByCaption(TKVXListView* listView, const std::string& caption);
 
-  // Prints `rows` by the report of `className`; `text` is the text of the conditions. Standard reporting.
+  /// Prints `rows` by the report of `className`; `text` is the text of the conditions. Standard reporting.
   void PrintRecords(const std::string& className, const std::string& text, corvane::Row& head,
                     corvane::List& rows);
 
-  // Opens the host's print settings for the report of `className`. Standard reporting.
+  /// Opens the host's print settings for the report of `className`. Standard reporting.
   void PrintSetup(const std::string& className);
 
-  // Writes `rows` to a file: type 1 a workbook, 3 a text with "|"; any other type writes nothing and says
-  // nothing. A file name ending in ".txt", in any case, is always a text. Standard reporting.
+  /// Writes `rows` to a file: type 1 a workbook, 3 a text with "|"; any other type writes nothing and reports
+  /// nothing. A file name with the extension ".txt", in any case, is always a text. Standard reporting.
   void ExportRecords(const std::string& fileName, corvane::Row& head, corvane::List& columns,
                      corvane::List& rows, std::uint8_t fileType);
 
-  // Marks the items that the answer's list names as refused: reason and colour. A row whose ID is no item is
-  // skipped. No item is selected afterwards.
+  /// Marks the items that the answer's list names as refused: reason and colour. A row whose ID is no item is
+  /// skipped. No item is selected afterwards.
   void ApplyResultList(const corvane::CorvaneStream& answer, const std::string& listName,
                        TKVXListView* listView);
 
-  // Takes away the ticked items that the last ApplyResultList did not name: they were carried out.
+  /// Removes the ticked items that the last ApplyResultList did not name: they were carried out.
   void RemoveCompletedItems(TKVXListView* listView);
 
-  // Gives a combo box or a label its own text as its hint; leaves any other control, and none, alone.
+  /// Sets the hint of a combo box or a label to its own text; leaves any other control, and null, alone.
   void SetControlHint(TControl* control);
 
  protected:
-  corvane::List m_flowsPrimary;  // flows whose operation has PSTCLASS "01"
+  corvane::List m_flowsPrimary;  ///< flows whose operation has PSTCLASS "01"
   corvane::List m_flowsOther;
-  corvane::List m_flows;  // all flows of the business; each row has the one column FLOWID
-  std::map<std::int32_t, std::string> m_resultFlags;  // item index to FLAG, of the last ApplyResultList
+  corvane::List m_flows;  ///< all flows of the business; each row has the one column FLOWID
+  std::map<std::int32_t, std::string> m_resultFlags;  ///< item index to FLAG, of the last ApplyResultList
   std::string m_bsnCode;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/business/audit_verdict.h"
 #include "framework/business/batch_rows.h"
@@ -19,14 +20,6 @@ namespace {
 
 constexpr std::size_t kHourDigits = 10;  // "yyyymmddhh"
 constexpr const char* kBatchAudit = "1";
-constexpr const char* kBooked = "UI52019";
-constexpr const char* kPastBooking = "UI53317";
-
-corvane::List TickedRecords(TKVXListView* listView) {
-  corvane::List records;
-  listView->GetDataVector(records, dvChecked);
-  return records;
-}
 
 void AddSingleAudit(corvane::CorvaneStream& request, bool agree, const std::string& opinion,
                     const std::string& code, std::int32_t subType) {
@@ -92,7 +85,7 @@ void CMQueryIntf::LimitDate(TKVXDateTime* limited, TKVXDateTime* startEdit, TKVX
 }
 
 bool CMQueryIntf::TakeAuditRecords(TKVXListView* listView, corvane::CorvaneStream& request) {
-  SetAuditRows(TickedRecords(listView));
+  SetAuditRows(norvik::TickedRecords(listView));
   if (m_auditRows.size() == 0) {
     norvik::WarnOfNothingTicked();
     return false;
@@ -122,7 +115,7 @@ bool CMQueryIntf::BuildAgreedAuditRequest(TKVXListView* listView, const std::str
 
 bool CMQueryIntf::BuildBatchAuditRequest(TKVXListView* listView, const std::string& code,
                                          corvane::CorvaneStream& request) {
-  const corvane::List records = TickedRecords(listView);
+  const corvane::List records = norvik::TickedRecords(listView);
   SetAuditRows(records);
   if (!ConfirmBookedRecords()) return false;
   const corvane::Row& first = records[0];
@@ -142,10 +135,10 @@ bool CMQueryIntf::BuildBatchAuditRequest(TKVXListView* listView, const std::stri
 
 bool CMQueryIntf::ConfirmBookedRecords() {
   const std::string present = g_pSafeCom->GetServerTime().getDateTime().substr(0, kHourDigits);
-  const std::string booked = g_pTranslate->Translate(kBooked);
+  const std::string booked = g_pTranslate->Translate(norvik::kBookedUnderAuditKey);
   const bool past = std::any_of(m_auditRows.begin(), m_auditRows.end(), [&](const corvane::Row& record) {
     return norvik::IsPastBooking(record, booked, present);
   });
   m_auditRows.clear();
-  return !past || ShowConfirmMsg(g_pTranslate->Translate(kPastBooking), nullptr);
+  return !past || ShowConfirmMsg(g_pTranslate->Translate(norvik::message::kBookingPassed), nullptr);
 }

@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
@@ -13,17 +14,13 @@
 
 namespace {
 
-std::string Value(const corvane::Row& row, const std::string& key) {
-  return row.getValue(key);
-}
-
-// The texts of a dictionary's codes, each asked of the host when it is first needed.
+// The texts of a dictionary's codes, each requested from the host when it is first needed.
 class CodeTexts {
  public:
   explicit CodeTexts(const corvane::List& dictionary) {
-    // The first of two rows of one code counts.
+    // If two rows have one code, the first counts.
     for (const corvane::Row& row : dictionary)
-      entries_.try_emplace(Value(row, "TYPEKEY"), Value(row, "TYPE"));
+      entries_.try_emplace(row.getValue("TYPEKEY"), row.getValue("TYPE"));
   }
 
   // Null for a code that the dictionary lacks.
@@ -43,15 +40,14 @@ class CodeTexts {
   std::unordered_map<std::string, Entry> entries_;
 };
 
-// Each account once, also one that several flows reach, behind the first entry; an empty box without
-// accounts.
+// Each account once, also one that several flows reach, after the first entry; an empty box without accounts.
 void ShowAccounts(TKVXComboBox* combo, const corvane::List& accounts, const std::string& firstEntry) {
   const TStringsUpdate update(combo->Items());
   std::unordered_set<std::string> shown;
   combo->Clear();
   for (const corvane::Row& row : accounts) {
-    const std::string number = Value(row, "ACCNO");
-    const std::string name = Value(row, "ACCNM");
+    const std::string number = row.getValue("ACCNO");
+    const std::string name = row.getValue("ACCNM");
     if (!shown.insert(number).second) continue;
     combo->Keys().Add(number);
     combo->Names().Add(name);
@@ -64,10 +60,10 @@ void ShowAccounts(TKVXComboBox* combo, const corvane::List& accounts, const std:
 
 void CQueryCommon::LoadDictCombo(TKVXComboBox* combo, const std::string& dictName) {
   combo->Items().Clear();
-  corvane::List dictionary = g_pPubInfo->GetIniplusList("BUSINESSDICT", dictName);
+  corvane::List dictionary = g_pPubInfo->GetIniplusList(kDictionaries, dictName);
   corvane::Row texts;
   for (const corvane::Row& row : dictionary) {
-    texts[Value(row, "TYPEKEY")] = g_pTranslate->Translate(Value(row, "TYPE"));
+    texts[row.getValue("TYPEKEY")] = g_pTranslate->Translate(row.getValue("TYPE"));
   }
   combo->Init(texts);
   combo->SetItemIndex(0);
@@ -76,9 +72,9 @@ void CQueryCommon::LoadDictCombo(TKVXComboBox* combo, const std::string& dictNam
 void CQueryCommon::DecodeDictColumn(corvane::List& rows, const std::string& column,
                                     const std::string& dictName) {
   try {
-    CodeTexts texts(g_pPubInfo->GetIniplusList("BUSINESSDICT", dictName));
+    CodeTexts texts(g_pPubInfo->GetIniplusList(kDictionaries, dictName));
     for (unsigned i = 0; i < rows.size(); ++i) {
-      const std::string* text = texts.TextOf(Value(rows[i], column));
+      const std::string* text = texts.TextOf(rows[i].getValue(column));
       if (text != nullptr) SetColumn(rows[i], column, *text);
     }
   } catch (const corvane::TException& failure) {
@@ -107,7 +103,7 @@ bool CQueryCommon::CheckRecordLimit(int count) {
     const int limit =
         StrToInt(g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.BUSINESS.SET", "LISTVIEW.MAXRECORD"));
     if (limit >= count) return true;
-    ShowWarnMsg(g_pTranslate->Translate("UI53329"), nullptr);
+    ShowWarnMsg(g_pTranslate->Translate(norvik::message::kTooManyRecords), nullptr);
   } catch (const corvane::TException& failure) {
     ReportException(failure);
   }

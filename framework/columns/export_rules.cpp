@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/columns/column_order.h"
+#include "framework/columns/column_table.h"
 #include "host/translate.h"
 
 namespace norvik {

@@ -1,7 +1,8 @@
 #include "framework/columns/select_column.h"
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
-#include "framework/columns/column_order.h"
+#include "framework/columns/column_table.h"
 #include "host/pub_info.h"
 #include "host/translate.h"
 #include "toolkit/buttons.h"
@@ -14,12 +15,10 @@
 
 namespace {
 
-constexpr const char* kLayoutDocument = "COLUMN_INFO";
-constexpr int kHiddenMaxWidth = 1;
 constexpr int kMaxWidthAfterDialog = 1000;
 constexpr int kNoMaxWidth = 0;
 // A saved width above this is damaged: no user can drag a column so wide.
-constexpr int kGreatestSavedWidth = 10000;
+constexpr int kMaxSavedWidth = 10000;
 
 // Sub-items of an entry of the dialog's list.
 enum SubItem { kColumnId = 0, kColumnIdentity = 1, kColumnIndex = 2 };
@@ -29,12 +28,12 @@ bool IsOffered(const TListColumn* column) {
 }
 
 bool IsShown(const TListColumn* column) {
-  return column->MaxWidth() != kHiddenMaxWidth;
+  return column->MaxWidth() != norvik::kHiddenMaxWidth;
 }
 
 void HideColumn(TListColumn* column) {
   column->SetMinWidth(0);
-  column->SetMaxWidth(kHiddenMaxWidth);
+  column->SetMaxWidth(norvik::kHiddenMaxWidth);
   column->SetWidth(0);
 }
 
@@ -42,13 +41,6 @@ void ShowColumn(TListColumn* column, int width, int maxWidth) {
   column->SetMinWidth(0);
   column->SetMaxWidth(maxWidth);
   column->SetWidth(width);
-}
-
-TListColumn* FindColumn(TKVXListView* listView, const std::string& caption) {
-  for (int i = 0; i < listView->Columns().Count(); ++i) {
-    if (listView->Columns()[i]->Caption() == caption) return listView->Columns()[i];
-  }
-  return nullptr;
 }
 
 constexpr int kWidth = 420;
@@ -75,7 +67,7 @@ void TfrmSelectColumn::Construct() {
   TBaseForm::Construct();
   m_nColumnCount = m_pListView->Columns().Count();
   RememberWidths();
-  m_columnInfo = g_pPubInfo->GetIniplus(kLayoutDocument);
+  m_columnInfo = g_pPubInfo->GetIniplus(norvik::kLayoutDocument);
   RestoreWidths();
 }
 
@@ -90,21 +82,21 @@ void TfrmSelectColumn::RememberWidths() {
   }
 }
 
-// A width that is no number, or none that a column can have, leaves the table's.
+// A saved width that is no number, or that no column can have, leaves the width of the column table.
 void TfrmSelectColumn::RestoreWidths() {
   for (const corvane::Row& saved : m_columnInfo.getSection(m_strClassName)) {
     const std::string caption = saved.getValue("ColumnCaption");
     const int width = StrToIntDef(saved.getValue("ColumnWidth"), -1);
-    const bool sound = width >= 0 && width <= kGreatestSavedWidth;
-    TListColumn* column = caption.empty() || !sound ? nullptr : FindColumn(m_pListView, caption);
+    const bool sound = width >= 0 && width <= kMaxSavedWidth;
+    TListColumn* column = caption.empty() || !sound ? nullptr : norvik::FindColumn(m_pListView, caption);
     if (column == nullptr) continue;
-    ShowColumn(column, width, width == 0 ? kHiddenMaxWidth : kNoMaxWidth);
+    ShowColumn(column, width, width == 0 ? norvik::kHiddenMaxWidth : kNoMaxWidth);
   }
 }
 
 void TfrmSelectColumn::SaveColumnInfo() {
   const TListColumns& columns = m_pListView->Columns();
-  // The columns of a list that could not be built whole are no layout of the user's: the saved one stays.
+  // A list whose columns could not all be built has no layout of the user's: the saved one is left.
   if (columns.Count() == 0 || !m_pListView->ColumnsWhole()) return;
   RememberWidths();
   corvane::List layout;
@@ -118,19 +110,19 @@ void TfrmSelectColumn::SaveColumnInfo() {
     layout.addRow(std::move(row));
   }
   try {
-    m_columnInfo = g_pPubInfo->GetIniplus(kLayoutDocument);
+    m_columnInfo = g_pPubInfo->GetIniplus(norvik::kLayoutDocument);
   } catch (const corvane::TException&) {
-    // The document as it was read at the start is as good as there is.
+    // The document as it was read at the start is the best that there is.
   }
   m_columnInfo.setSection(m_strClassName, layout);
-  g_pPubInfo->SetIniplus(kLayoutDocument, m_columnInfo);
+  g_pPubInfo->SetIniplus(norvik::kLayoutDocument, m_columnInfo);
 }
 
 void TfrmSelectColumn::PrepareColumnMenu(TPopupMenu* menu) {
   m_pMenu = menu;
   RememberWidths();
   m_pMenu->Items()->Clear();
-  corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", m_strClassName);
+  corvane::List fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, m_strClassName);
   m_strFirstColId = fieldDefs.size() == 0 ? std::string() : fieldDefs[0].getValue("COLID");
   const auto addEntry = [this](const std::string& caption, void (TfrmSelectColumn::*click)(TObject*)) {
     auto* entry = new TMenuItem(m_pMenu);
@@ -147,7 +139,7 @@ void TfrmSelectColumn::PrepareColumnMenu(TPopupMenu* menu) {
     entry->SetTag(column->ID());
     entry->SetImageIndex(i);
     entry->SetChecked(IsShown(column));
-    // A layout of an older column table may have hidden the column that must not be: it can be shown again.
+    // A layout of an older column table may have hidden the column that must be shown: it can be shown again.
     entry->SetEnabled(!IsShown(column) || (i != 0 && ColumnId(i) != m_strFirstColId));
   }
   if (m_bDialogOffered) {
@@ -156,6 +148,7 @@ void TfrmSelectColumn::PrepareColumnMenu(TPopupMenu* menu) {
     m_btnConfirm->SetEnabled(true);
     m_btnClose->SetEnabled(true);
   }
+  // Translates the dialog, with the entries just made, and prepares it as a show does; it stays invisible.
   FormShow(this);
 }
 
@@ -242,7 +235,7 @@ void TfrmSelectColumn::BuildControls() {
   m_lvMain->SetShowColumnHeaders(false);
   m_lvMain->OnClick = [this](TObject* sender) { m_lvMainClick(sender); };
   m_lvMain->OnSelectItem = [this](TObject* sender, TListItem*, bool) { m_lvMainClick(sender); };
-  // The space bar unticks as the mouse does.
+  // The space bar unticks an entry as the mouse does.
   m_lvMain->OnItemCheck = [this](TObject*, TListItem* item) { KeepFirstColumn(item); };
   m_lvMain->OnMouseUp = [this](TObject* sender, TMouseButton button, TShiftState shift, int x, int y) {
     m_lvMainMouseUp(sender, button, shift, x, y);
@@ -322,7 +315,7 @@ void TfrmSelectColumn::MoveFocused(int by) {
   if (old == nullptr) return;
   const int place = old->Index() + by;
   if (place < 0 || place >= m_lvMain->Items().Count()) return;
-  // Behind the old item there is one more until that is gone.
+  // Until the old item is deleted there is one more item after it.
   TListItem* moved = m_lvMain->Items().Insert(by > 0 ? place + 1 : place);
   moved->SetCaption(old->Caption());
   for (int i = 0; i < old->SubItemCount(); ++i) moved->AddSubItem(old->SubItems(i));
@@ -362,14 +355,14 @@ void TfrmSelectColumn::m_lvMainMouseUp(TObject*, TMouseButton, TShiftState, int 
 }
 
 void TfrmSelectColumn::KeepFirstColumn(TListItem* item) {
-  if (item == nullptr || item->Checked() || item->SubItems(0) != m_strFirstColId) return;
+  if (item == nullptr || item->Checked() || item->SubItems(kColumnId) != m_strFirstColId) return;
   item->SetChecked(true);
-  ShowWarnMsg(g_pTranslate->Translate("UI60005"), nullptr);
+  ShowWarnMsg(g_pTranslate->Translate(norvik::message::kFirstColumnStays), nullptr);
 }
 
 void TfrmSelectColumn::m_btnConfirmClick(TObject*) {
   if (m_lvMain->Items().Count() == 0 || !m_lvMain->Items()[0]->Checked()) {
-    ShowWarnMsg(g_pTranslate->Translate("UI60006"), nullptr);
+    ShowWarnMsg(g_pTranslate->Translate(norvik::message::kTopColumnHidden), nullptr);
     return;
   }
   m_btnConfirm->SetEnabled(false);

@@ -3,12 +3,14 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "dialogs/statistics.h"
+#include "framework/business/batch_rows.h"
 #include "framework/business/m_interface.h"
+#include "framework/columns/column_table.h"
 #include "framework/columns/export_rules.h"
 #include "framework/columns/select_column.h"
-#include "host/error.h"
 #include "host/pub_info.h"
 #include "toolkit/action.h"
 #include "toolkit/buttons.h"
@@ -24,12 +26,9 @@
 
 namespace {
 
-// What the frame leaves free of the screen, pixels.
+// The part of the screen that the frame leaves free, pixels.
 constexpr int kFreeWidth = 120;
 constexpr int kFreeHeight = 220;
-
-constexpr int kAnnouncedForm = 1;  // Tag of a form that the host is told of
-constexpr std::uint8_t kReasonFlag = 1;
 
 // The choices of the save dialog's filter, in its order.
 struct OutputKind {
@@ -42,12 +41,11 @@ std::string FontSetting(const char* item) {
   return g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", item);
 }
 
-// A column that the user hid has width 0; one that was never shown has a greatest width of 1.
 std::vector<norvik::ShownColumn> ShownColumnsOf(TKVXListView* listView) {
   std::vector<norvik::ShownColumn> shown;
   for (int i = 0; i < listView->Columns().Count(); ++i) {
     const TListColumn* column = listView->Columns()[i];
-    if (column->Width() == 0 || column->MaxWidth() == 1) continue;
+    if (column->Hidden()) continue;
     shown.push_back({listView->ColumnIds()[static_cast<std::size_t>(i)], column->Caption()});
   }
   return shown;
@@ -61,7 +59,7 @@ constexpr const char* kOutputFilter = "Excel文件(*.xls)|*.xls|文本文件(*.t
 void TListForm::Construct() {
   TBaseForm::Construct();
   m_lvMain->SetFullDrag(false);
-  SetTag(kAnnouncedForm);
+  SetTag(kAnnouncedMark);
   SetPosition(poMainFormCenter);
   SetWidth(Screen->Width() - kFreeWidth);
   SetHeight(Screen->Height() - kFreeHeight);
@@ -90,14 +88,14 @@ void TListForm::BuildMissingColumns(CMInterface& business) {
   if (m_lvMain->Columns().Count() > 0 && m_lvMain->ColumnsWhole()) return;
   business.InitListColumns(m_lvMain, ClassName());
   if (m_lvMain->Columns().Count() == 0) return;
-  // The owner of the columns that there were knows none of these.
+  // The old owner of the columns knows none of the new ones.
   DestroyForm(std::exchange(m_pSelectColumn, nullptr));
   SelectColumn();
 }
 
 void TListForm::SaveLayout() {
   if (m_pSelectColumn == nullptr) return;
-  // The columns stay owned until they are stored: a Release from within begins again.
+  // The columns have their owner until they are stored: a Release that comes meanwhile runs this again.
   m_pSelectColumn->SaveColumnInfo();
   DestroyForm(std::exchange(m_pSelectColumn, nullptr));
 }
@@ -123,7 +121,7 @@ bool TListForm::TickAll() {
 }
 
 void TListForm::ProcessResult(const corvane::CorvaneStream& answer) {
-  Business().ApplyResultList(answer, "resultList", m_lvMain);
+  Business().ApplyResultList(answer, norvik::kAnswerList, m_lvMain);
   Business().RemoveCompletedItems(m_lvMain);
 }
 
@@ -143,7 +141,7 @@ void TListForm::m_lvMainSelectItem(TObject*, TListItem* item, bool selected) {
 }
 
 std::string TListForm::ReasonText(const std::string& reason) {
-  const std::string text = g_pError->GetReasonText(reason, kReasonFlag);
+  const std::string text = norvik::ReasonOf(reason);
   return text.empty() ? reason : text;
 }
 
@@ -166,9 +164,7 @@ void TListForm::m_actSumExecute(TObject*) {
 }
 
 corvane::List TListForm::CheckedRecords() {
-  corvane::List records;
-  m_lvMain->GetDataVector(records, dvChecked);
-  return records;
+  return norvik::TickedRecords(m_lvMain);
 }
 
 void TListForm::m_sdOutputTypeChange(TObject*) {
@@ -181,7 +177,8 @@ void TListForm::m_sdOutputTypeChange(TObject*) {
 std::string TListForm::AskOutputFile() {
   if (!m_sdOutput->Execute(this)) return {};
   const std::string fileName = m_sdOutput->FileName();
-  const bool kept = QFileInfo::exists(ToQt(fileName)) && !ShowConfirmMsg(TranslateKey("UI12572"), this);
+  const bool kept = QFileInfo::exists(ToQt(fileName)) &&
+                    !ShowConfirmMsg(TranslateKey(norvik::message::kOverwriteFile), this);
   return kept ? std::string() : fileName;
 }
 
@@ -196,7 +193,7 @@ void TListForm::WriteRecords(const std::string& fileName, bool allColumns) {
     head["TITLEVAL"] = Caption();
     head["FONTNAME"] = FontSetting("Name");
     head["FONTSIZE"] = FontSetting("Size");
-    corvane::List fieldDefs = g_pPubInfo->GetIniplusList("FIELDDEF", ClassName());
+    corvane::List fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, ClassName());
     columns = allColumns ? norvik::TableColumns(fieldDefs, &TBaseForm::TranslateKey)
                          : norvik::ShownColumns(fieldDefs, ShownColumnsOf(m_lvMain));
   } catch (const corvane::TException& failure) {
@@ -213,7 +210,7 @@ void TListForm::m_actPrintExecute(TObject*) {
 void TListForm::PrintChecked(CMInterface& business) {
   corvane::Row head;
   try {
-    head = g_pPubInfo->GetIniplusRow("FIELDDEF", ClassName(), 0);
+    head = g_pPubInfo->GetIniplusRow(norvik::kColumnTable, ClassName(), 0);
   } catch (const corvane::TException& failure) {
     ReportException(failure);
     return;

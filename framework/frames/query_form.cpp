@@ -5,11 +5,13 @@
 
 #include "dialogs/audit_foot.h"
 #include "dialogs/booking.h"
+#include "dialogs/message_keys.h"
 #include "dialogs/messages.h"
 #include "framework/base/action_table.h"
 #include "framework/base/kept_focus.h"
 #include "framework/business/batch_rows.h"
 #include "framework/columns/select_column.h"
+#include "framework/rules/state_texts.h"
 #include "host/pub_info.h"
 #include "toolkit/action.h"
 #include "toolkit/application.h"
@@ -22,8 +24,6 @@
 #include "toolkit/panels.h"
 
 namespace {
-
-constexpr int kFocusedState = 2;  // TListItem::SetState: the focus
 
 constexpr int kLastInTabOrder = 1000;
 
@@ -55,11 +55,6 @@ constexpr const char* kReason = "COMREASON";
 constexpr const char* kDelete = "EBBCMCOQ";
 constexpr const char* kAuditTrail = "COMQRYAT";
 
-constexpr const char* kResultList = "resultList";
-constexpr const char* kStateToSynchronize = "UI52150";
-constexpr const char* kStateWithReason = "UI52148";
-constexpr const char* kTextOfState7 = "UI52879";
-constexpr const char* kAskDelete = "UI53250";
 constexpr const char* kFaceAmount = "UI41034";
 constexpr const char* kBusinessAmount = "UI40427";
 
@@ -107,7 +102,7 @@ void TQueryForm::m_lvMainClick(TObject* sender) {
     m_actSynState->SetEnabled(checked > 0 && CanSynState());
     m_actReason->SetEnabled(checked > 0 && CanReason());
   } catch (...) {
-    // What the host can't tell about the ticked rows is off.
+    // Whatever depends on a text that can't be read is disabled.
     for (TAction* action : {m_actSynState, m_actReason, m_actDelete}) action->SetEnabled(false);
     throw;
   }
@@ -138,7 +133,7 @@ void TQueryForm::ModifySelected(corvane::Property& row) {
 }
 
 // The list counts its ticked rows by the rules, so that a tick costs the same however many rows are ticked;
-// a text or a day of the bank that has changed has all ticked rows looked at once more.
+// when a text or the bank's day has changed, all ticked rows are counted again.
 template <class Rule>
 int TQueryForm::CheckedCount(norvik::RecordKind kind, Rule norvik::TickRules::*rule, Rule present) {
   if (tickRules_.*rule != present) {
@@ -150,21 +145,24 @@ int TQueryForm::CheckedCount(norvik::RecordKind kind, Rule norvik::TickRules::*r
 }
 
 bool TQueryForm::CanSynState() {
-  return CheckedCount(norvik::kUnsettled, &norvik::TickRules::unsettledState, TranslateKey("UI52150")) > 0;
+  return CheckedCount(norvik::kUnsettled, &norvik::TickRules::unsettledState,
+                      TranslateKey(norvik::kUnknownStateKey)) > 0;
 }
 
 bool TQueryForm::CanReason() {
-  return CheckedCount(norvik::kExplained, &norvik::TickRules::explainedState, TranslateKey("UI52148")) > 0;
+  return CheckedCount(norvik::kExplained, &norvik::TickRules::explainedState,
+                      TranslateKey(norvik::kFailedKey)) > 0;
 }
 
 bool TQueryForm::CanDelete() {
   const int count = m_lvMain->CheckedCount();
   if (count == 0) return false;
-  const norvik::CancelRule rule{m_strOprNo,
-                                {TranslateKey("UI52140"), TranslateKey("UI52142")},
-                                TranslateKey("UI52144"),
-                                TranslateKey("UI53030"),
-                                m_pIntf->GetServerDate()};
+  const norvik::CancelRule rule{
+      m_strOprNo,
+      {TranslateKey(norvik::kAwaitingApprovalKey), TranslateKey(norvik::kReturnedKey)},
+      TranslateKey(norvik::kApprovedKey),
+      TranslateKey(norvik::kBookedKey),
+      m_pIntf->GetServerDate()};
   return CheckedCount(norvik::kCancellable, &norvik::TickRules::cancel, rule) == count;
 }
 
@@ -225,7 +223,7 @@ void TQueryForm::BuildFrame() {
   frame.Add(m_pnRightBottom);
   TColumnLayout center(m_pnCenter);
   center.SetSpacing(kFrameGap);
-  // With a large font the conditions scroll, so that the list and the buttons below it stay on the screen.
+  // With a large font the conditions scroll, so that the list and the buttons below it remain on the screen.
   auto* conditions = NewComponent<TbsSkinScrollBox>(this, "m_sbxConditions");
   conditions->SetKeepsWidth(true);
   center.Add(conditions);
@@ -244,7 +242,7 @@ void TQueryForm::BuildConditions() {
   MakeControl(this, m_pnlNormal, "m_pnlNormal");
   MakeControl(this, m_pnlAdvance, "m_pnlAdvance");
   MakeControl(this, m_spdQuery, "m_spdQuery", m_actQuery);
-  // Behind whatever conditions a screen puts into the panel.
+  // After whatever conditions a screen adds to the panel.
   m_spdQuery->SetTabOrder(kLastInTabOrder);
   TRowLayout normal(m_pnlNormal);
   normal.AddStretch();
@@ -305,11 +303,12 @@ void TQueryForm::AddRowsInState(corvane::CorvaneStream& request, const char* sta
                                                   }));
 }
 
-// A failure in taking an answer is reported where it happens, so that what ends each action runs in any case.
+// A failure while an answer is applied is reported where it happens, so that the last steps of each action
+// run in any case.
 void TQueryForm::m_actSynStateExecute(TObject* sender) {
   RunGuarded(this, [this] {
     corvane::CorvaneStream request, answer;
-    AddRowsInState(request, kStateToSynchronize);
+    AddRowsInState(request, norvik::kUnknownStateKey);
     if (Exchange(m_actSynState, kSynState, request, answer)) TakeStates(answer);
   });
   m_lvMainClick(sender);
@@ -317,8 +316,8 @@ void TQueryForm::m_actSynStateExecute(TObject* sender) {
 }
 
 void TQueryForm::TakeStates(const corvane::CorvaneStream& answer) {
-  corvane::List rows = answer.getList(kResultList);
-  m_pIntf->FormatStatus(rows, kTextOfState7);
+  corvane::List rows = answer.getList(norvik::kAnswerList);
+  m_pIntf->FormatStatus(rows, norvik::kSucceededKey);
   for (const corvane::Row& row : rows) {
     TListItem* item = norvik::ItemNamed(m_lvMain, row.getValue("RECORDID"));
     corvane::Property record;
@@ -331,14 +330,14 @@ void TQueryForm::TakeStates(const corvane::CorvaneStream& answer) {
 void TQueryForm::m_actReasonExecute(TObject*) {
   RunGuarded(this, [this] {
     corvane::CorvaneStream request, answer;
-    AddRowsInState(request, kStateWithReason);
+    AddRowsInState(request, norvik::kFailedKey);
     if (Exchange(m_actReason, kReason, request, answer)) TakeReasons(answer);
   });
   if (TListItem* selected = m_lvMain->Selected()) m_lvMainSelectItem(m_lvMain, selected, true);
 }
 
 void TQueryForm::TakeReasons(const corvane::CorvaneStream& answer) {
-  for (const corvane::Row& row : answer.getList(kResultList)) {
+  for (const corvane::Row& row : answer.getList(norvik::kAnswerList)) {
     const TListItem* item = norvik::ItemNamed(m_lvMain, row.getValue("RECORDID"));
     if (item == nullptr) continue;
     const std::string reason = norvik::FailureText(row.getValue("ERRCODE"), row.getValue("ERRINF"));
@@ -348,7 +347,7 @@ void TQueryForm::TakeReasons(const corvane::CorvaneStream& answer) {
 }
 
 void TQueryForm::m_actDeleteExecute(TObject* sender) {
-  if (!ShowConfirmMsg(TranslateKey(kAskDelete), nullptr)) return;
+  if (!ShowConfirmMsg(TranslateKey(norvik::message::kCancelRecords), nullptr)) return;
   RunGuarded(this, [this] {
     corvane::CorvaneStream request, answer;
     BuildDeleteRequest(request);
@@ -390,7 +389,7 @@ void TQueryForm::m_actViewAuditFootExecute(TObject*) {
   corvane::CorvaneStream request, answer;
   request.addField(corvane::Field("ORDERNO", records[0].getValue("ORDERNO")));
   if (!Exchange(m_actViewAuditFoot, kAuditTrail, request, answer)) return;
-  corvane::List steps = answer.getList(kResultList);
+  corvane::List steps = answer.getList(norvik::kAnswerList);
   records[0]["BSNName"] = m_strBsnName;
   m_pIntf->FormatAgree(steps);
   ShowAuditFoot(records[0], steps);
@@ -420,7 +419,8 @@ bool TQueryForm::BuildDealRequest(corvane::CorvaneStream& source, corvane::Corva
 }
 
 void TQueryForm::m_actOutputExecute(TObject*) {
-  const bool allColumns = !m_bAskColumns || ShowConfirmMsg(TranslateKey("UI60007"), nullptr);
+  const bool allColumns =
+      !m_bAskColumns || ShowConfirmMsg(TranslateKey(norvik::message::kExportAllColumns), nullptr);
   const std::string fileName = AskOutputFile();
   if (!fileName.empty()) OutputRecords(fileName, allColumns);
 }

@@ -1,4 +1,5 @@
-// Which records their operator may still cancel.
+// Which records their operator may still cancel. The tick rules apply it to each ticked record; it knows no
+// window and reads nothing from the host.
 #pragma once
 
 #include <array>
@@ -8,15 +9,16 @@
 
 namespace norvik {
 
+/// The rule with the texts and the day that it compares by.
 struct CancelRule {
-  std::string operatorNo;                 // of the user
-  std::array<std::string, 2> openStates;  // texts of the states in which any record may be cancelled
-  std::string acceptedState;              // text of the state in which only a booked record may
-  std::string bookedText;                 // text of PREFLG that means booked
-  std::string bankDate;                   // "yyyymmdd"
+  std::string operatorNo;                 ///< of the user
+  std::array<std::string, 2> openStates;  ///< texts of the states in which any record may be cancelled
+  std::string acceptedState;              ///< text of the state in which only a booked record may
+  std::string bookedText;                 ///< text of PREFLG that means booked
+  std::string bankDate;                   ///< "yyyymmdd"
 
-  // The user's own record that is still open, or is booked for a day after the bank's. A PREDATE that is no
-  // date counts as not later than the bank's day.
+  /// Whether `record` is the user's own and either still open, or booked for a day after the bank's. A
+  /// PREDATE that is no date counts as not later than the bank's day.
   bool Allows(const corvane::Row& record) const;
 
   bool operator==(const CancelRule&) const = default;

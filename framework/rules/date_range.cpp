@@ -110,7 +110,7 @@ std::string NextMonthDate(const std::string& date) {
   DateParts parts = TakeApart(date);
   if (++parts.month == 13) parts = {parts.year + 1, kJanuary, parts.day};
   if (parts.month == kFebruary && parts.day >= 29) parts.day = DaysInMonth(parts.year, kFebruary);
-  // Of the months behind one with 31 days only these two have as many.
+  // Of the months that follow one with 31 days only these two have as many.
   if (parts.day == 31 && parts.month != kJanuary && parts.month != kAugust) parts.day = 30;
   return Text(Encode(parts));
 }

@@ -8,10 +8,22 @@ namespace norvik {
 namespace {
 
 constexpr int kStateOfCaller = 7;
-constexpr std::array kStateKeys = {"UI52140", "UI52141", "UI52142", "UI52143", "UI52144", "UI52145",
-                                   "UI52146", "",        "UI52148", "UI52149", "UI52150", "UI52151",
-                                   "UI52152", "UI52359", "UI52360", "UI52372"};
-constexpr const char* kNoStateKey = "UI52150";
+constexpr std::array kStateKeys = {kAwaitingApprovalKey,
+                                   "UI52141",
+                                   kReturnedKey,
+                                   "UI52143",
+                                   kApprovedKey,
+                                   "UI52145",
+                                   "UI52146",
+                                   "",
+                                   kFailedKey,
+                                   "UI52149",
+                                   kUnknownStateKey,
+                                   "UI52151",
+                                   "UI52152",
+                                   "UI52359",
+                                   "UI52360",
+                                   "UI52372"};
 
 constexpr std::array kApprovalKeys = {"UI52424", "UI52425", "UI52426", "UI52427",
                                       "UI52428", "UI52429", "UI52430", "UI52431"};
@@ -19,7 +31,7 @@ constexpr std::array kApprovalKeys = {"UI52424", "UI52425", "UI52426", "UI52427"
 }  // namespace
 
 std::string StateTextKey(const std::string& code, const std::string& key7) {
-  if (code.empty()) return kNoStateKey;
+  if (code.empty()) return kUnknownStateKey;
   const int state = StrToInt(code);
   if (state == kStateOfCaller) return key7;
   if (state < 0 || state >= static_cast<int>(kStateKeys.size())) return {};

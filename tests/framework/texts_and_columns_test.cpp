@@ -1,7 +1,7 @@
 // The pure parts of the business objects: amounts, state codes, the order of columns, names of export files.
 #include <gtest/gtest.h>
 
-#include "framework/columns/column_order.h"
+#include "framework/columns/column_table.h"
 #include "framework/columns/export_rules.h"
 #include "framework/rules/amount_text.h"
 #include "framework/rules/state_texts.h"

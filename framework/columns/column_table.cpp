@@ -1,7 +1,8 @@
-#include "framework/columns/column_order.h"
+#include "framework/columns/column_table.h"
 
 #include <set>
-#include <string>
+
+#include "toolkit/kvx_list_view.h"
 
 #include "toolkit/decimal_text.h"
 
@@ -30,6 +31,14 @@ int ColumnTag(const std::string& format) {
   if (format == "R") return cfRightText;
   if (format == "X") return cfInternal;
   return cfText;
+}
+
+TListColumn* FindColumn(const TKVXListView* listView, const std::string& caption) {
+  const TListColumns& columns = listView->Columns();
+  for (int i = 0; i < columns.Count(); ++i) {
+    if (columns[i]->Caption() == caption) return columns[i];
+  }
+  return nullptr;
 }
 
 }  // namespace norvik
