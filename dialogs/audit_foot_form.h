@@ -9,6 +9,7 @@
 #include "toolkit/labels.h"
 #include "toolkit/panels.h"
 
+/// A record's data, its approval steps, and a button to its approval flow.
 class TfrmEBillAuditFoot : public TBaseForm {
   Q_OBJECT
 

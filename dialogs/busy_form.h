@@ -53,6 +53,7 @@ class TBusyForm : public TForm {
   QPointer<QWidget> before_;  // the window that was active
 };
 
+/// The busy form over an exchange of a form.
 class TBarForm : public TBusyForm {
   Q_OBJECT
 
@@ -66,6 +67,7 @@ class TBarForm : public TBusyForm {
   std::string key_;
 };
 
+/// The busy form over a wait of the module.
 class TWaitForm : public TBusyForm {
   Q_OBJECT
 

@@ -9,6 +9,7 @@
 #include "toolkit/edits.h"
 #include "toolkit/labels.h"
 
+/// A failure; the pane is closed when the form opens.
 class TFrmErrorMsg : public TBaseForm {
   Q_OBJECT
 

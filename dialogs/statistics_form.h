@@ -14,6 +14,7 @@
 #include "toolkit/labels.h"
 #include "toolkit/panels.h"
 
+/// The sums; Prepare computes them before the form is shown.
 class TfrmStatistics : public TBaseForm {
   Q_OBJECT
 

@@ -12,6 +12,7 @@
 #include "toolkit/panels.h"
 #include "toolkit/tree_view.h"
 
+/// The levels of an approval flow, each with its operators.
 class TfrmViewBsnFlow : public TBaseForm {
   Q_OBJECT
 

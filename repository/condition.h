@@ -20,8 +20,9 @@ class TbsSkinExPanel;
 
 namespace norvik {
 
-/// What may be typed: an amount, a text of at most `bytes`, digits alone.
+/// What may be typed into an amount.
 inline constexpr TKVXInputRule kAmountInput = {ikCurrency, 16, 13, 2};
+/// What may be typed into a text and into a number, both of at most that many bytes.
 constexpr TKVXInputRule TextInput(int bytes) {
   return {ikLettersDigitsChinese, bytes, 0, 0};
 }

@@ -23,13 +23,8 @@ constexpr const char* kDefaultStyle = "SK00";
 constexpr const char* kFontProperties[] = {
     "Font", "DefCaptionFont", "DefInActiveCaptionFont", "DefMenuItemFont", "DefaultFont", "DefItemFont"};
 
-std::string Configured(const char* section, const std::string& item) {
-  return g_pPubInfo->GetIniValue(kConfiguration, section, item);
-}
-
 // A switch of the configuration: empty and "0" are off, everything else is on.
-bool SwitchedOn(const char* section, const std::string& item) {
-  const std::string value = Configured(section, item);
+bool IsOn(const std::string& value) {
   return !value.empty() && value != "0";
 }
 
@@ -98,8 +93,9 @@ void TBaseForm::FormClose(TObject*) {
 // Shift makes no difference.
 bool TBaseForm::MovesFocus(TShiftState shift) const {
   const std::string control = ActiveControl()->ClassName();
-  const bool listed = SwitchedOn("CONTROL.UPDOWN", control) || SwitchedOn("CONTROL.RETURN", control);
-  return (!listed || shift.Contains(ssShift)) && SwitchedOn(kOperator, "SimulateTab");
+  const bool listed =
+      IsOn(Configured("CONTROL.UPDOWN", control)) || IsOn(Configured("CONTROL.RETURN", control));
+  return (!listed || shift.Contains(ssShift)) && IsOn(Configured(kOperator, "SimulateTab"));
 }
 
 void TBaseForm::FormKeyDown(TObject*, std::uint16_t& key, TShiftState shift) {
@@ -132,6 +128,10 @@ std::string TBaseForm::TranslateKey(const std::string& key) {
   return text.empty() ? key : text;
 }
 
+std::string TBaseForm::Configured(const char* section, const std::string& item) {
+  return g_pPubInfo->GetIniValue(kConfiguration, section, item);
+}
+
 void TBaseForm::SendToDesktop(const std::string& itemName) {
   g_pPubInfo->SetField("ENVIRONMENT", corvane::Field("CURSHORTCUT.ITEMCAPTION", Caption()));
   g_pPubInfo->SetField("ENVIRONMENT", corvane::Field("CURSHORTCUT.ITEMNAME", itemName));
@@ -151,9 +151,8 @@ void TBaseForm::ApplySkinData(TWinControl* parent) {
 }
 
 void TBaseForm::ReadFont() {
-  constexpr const char* kSection = "APPLICATION.FONT";
-  m_nFontSize = StrToInt(Configured(kSection, "Size"));
-  m_strFontName = Configured(kSection, "Name");
+  m_nFontSize = StrToInt(Configured(kFontSection, "Size"));
+  m_strFontName = Configured(kFontSection, "Name");
   m_nFontCharset = CharsetOf(Configured("APPLICATION.LANG", "Language"));
 }
 

@@ -31,12 +31,16 @@ inline constexpr std::uint8_t kTraditionalChinese = 136;
 inline constexpr std::uint8_t kEnglish = 0;
 inline constexpr std::uint8_t kDefaultCharset = 1;  ///< any other language
 
+/// The section of the host's configuration that names the font of all forms.
+inline constexpr const char* kFontSection = "APPLICATION.FONT";
+
 /// Tag of a graphic control that is a label whose translated caption is followed by ":".
 inline constexpr int kLabelMark = 8;
 
 /// Tag of a form whose show, activation and close are reported to the host.
 inline constexpr int kAnnouncedMark = 1;
 
+/// The base of every form of the module but the busy forms.
 class TBaseForm : public TForm {
   Q_OBJECT
 
@@ -83,9 +87,13 @@ class TBaseForm : public TForm {
   std::string m_strItemName;           ///< the menu item that opened the form; empty for dialogs
 
  protected:
+  /// A value of the host's configuration; empty if it lacks the item.
+  static std::string Configured(const char* section, const std::string& item);
   /// Skin, texts, fonts, input method and the handle entry, in this order; at each show.
   void InitForm();
+  /// Loads the skin that the user has chosen; a missing file leaves the skin as it is.
   void LoadSkin();
+  /// Sets the host's font on a control and all that it holds; null is allowed.
   void ApplyFonts(TControl* control);
 
   bool m_bImeOff = true;

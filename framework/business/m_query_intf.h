@@ -58,13 +58,13 @@ class CMQueryIntf : public CMInterface {
   /// Replaces the approval codes in AGREE of each row by their texts; any other value is left.
   void FormatAgree(corvane::List& rows);
 
-  /// The date edits below hold "yyyymmdd"; the radio group has the items of norvik::QuickDate. Today is the
-  /// bank's.
+  // The date edits below hold "yyyymmdd"; the radio group has the items of norvik::QuickDate. Today is the
+  // bank's day.
 
-  /// Writes the range of the chosen item into the edits; item other leaves them alone.
+  /// Writes the range of the chosen item into the edits; QuickDate::kOther leaves them alone.
   void ApplyDateRadio(TKVXDateTime* startEdit, TKVXDateTime* endEdit, TbsSkinRadioGroup* radio);
 
-  /// Sets the group to other unless the edits hold the range of the item that it shows.
+  /// Sets the group to QuickDate::kOther unless the edits hold the range of the item that it shows.
   void SyncDateRadio(TKVXDateTime* startEdit, TKVXDateTime* endEdit, TbsSkinRadioGroup* radio);
 
   /// Sets a start date later than today to today, then syncs the group; an empty start date does nothing.

@@ -21,6 +21,7 @@ class TListView;
 class TMenuItem;
 class TPopupMenu;
 
+/// The dialog of the columns of one list, and the owner of the list's layout.
 class TfrmSelectColumn : public TBaseForm {
   Q_OBJECT
 

@@ -19,6 +19,7 @@
 #include "framework/business/m_detail_intf.h"
 #include "framework/frames/list_form.h"
 
+/// The base of the detail dialogs.
 class TDetailForm : public TListForm {
   Q_OBJECT
 

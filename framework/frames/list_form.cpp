@@ -37,10 +37,6 @@ struct OutputKind {
 };
 constexpr OutputKind kOutputKinds[] = {{".xls", 1}, {".txt", 3}, {".xml", 2}};
 
-std::string FontSetting(const char* item) {
-  return g_pPubInfo->GetIniValue("SYSCONFIG_DATA", "APPLICATION.FONT", item);
-}
-
 std::vector<norvik::ShownColumn> ShownColumnsOf(TKVXListView* listView) {
   std::vector<norvik::ShownColumn> shown;
   for (int i = 0; i < listView->Columns().Count(); ++i) {
@@ -191,8 +187,8 @@ void TListForm::WriteRecords(const std::string& fileName, bool allColumns) {
     head["TYPEVAL"] = m_strExportType;
     head["TITLENAME"] = TranslateKey("UI20001");
     head["TITLEVAL"] = Caption();
-    head["FONTNAME"] = FontSetting("Name");
-    head["FONTSIZE"] = FontSetting("Size");
+    head["FONTNAME"] = Configured(kFontSection, "Name");
+    head["FONTSIZE"] = Configured(kFontSection, "Size");
     corvane::List fieldDefs = g_pPubInfo->GetIniplusList(norvik::kColumnTable, ClassName());
     columns = allColumns ? norvik::TableColumns(fieldDefs, &TBaseForm::TranslateKey)
                          : norvik::ShownColumns(fieldDefs, ShownColumnsOf(m_lvMain));

@@ -32,6 +32,7 @@ class TPanel;
 class TPopupMenu;
 class TSaveDialog;
 
+/// The base of both frames.
 class TListForm : public TBaseForm {
   Q_OBJECT
 
@@ -53,6 +54,7 @@ class TListForm : public TBaseForm {
 
   /// The check-all box was clicked.
   virtual void SelectAll(TObject* sender) = 0;
+  /// The other events of the list, the save dialog and the actions; an override calls this class's first.
   virtual void m_lvMainItemCheck(TObject* sender, TListItem* item);
   virtual void m_lvMainKeyPress(TObject* sender, char& key);
   virtual void m_lvMainSelectItem(TObject* sender, TListItem* item, bool selected);
@@ -122,6 +124,7 @@ class TListForm : public TBaseForm {
   bool TickAll();
   /// The ticked records.
   corvane::List CheckedRecords();
+  /// Shows a text in the status line.
   void SetStatus(const std::string& text);
   /// Empties the list, and immediately sets what depends on rows and ticks: whatever fails afterwards, no
   /// action stays enabled for a row that is gone.
@@ -153,7 +156,7 @@ class TListForm : public TBaseForm {
  private:
   void BindList();
 
-  int shows_ = 0;  ///< shows begun
+  int shows_ = 0;  // shows begun
 };
 
 /// Makes a control that needs no more than its name and, if it has one, its action.

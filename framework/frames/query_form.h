@@ -26,6 +26,7 @@
 class TbsSkinExPanel;
 class TbsSkinMenuButton;
 
+/// The base of the query screens.
 class TQueryForm : public TListForm {
   Q_OBJECT
 

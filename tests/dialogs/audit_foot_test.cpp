@@ -66,12 +66,11 @@ corvane::CorvaneStream Flow(const char* total, std::vector<corvane::List> steps)
 }
 
 const corvane::List& Batch() {
-  static const corvane::List batch = Step("PSTLEVEL0", "Entry", {{"1", "Li", "Head"}});
-  return batch;
+  static const corvane::List kBatch = Step("PSTLEVEL0", "Entry", {{"1", "Li", "Head"}});
+  return kBatch;
 }
 
-class AuditFoot : public testing::Test {
- protected:
+struct AuditFoot : testing::Test {
   AuditFoot() {
     host.SetColumns("TfrmEBillAuditFoot", {{"OPRNM", "UI1", "100", "L", "C"},
                                            {"AMT", "UI2", "90", "R", "M"},
@@ -186,9 +185,10 @@ TEST_F(AuditFoot, TheFlowIsATreeOfLevelsAndTheirOperators) {
        "Pledge=BSNNM(" + entry + " First=PSTLEVEL1(2-Wang(Head)=2 3-Wu(Branch)=3) Second=PSTLEVEL2)"},
       {"no batch step, a level that is missing", Flow("2", {second}), "Pledge=BSNNM(= Second=PSTLEVEL2)"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.name);
     const TFormPointer<TfrmViewBsnFlow> form(CreateForm<TfrmViewBsnFlow>(Application, row.flow));
     form->Show();
-    EXPECT_EQ(TreeOf(form->m_tvBsnFlowID, form->m_tvBsnFlowID->Roots(0)), row.tree) << row.name;
+    EXPECT_EQ(TreeOf(form->m_tvBsnFlowID, form->m_tvBsnFlowID->Roots(0)), row.tree);
     EXPECT_TRUE(form->m_tvBsnFlowID->Roots(0)->Expanded());
     EXPECT_EQ(form->Tag(), 1);
   }

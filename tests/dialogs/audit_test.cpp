@@ -11,8 +11,7 @@
 
 namespace {
 
-class Audit : public testing::Test {
- protected:
+struct Audit : testing::Test {
   Audit() { host.SetText("UI12207", "reason please"); }
 
   FormHost host;

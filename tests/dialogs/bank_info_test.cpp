@@ -51,7 +51,7 @@ const char* BankName(void* context, const char* code, const char* area, const ch
   return name != nullptr ? name->c_str() : nullptr;
 }
 
-// The host's loader: holds the mutex from the start until it is told to end, with or without giving it back.
+// The host's loader: holds the mutex from the start until it is ended, with or without releasing it.
 class Loader {
  public:
   explicit Loader(bool releases = true) {
@@ -87,8 +87,7 @@ std::future<void> EndSoon(Loader& loader) {
   });
 }
 
-class BankInfo : public testing::Test {
- protected:
+struct BankInfo : testing::Test {
   BankInfo() {
     g_readWhileLoading = 0;
     const norvik_bank_directory functions = {&tree, &TopCode, &HasArea, &BankName};

@@ -9,8 +9,7 @@
 
 namespace {
 
-class Booking : public testing::Test {
- protected:
+struct Booking : testing::Test {
   ScreenHost host;
 };
 
@@ -44,6 +43,7 @@ TEST_F(Booking, GivesTheChoiceOnlyWhenConfirmed) {
                {"typed", false, TfrmBookingProc::kScheduled, "20261222", true, true, "20261222"},
                {"cancelled", false, TfrmBookingProc::kScheduled, nullptr, false, true, "before"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.name);
     bool scheduled = true;
     std::string date = "before";
     WhenShown<TfrmBookingProc> step([&](TfrmBookingProc& form) {
@@ -53,10 +53,10 @@ TEST_F(Booking, GivesTheChoiceOnlyWhenConfirmed) {
       if (row.typed != nullptr) form.m_edtPreFlgDate->SetText(row.typed);
       (row.confirms ? form.m_btnOk : form.m_btnCancel)->Click();
     });
-    EXPECT_EQ(ShowBookingDlg(nullptr, row.startToday, scheduled, date), row.confirms) << row.name;
-    EXPECT_TRUE(step.Came()) << row.name;
-    EXPECT_EQ(scheduled, row.scheduled) << row.name;
-    EXPECT_EQ(date, row.date) << row.name;
+    EXPECT_EQ(ShowBookingDlg(nullptr, row.startToday, scheduled, date), row.confirms);
+    EXPECT_TRUE(step.Came());
+    EXPECT_EQ(scheduled, row.scheduled);
+    EXPECT_EQ(date, row.date);
   }
 }
 

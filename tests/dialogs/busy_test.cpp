@@ -27,8 +27,7 @@ constexpr unsigned char kTwoFrames[] = {'G',  'I',  'F', '8', '9', 'a', 2,   0, 
                                         0,    2,    0,   2,   0,   0,   2,   2, 0x8c, 0x53, 0,  // all white
                                         0x3b};
 
-class Busy : public testing::Test {
- protected:
+struct Busy : testing::Test {
   Busy() { host.SetField("ENVIRONMENT", "ENV.IMAGES", directory.path().toStdString() + "/"); }
 
   std::string Write(const char* name, const QByteArray& content) {
@@ -170,18 +169,19 @@ TEST_F(Busy, FramesKeepTheFormAndMoveInTheArea) {
                {Write("text.avi", "no pictures here"), 32}};
   TForm* form = CreateForm<TForm>(Application);
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.file);
     TAnimate animation(form);
     animation.SetCommonAVI(aviFindFolder);
     animation.SetFileName(row.file);
     const auto frames = norvik::ComposeFrames(window, area, animation.Frames(area.size()));
-    EXPECT_EQ(frames.size(), row.frames) << row.file;
+    EXPECT_EQ(frames.size(), row.frames);
     std::set<QByteArray> pictures;
     for (const QImage& frame : frames) {
       EXPECT_EQ(frame.pixelColor(50, 35), QColor(Qt::red));
       EXPECT_EQ(frame.pixelColor(0, 0), QColor(Qt::gray));
       pictures.insert(QByteArray(reinterpret_cast<const char*>(frame.constBits()), frame.sizeInBytes()));
     }
-    EXPECT_GT(pictures.size(), 1U) << row.file;
+    EXPECT_GT(pictures.size(), 1U);
   }
   EXPECT_TRUE(norvik::ComposeFrames(QImage(), area, {window}).empty());
 }

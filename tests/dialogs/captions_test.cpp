@@ -13,8 +13,7 @@
 
 namespace {
 
-class Captions : public testing::Test {
- protected:
+struct Captions : testing::Test {
   // Shows a form and compares the captions of its controls.
   template <class T, class... Arguments>
   void Expect(const char* captions, Arguments&&... arguments) {

@@ -12,8 +12,7 @@ namespace {
 
 constexpr const char* kBoth = "yyyymmddhhnnss";
 
-class DateCalendar : public testing::Test {
- protected:
+struct DateCalendar : testing::Test {
   FormHost host;
 };
 
@@ -44,9 +43,10 @@ TEST_F(DateCalendar, KindDecidesPanelsAndText) {
                {dtDateTime, true, true, "20160229121314"}};
   int tallest = 0;
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.picked);
     WhenShown<TDateCalendar> step([&](TDateCalendar& form) {
-      EXPECT_EQ(form.m_pnlmonth->Visible(), row.month) << row.picked;
-      EXPECT_EQ(form.m_pnltime->Visible(), row.time) << row.picked;
+      EXPECT_EQ(form.m_pnlmonth->Visible(), row.month);
+      EXPECT_EQ(form.m_pnltime->Visible(), row.time);
       EXPECT_EQ(form.Caption(), "UI12093");
       EXPECT_TRUE(form.m_edthour->ReadOnly());
       if (row.month && row.time) {
@@ -92,6 +92,7 @@ TEST_F(DateCalendar, TheClockRunsOnIntoTheNextDay) {
                {"20150101101059", "20150101101100"},
                {"20161231235959", "20170101000000"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.start);
     const TFormPointer<TDateCalendar> form(
         CreateForm<TDateCalendar>(Application, std::string(row.start), dtDateTime));
     form->Show();
@@ -129,6 +130,7 @@ TEST_F(DateCalendar, UpAndDownStayWithinTheClock) {
     int shown;
   } cases[] = {{form->m_udhour, 23, 23}, {form->m_udm, 59, 59}, {form->m_uds, 59, 0}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.control->Name());
     EXPECT_EQ(row.control->Min(), 0);
     EXPECT_EQ(row.control->Max(), row.last);
     EXPECT_EQ(row.control->Position(), row.shown);

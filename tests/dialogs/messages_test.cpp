@@ -23,8 +23,7 @@ using fakehost::Library;
 
 namespace {
 
-class Messages : public testing::Test {
- protected:
+struct Messages : testing::Test {
   FormHost host;
 };
 
@@ -40,16 +39,17 @@ TEST_F(Messages, ModesDifferInCaptionsButtonsAndIcon) {
                {TMessageMode::kWarning, "UI12014", "UI12002", false, 0},
                {TMessageMode::kQuestion, "UI12015", Ansi("是"), true, 2}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.caption);
     const TFormPointer<TFrmComMsg> form(CreateForm<TFrmComMsg>(Application, "text", row.mode));
     form->Show();
     EXPECT_EQ(form->Caption(), row.caption);
-    EXPECT_EQ(form->m_btnOk->Caption(), row.ok) << row.caption;
-    EXPECT_EQ(form->m_btnNo->Visible(), row.asks) << row.caption;
+    EXPECT_EQ(form->m_btnOk->Caption(), row.ok);
+    EXPECT_EQ(form->m_btnNo->Visible(), row.asks);
     EXPECT_EQ(form->m_lblInfo->Caption(), "text");
     EXPECT_EQ(form->DefaultButton(), form->m_btnOk);
     EXPECT_EQ(form->ActiveControl(), form->m_btnOk);
     const TbsSkinButton* last = row.asks ? form->m_btnNo : form->m_btnOk;
-    EXPECT_NEAR(form->m_btnOk->Left(), form->ClientWidth() - last->Left() - last->Width(), 1) << row.caption;
+    EXPECT_NEAR(form->m_btnOk->Left(), form->ClientWidth() - last->Left() - last->Width(), 1);
     if (row.asks) {
       EXPECT_EQ(form->m_btnNo->Left() - form->m_btnOk->Left() - form->m_btnOk->Width(), 20);
     }
@@ -75,11 +75,12 @@ TEST_F(Messages, HeightFollowsBytesAndLines) {
   };
   int designed = 0;
   for (const auto& row : cases) {
-    EXPECT_EQ(TFrmComMsg::ExtraHeight(row.text), row.extra) << row.text;
+    SCOPED_TRACE(row.text);
+    EXPECT_EQ(TFrmComMsg::ExtraHeight(row.text), row.extra);
     const TFormPointer<TFrmComMsg> form(
         CreateForm<TFrmComMsg>(Application, row.text, TMessageMode::kInformation));
     if (row.text.empty()) designed = form->Height();
-    EXPECT_EQ(form->Height(), designed + row.extra) << row.text;
+    EXPECT_EQ(form->Height(), designed + row.extra);
     EXPECT_EQ(form->m_btnOk->Height(), 19);
     EXPECT_EQ(form->Tag(), 0);
   }
@@ -181,6 +182,7 @@ TEST_F(Messages, FailureShowsItsLastLineAndAllLines) {
                {"first\r\nlast", "last", "first\r\nlast"},
                {"first\r\n\r\nlast\r\n", "last", "first\r\n\r\nlast"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.text);
     WhenShown<TFrmErrorMsg> step([&](TFrmErrorMsg& form) {
       EXPECT_EQ(form.m_lblInfo->Caption(), row.summary);
       EXPECT_EQ(form.m_memo->Text(), row.detail);

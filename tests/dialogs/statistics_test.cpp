@@ -39,8 +39,7 @@ Cells CellsOf(TListView* table) {
   return cells;
 }
 
-class Statistics : public testing::Test {
- protected:
+struct Statistics : testing::Test {
   Statistics() {
     host.SetText("UI12576", "币种");
     host.SetText("UI42325", "人民币");

@@ -44,7 +44,8 @@ struct AuditRequests : testing::Test {
     list->UnCheckAll();
     for (const int i : ticked) list->Items()[i]->SetChecked(true);
   }
-  // Runs a builder with an approver behind the dialog; the message that came, answered yes or no.
+  // Runs a builder with an approver who answers the dialog; returns the message that was shown, which is
+  // answered yes or no.
   template <class Build>
   std::string Run(const Verdict& verdict, bool yes, Build&& build) {
     WhenShown<TfrmAudit> approver([&verdict](TfrmAudit& form) {
@@ -82,8 +83,8 @@ TEST_F(AuditRequests, ASingleAuditSendsVerdictAndRows) {
                 {true, true, ""},
                 true,
                 "",
-                "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>C</BPBSNCODE><FLAG>0</"
-                "FLAG><SUBTYPE>7</SUBTYPE>" +
+                "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>C</BPBSNCODE>"
+                "<FLAG>0</FLAG><SUBTYPE>7</SUBTYPE>" +
                     rows},
                {"refused, 200 bytes",
                 {true, false, fine},
@@ -113,6 +114,7 @@ TEST_F(AuditRequests, ASubTypeTakesTheVerdictAsItComes) {
     const char* remark;
   } cases[] = {{0, true, false, "new"}, {3, false, true, "old"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE("remark " + std::string(row.remark));
     corvane::CorvaneStream request;
     bool agree = true;
     std::string remark = "old";
@@ -160,6 +162,7 @@ TEST_F(AuditRequests, NothingTickedAndADeclinedBookingSendNothing) {
   } cases[] = {
       {{}, true, "UI52869", false}, {{0, 2}, false, "UI53317", false}, {{0, 2}, true, "UI53317", true}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(testing::PrintToString(row.ticked) + (row.yes ? " yes" : " no"));
     Tick(row.ticked);
     corvane::CorvaneStream request;
     bool built = !row.built;
@@ -193,14 +196,14 @@ TEST_F(AuditRequests, ADetailAuditHasNoSubTypeAndAsksOfNoBooking) {
       {"201 bytes", {0, 1}, {true, true, std::string(201, 'a')}, false, "UI52934", rows},
       {"cancelled", {0, 1}, {false, true, ""}, false, "", rows}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.name);
     Tick(row.ticked);
     corvane::CorvaneStream request;
     bool built = !row.built;
     EXPECT_EQ(Run(row.verdict, true, [&] { built = detail.BuildDetailAuditRequest(list, "C", request); }),
-              row.message)
-        << row.name;
-    EXPECT_EQ(built, row.built) << row.name;
-    EXPECT_EQ(Text(request), row.text) << row.name;
+              row.message);
+    EXPECT_EQ(built, row.built);
+    EXPECT_EQ(Text(request), row.text);
   }
 }
 

@@ -89,8 +89,7 @@ class TTestForm : public TBaseForm {
 
 namespace {
 
-class BaseForm : public testing::Test {
- protected:
+struct BaseForm : testing::Test {
   BaseForm() {
     host.SetText("UI00001", "查询");
     host.SetText("UI00002", "Close");
@@ -228,13 +227,14 @@ TEST_F(BaseForm, FontComesFromTheHostAtEachShow) {
                {"Esperanto", "11", 1},
                {"", "13", 1}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.language);
     host.Configure("APPLICATION.LANG", "Language", row.language);
     host.Configure("APPLICATION.FONT", "Size", row.size);
     form->Show();
-    EXPECT_EQ(form->m_nFontCharset, row.charset) << row.language;
+    EXPECT_EQ(form->m_nFontCharset, row.charset);
     for (const TFont* font : {form->label->Font(), form->first->Font(), form->Font(), form->panel->Font(),
                               form->m_BusinessSkinForm->DefMenuItemFont()}) {
-      EXPECT_EQ(std::to_string(font->Size()), row.size) << row.language;
+      EXPECT_EQ(std::to_string(font->Size()), row.size);
       EXPECT_EQ(font->Name(), Ansi("宋体"));
       EXPECT_EQ(font->Charset(), row.charset);
     }

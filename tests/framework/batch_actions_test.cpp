@@ -81,7 +81,7 @@ struct BatchActions : testing::Test {
     return values;
   }
   std::string Status() const { return form->m_pnStatusText->Caption(); }
-  // The last request of a transaction behind its prolog.
+  // The last request of a transaction, without its prolog.
   std::string Request(const char* code) const {
     const std::vector<std::string> requests = host.Requests(code);
     if (requests.empty() || !requests.back().starts_with(kHead)) return "";
@@ -121,12 +121,13 @@ TEST_F(BatchActions, ARefusedExchangeLeavesTheListAndTheActionAsTheyWere) {
   host.RefuseExchange("ET9");
   const std::string before = Column("STT");
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.transaction);
     Tick({row.ticked});
-    ASSERT_TRUE(row.action->Enabled()) << row.transaction;
+    ASSERT_TRUE(row.action->Enabled());
     Answers answers;
-    EXPECT_EQ(FailureOf([&] { row.action->Execute(); }), "refused") << row.transaction;
+    EXPECT_EQ(FailureOf([&] { row.action->Execute(); }), "refused");
     EXPECT_EQ(host.Requests(row.transaction).size(), 1u);
-    EXPECT_TRUE(row.action->Enabled()) << row.transaction;
+    EXPECT_TRUE(row.action->Enabled());
     EXPECT_EQ(Column("STT"), before);
   }
   form->m_lvMain->SetItemIndex(1);
@@ -155,6 +156,7 @@ TEST_F(BatchActions, ShowsTheReasonThatTheBankGives) {
                {"", "", "UI52438"},
                {"E1", "no cover", "[E1]no cover"}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.text);
     EXPECT_EQ(norvik::FailureText(row.code, row.information), row.text);
     Tick({0, 1});
     ASSERT_TRUE(form->m_actReason->Enabled());
@@ -222,7 +224,8 @@ TEST_F(BatchActions, TheAmountOfACancelledRecordIsItsBusinessSumIfItHasThatField
                {{{"PAYAMT", "BUSSUM"}, {"10", "7.5"}}, "7.5"},
                {{{"BUSSUM"}, {"7.5"}}, "7.5"}};
   for (const auto& row : cases)
-    EXPECT_EQ(norvik::CancelAmount(ScreenHost::ListOf(row.record).getRow(0)), row.amount);
+    EXPECT_EQ(norvik::CancelAmount(ScreenHost::ListOf(row.record).getRow(0)), row.amount)
+        << testing::PrintToString(row.record);
 }
 
 TEST_F(BatchActions, WithoutAnAmountColumnTheTotalIsZero) {
@@ -261,9 +264,9 @@ TEST_F(BatchActions, ShowsTheAuditTrailOfTheTickedRecord) {
 TEST_F(BatchActions, ADealRequestCarriesTheBookingOfTheUser) {
   Tick({0, 3});
   const std::string rows =
-      "<list "
-      "name=\"userDataList\"><row><FLOWID>F1</FLOWID><ID>0</ID><ORDERNO>O1</ORDERNO><TRNAMT>10.00</TRNAMT>"
-      "</row><row><FLOWID>F4</FLOWID><ID>3</ID><ORDERNO>O4</ORDERNO><TRNAMT>5</TRNAMT></row></list></stream>";
+      "<list name=\"userDataList\">"
+      "<row><FLOWID>F1</FLOWID><ID>0</ID><ORDERNO>O1</ORDERNO><TRNAMT>10.00</TRNAMT></row>"
+      "<row><FLOWID>F4</FLOWID><ID>3</ID><ORDERNO>O4</ORDERNO><TRNAMT>5</TRNAMT></row></list></stream>";
   const struct {
     int item;
     bool confirms;
@@ -272,6 +275,7 @@ TEST_F(BatchActions, ADealRequestCarriesTheBookingOfTheUser) {
                {TfrmBookingProc::kScheduled, true, "1", "20261123"},
                {TfrmBookingProc::kScheduled, false, "0", ""}};
   for (const auto& row : cases) {
+    SCOPED_TRACE(row.confirms ? row.flag : "cancelled");
     corvane::CorvaneStream source, request;
     source.addField(corvane::Field("BSNCODE", "B"));
     source.addField(corvane::Field("OTHER", "x"));
@@ -283,8 +287,8 @@ TEST_F(BatchActions, ADealRequestCarriesTheBookingOfTheUser) {
     const std::string date =
         row.date[0] == '\0' ? "<PREDATE/>" : std::string("<PREDATE>") + row.date + "</PREDATE>";
     EXPECT_EQ(request.toString(),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream><AGREEFLAG/><AGREEREM/>"
-              "<BATNO/><BSNCODE>B</BSNCODE><DEALNOASK>1</DEALNOASK><FLAG/><FLOWID/>" +
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream>"
+              "<AGREEFLAG/><AGREEREM/><BATNO/><BSNCODE>B</BSNCODE><DEALNOASK>1</DEALNOASK><FLAG/><FLOWID/>" +
                   date + "<PREFLG>" + row.flag + "</PREFLG><PRETIME/><TALNUM/>" + rows);
   }
 }
@@ -294,13 +298,12 @@ TEST_F(BatchActions, TheScreenAuditsTheTickedRecords) {
   host.SetAnswerRows(ScreenHost::ListOf({{"ID", "FLAG"}, {"8", "no"}}));
   WhenShown<TfrmAudit> step([](TfrmAudit& audit) { audit.m_btnOk->Click(); });
   form->m_actAudit->Execute();
-  EXPECT_EQ(Request("PAYAUDIT"),
-            "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>CB000001</BPBSNCODE><FLAG>0</FLAG>"
-            "<SUBTYPE>0</SUBTYPE><list "
-            "name=\"userDataList\"><row><FLOWID>F1</FLOWID><ID>0</ID><ORDERNO>O1</ORDERNO>"
-            "<TRNAMT>1</TRNAMT></row><row><FLOWID>F9</FLOWID><ID>8</ID><ORDERNO>O9</ORDERNO><TRNAMT>9</"
-            "TRNAMT></row>"
-            "</list></stream>");
+  EXPECT_EQ(
+      Request("PAYAUDIT"),
+      "<AGREEFLAG>0</AGREEFLAG><AGREEREM/><BPBSNCODE>CB000001</BPBSNCODE><FLAG>0</FLAG>"
+      "<SUBTYPE>0</SUBTYPE><list name=\"userDataList\">"
+      "<row><FLOWID>F1</FLOWID><ID>0</ID><ORDERNO>O1</ORDERNO><TRNAMT>1</TRNAMT></row>"
+      "<row><FLOWID>F9</FLOWID><ID>8</ID><ORDERNO>O9</ORDERNO><TRNAMT>9</TRNAMT></row></list></stream>");
   EXPECT_EQ(Column("ORDERNO"), "O2|O3|O4|O5|O6|O7|O8|O9|");
 }
 

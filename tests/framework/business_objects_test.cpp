@@ -75,6 +75,7 @@ TEST_F(BusinessObjects, BuildColumnsFromTableAndLayout) {
       {{}, {{"B", "1", "x"}}, "", ""},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.expected);
     host.libraries.calls.clear();
     host.SetColumns("TList", c.table);
     host.SetLayout("TList", c.layout);
@@ -237,7 +238,7 @@ TEST_F(BusinessObjects, ReportWhatTheHostRefusesAndGoOn) {
   common.LoadAccountCombo(box, true);
   const std::string entries = Entries();
   constexpr auto kPub = Library::kPublicInformation;
-  // Each refusal stays for the lines behind it.
+  // Each refusal remains for the following lines.
   const struct {
     Library library;
     std::uint32_t ordinal;
@@ -302,6 +303,7 @@ TEST_F(BusinessObjects, ExportByTypeAndName) {
     std::uint32_t ordinal;  // of the spreadsheet library; 0: not called
   } cases[] = {{"a.xls", 1, 2}, {"a.Txt", 1, 5}, {"a.xls", 3, 5}, {"a.xml", 2, 0}, {"a", 9, 0}};
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.file + std::string(" of type ") + std::to_string(c.type));
     host.libraries.calls.clear();
     corvane::Row head;
     head["BEQRY"] = head["TYPENAME"] = "x";

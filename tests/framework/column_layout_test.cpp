@@ -219,6 +219,7 @@ TEST_F(ColumnLayout, TheNextFillBuildsTheColumnsThatCouldNotBeToldAtFirst) {
   host.SetErrorText("gone", "no table");
   const corvane::List rows = ScreenHost::ListOf({{"NO", "AMOUNT"}, {"B1", "5"}});
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.document);
     host.SetColumns(kForm, kColumns);
     host.SetLayout(kForm, {{"STATE", "33", "UI44005"}});
     for (const auto& [ordinal, arguments] :
@@ -226,16 +227,16 @@ TEST_F(ColumnLayout, TheNextFillBuildsTheColumnsThatCouldNotBeToldAtFirst) {
       host.libraries.SetAnswer(Library::kPublicInformation, ordinal, arguments, fakehost::Refusal("gone"));
     }
     host.failures.clear();
-    EXPECT_EQ(FailureOf([&] { Open(); }), "no table") << c.document;
-    EXPECT_EQ(host.failures.size(), c.escaped) << c.document;
-    EXPECT_EQ(FailureOf([&] { form->Fill(rows); }), "no table") << c.document;
-    EXPECT_EQ(Columns(), "") << c.document;
+    EXPECT_EQ(FailureOf([&] { Open(); }), "no table");
+    EXPECT_EQ(host.failures.size(), c.escaped);
+    EXPECT_EQ(FailureOf([&] { form->Fill(rows); }), "no table");
+    EXPECT_EQ(Columns(), "");
     host.SetColumns(kForm, kColumns);
     host.SetLayout(kForm, {{"STATE", "33", "UI44005"}});
     form->Fill(rows);
-    EXPECT_EQ(Columns(), "STATE:33 NO:100 AMOUNT:80 KEY:- ") << c.document;
+    EXPECT_EQ(Columns(), "STATE:33 NO:100 AMOUNT:80 KEY:- ");
     EXPECT_EQ(View()->model()->index(0, 1).data().toString(), "B1");
-    EXPECT_EQ(Save(), "STATE:33 NO:100 AMOUNT:80 ") << c.document;
+    EXPECT_EQ(Save(), "STATE:33 NO:100 AMOUNT:80 ");
   }
   host.libraries.SetAnswer(Library::kPublicInformation, 90, {"FIELDDEF", kForm}, fakehost::Refusal("gone"));
   FailureOf([&] { Open(); });

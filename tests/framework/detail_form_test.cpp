@@ -48,13 +48,12 @@ struct DetailForm : testing::Test {
     form = CreateForm<TfrmSmallDtl>(Application);
     form->Show();
   }
-  // Audit, output, print and the check-all box.
+  // What is enabled of the actions and the check-all box.
   std::string Enabled() const {
-    std::string text;
-    for (const TAction* action : {form->m_actAudit, form->m_actOutPut, form->m_actPrint}) {
-      text += action->Enabled() ? '1' : '0';
-    }
-    return text + (form->m_crbAllCheck->Enabled() ? '1' : '0');
+    return WhatIsOn({{"audit", form->m_actAudit->Enabled()},
+                     {"output", form->m_actOutPut->Enabled()},
+                     {"print", form->m_actPrint->Enabled()},
+                     {"box", form->m_crbAllCheck->Enabled()}});
   }
   // "caption:width" of the columns of the last layout that the host was given.
   std::string SavedWidths() const {
@@ -79,16 +78,18 @@ TEST_F(DetailForm, EnablesByTicksAndByTheCheckAllBox) {
     bool all;
     int ticked;
     const char* expected;
-  } cases[] = {{rows, true, 2, "1111"}, {rows, false, 0, "0001"}, {{{"A"}}, true, 0, "0000"}};
+  } cases[] = {
+      {rows, true, 2, "audit output print box"}, {rows, false, 0, "box"}, {{{"A"}}, true, 0, "nothing"}};
   Open();
-  EXPECT_EQ(Enabled().substr(0, 3), "000");
+  EXPECT_EQ(Enabled(), "box");
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.expected);
     form->Fill(c.rows);
     form->m_actAudit->SetEnabled(true);
     form->m_crbAllCheck->SetChecked(c.all);
     form->SelectAll(form->m_crbAllCheck);
     form->m_lvMainClick(form);
-    EXPECT_EQ(form->m_lvMain->CheckedCount(), c.ticked) << c.expected;
+    EXPECT_EQ(form->m_lvMain->CheckedCount(), c.ticked);
     EXPECT_EQ(Enabled(), c.expected);
   }
   form->Fill(rows);
@@ -96,7 +97,7 @@ TEST_F(DetailForm, EnablesByTicksAndByTheCheckAllBox) {
   form->m_lvMain->SetItemIndex(0);
   char space = ' ';
   form->m_lvMain->OnKeyPress(form->m_lvMain, space);
-  EXPECT_EQ(Enabled(), "0111");
+  EXPECT_EQ(Enabled(), "output print box");
 }
 
 TEST_F(DetailForm, ShowsAReasonThatIsATextKeyAsItsText) {

@@ -1,3 +1,5 @@
+// A query screen as small as one can be that offers everything the frame has. docs/how-a-screen-is-made.md
+// walks through it, the tests of the batch actions drive it; it is no screen of the module.
 #pragma once
 
 #include <memory>
@@ -8,8 +10,7 @@
 class TKVXEdit;
 class TLabel;
 
-/// A query screen as small as one can be that offers everything the frame has: the payments of an operator,
-/// one condition, and the batch actions. docs/how-a-screen-is-made.md walks through it.
+/// The payments of an operator, with one condition and the batch actions.
 class TfrmPaymentQry : public TQueryForm {
   Q_OBJECT
 

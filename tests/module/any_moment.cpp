@@ -39,7 +39,7 @@ void Settle() {
 }  // namespace
 
 Scene::Scene(const Moment& moment, Call call) : moment_(moment), call_(call) {
-  for (QWidget* window : QApplication::topLevelWidgets()) own_windows_.insert(window);
+  for (QWidget* window : QApplication::topLevelWidgets()) ownWindows_.insert(window);
   host.during = [this](const fakehost::Call& made) { Reach({.call = &made}); };
   host.duringMessage = [this](std::uint32_t message) { Reach({.message = message}); };
 }
@@ -97,7 +97,7 @@ void Scene::Guarded(const char* what, const std::function<void()>& body) {
 std::vector<QWidget*> Scene::ModuleWindows(bool visible) const {
   std::vector<QWidget*> windows;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (!own_windows_.contains(window) && window != host.mainWindow.get() &&
+    if (!ownWindows_.contains(window) && window != host.mainWindow.get() &&
         (!visible || window->isVisible())) {
       windows.push_back(window);
     }
@@ -116,9 +116,9 @@ void Scene::Turn() {
     QWidget* popup = QApplication::activePopupWidget();
     QWidget* dialog = popup ? popup : QApplication::activeModalWidget();
     if (!dialog || IsBusy(dialog)) return;
-    if (!came_ && steps_done_ < moment_.steps.size() &&
-        dialog->objectName() == QLatin1String(moment_.steps[steps_done_].dialog)) {
-      const Deed& deed = moment_.steps[steps_done_++].deed;
+    if (!came_ && stepsDone_ < moment_.steps.size() &&
+        dialog->objectName() == QLatin1String(moment_.steps[stepsDone_].dialog)) {
+      const Deed& deed = moment_.steps[stepsDone_++].deed;
       Guarded("the step", [&] { deed(*this); });
       return;
     }
@@ -133,7 +133,7 @@ void Scene::Turn() {
 }
 
 void Scene::Reach(const Place& place) {
-  if (!acting_ || came_ || steps_done_ < moment_.steps.size() || !moment_.when(place)) return;
+  if (!acting_ || came_ || stepsDone_ < moment_.steps.size() || !moment_.when(place)) return;
   came_ = true;
   lost_ = EndsLife() && place.call ? 1 : 0;
   Guarded(kCalls[call_], [this] { MakeCall(); });
@@ -142,7 +142,7 @@ void Scene::Reach(const Place& place) {
       Expect(false, "a window is left to be seen: " + window->objectName().toStdString());
     }
   }
-  calls_then_ = host.calls.size();
+  callsBefore_ = host.calls.size();
   if (call_ == kPickOther && moment_.doing == Doing::kWaiting) {
     Expect(IsVisible(kItems[Other()].screen), "the picked screen isn't shown at once");
   }
@@ -178,7 +178,7 @@ int Scene::Play() {
   for (int round = 0; !came_ && round < 100; ++round) QCoreApplication::processEvents();
   Settle();
   Expect(came_, "the moment doesn't come");
-  for (std::size_t i = calls_then_; EndsLife() && i < host.calls.size(); ++i) {
+  for (std::size_t i = callsBefore_; EndsLife() && i < host.calls.size(); ++i) {
     const fakehost::Call& made = host.calls[i];
     Expect(failures_ > 0, "a life that has ended calls " + std::to_string(static_cast<int>(made.library)) +
                               "." + std::to_string(made.ordinal) +

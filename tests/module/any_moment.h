@@ -91,11 +91,11 @@ class Scene {
 
   const Moment& moment_;
   const Call call_;
-  std::set<QWidget*> own_windows_;
-  std::size_t steps_done_ = 0;
+  std::set<QWidget*> ownWindows_;
+  std::size_t stepsDone_ = 0;
   bool acting_ = false;
   bool came_ = false;
-  std::size_t calls_then_ = 0;
+  std::size_t callsBefore_ = 0;
   int lost_ = 0;
   int failures_ = 0;
   QObject turns_;

@@ -16,9 +16,9 @@ constexpr int kSecondsOfACell = 30;
 class AnyMoment : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(AnyMoment, TakesAnyCall) {
-  static const std::string self = std::filesystem::read_symlink("/proc/self/exe");
+  static const std::string kSelf = std::filesystem::read_symlink("/proc/self/exe");
   for (std::size_t call = 0; call < std::size(anymoment::kCalls); ++call) {
-    const std::string command = "timeout -s KILL " + std::to_string(kSecondsOfACell) + " '" + self +
+    const std::string command = "timeout -s KILL " + std::to_string(kSecondsOfACell) + " '" + kSelf +
                                 "' --cell " + std::to_string(GetParam()) + " " + std::to_string(call) +
                                 " 2>&1";
     FILE* output = popen(command.c_str(), "r");

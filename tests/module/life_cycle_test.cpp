@@ -119,7 +119,7 @@ TEST_F(CallFunc, ReportsAFailureOfTheScreenAndGoesOn) {
 }
 
 TEST_F(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
-  // Every form reads its font, so the form that tells of the failure meets it, too.
+  // Every form reads its font, so the form that reports the failure meets it, too.
   for (const auto& answer : {fakehost::Text(""), fakehost::Text("large"), fakehost::Refusal("no font")}) {
     host.SetAnswer(kPub, 68, {"SYSCONFIG_DATA", "APPLICATION.FONT", "Size"}, answer);
     DialogCloser closer;
@@ -134,6 +134,7 @@ TEST_F(CallFunc, ShowsAScreenOnceItHasToldWhatTheHostLacks) {
 TEST_F(CallFunc, PassesOnWhyAScreenCouldNotBeMadeAndMakesItNextTime) {
   host.SetAnswer(Library::kTranslate, 4, {"UI40", "UI40110"}, fakehost::Refusal("no texts"));
   for (const auto& row : kScreens) {
+    SCOPED_TRACE(row.item);
     EXPECT_EQ(KeyOf([&] { module.Pick(row.item); }), "no texts");
     EXPECT_EQ(CountOf(row.screen), 0);
   }

@@ -129,7 +129,7 @@ void ChooseDates(Scene& scene) {
 void WithBanks(Scene& scene) {
   static Scene* looking = nullptr;
   looking = &scene;
-  static const norvik_bank_directory directory = {
+  static const norvik_bank_directory kDirectory = {
       nullptr,
       [](void*, std::uint32_t index) {
         const fakehost::Call call = {kPub, kLookUp, {}};
@@ -138,7 +138,7 @@ void WithBanks(Scene& scene) {
       },
       [](void*, const char*, const char*) { return 1; },
       [](void*, const char*, const char*, const char*, const char*) { return "Bank"; }};
-  scene.host.handles["BANK_PDATA"] = norvik_bank_directory_register(&directory);
+  scene.host.handles["BANK_PDATA"] = norvik_bank_directory_register(&kDirectory);
   norvik_mutex_create("_BankInfoLoader_");
   Open(scene);
 }

@@ -65,6 +65,7 @@ TEST(CheckAmounts, NormalizesWhatItLooksAt) {
       {"9999999999999.98", "9999999999999.99", "", "9999999999999.98", "9999999999999.99"},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.minimum + std::string(" to ") + c.maximum);
     std::string minimum = c.minimum;
     std::string maximum = c.maximum;
     const AmountRangeFault fault = CheckAmounts(minimum, maximum);
@@ -84,6 +85,7 @@ TEST(AccountBatches, HoldsTwentyInARow) {
     std::vector<int> expected;
   } cases[] = {{0, {}}, {1, {1}}, {20, {20}}, {21, {20, 1}}, {45, {20, 20, 5}}};
   for (const auto& c : cases) {
+    SCOPED_TRACE(std::to_string(c.accounts) + " accounts");
     std::vector<std::string> accounts;
     std::string all;
     for (int i = 0; i < c.accounts; ++i) accounts.push_back(std::to_string(i));

@@ -50,11 +50,12 @@ struct Enquiries : testing::Test {
     TAction* const actions[] = {form->m_actECDSHistoryInfo, form->m_actECDSSignInfo, form->m_actBigResult};
     return actions[enquiry];
   }
-  // "1" for each enabled action: record, history, sign, large value.
+  // What is enabled of the row actions.
   std::string Enabled() const {
-    std::string text(1, form->m_actTicketInfo->Enabled() ? '1' : '0');
-    for (int i = 0; i < 3; ++i) text += Action(i)->Enabled() ? '1' : '0';
-    return text;
+    return WhatIsOn({{"record", form->m_actTicketInfo->Enabled()},
+                     {"history", form->m_actECDSHistoryInfo->Enabled()},
+                     {"sign", form->m_actECDSSignInfo->Enabled()},
+                     {"big", form->m_actBigResult->Enabled()}});
   }
   // Executes an enquiry and looks at its dialog; false when none came.
   bool Look(int enquiry, const std::function<void(TEnquiryForm&)>& look) {
@@ -65,7 +66,7 @@ struct Enquiries : testing::Test {
     Action(enquiry)->Execute();
     return shown.Came();
   }
-  // The request behind its fixed beginning.
+  // The request without its fixed beginning.
   std::string Request(const char* transaction) const {
     const auto requests = host.Requests(transaction);
     if (requests.size() != 1) return std::to_string(requests.size()) + " requests";
@@ -118,7 +119,7 @@ TEST_F(Enquiries, AskByTheNumbersOfTheBill) {
                                         : std::string(c.numbers) + "</QURYTYP>";
       EXPECT_EQ(Request(transactions[i]), "<stream>" + fields + "</stream>");
     }
-    EXPECT_EQ(Enabled(), "1111");
+    EXPECT_EQ(Enabled(), "record history sign big");
     DestroyForm(form);
   }
 }
@@ -149,6 +150,7 @@ TEST_F(Enquiries, ShowTheirHeads) {
     fields[field] = value;
   }
   for (const auto& c : cases) {
+    SCOPED_TRACE(kDialogs[c.enquiry] + std::string(" ") + c.type);
     fields["BILLTYP"] = c.type;
     Answer(fields, {{"QURYDAT", "INFOTYP"}, {"20260301", "01"}, {"20260302", "99"}});
     EXPECT_TRUE(Look(c.enquiry, [&](TEnquiryForm& dialog) {
@@ -170,9 +172,10 @@ TEST_F(Enquiries, OfferSumColumnsAndOutputAlone) {
   Tick("S1", "Q1");
   Answer({}, {{"QURYDAT"}, {"20260301"}});
   for (int i = 0; i < 3; ++i) {
+    SCOPED_TRACE(kDialogs[i]);
     host.libraries.calls.clear();
     EXPECT_TRUE(Look(i, [&](TEnquiryForm& dialog) {
-      EXPECT_EQ(Enabled(), "1000");
+      EXPECT_EQ(Enabled(), "record");
       for (const TControl* control : std::initializer_list<TControl*>{
                dialog.m_btnAudit, dialog.bsSkinSpeedButton1, dialog.m_tbPrint, dialog.m_tbPrintSetup}) {
         EXPECT_FALSE(control->Visible()) << control->Name();
@@ -201,9 +204,10 @@ TEST_F(Enquiries, BringTheActionsBackAfterAFailure) {
   Tick("S1", "Q1");
   host.RefuseExchange("ET90001");
   for (int i = 0; i < 3; ++i) {
+    SCOPED_TRACE(kDialogs[i]);
     EXPECT_EQ(FailureOf([&] { Action(i)->Execute(); }), "refused");
     EXPECT_EQ(ShownForm(TEnquiryForm::staticMetaObject), nullptr);
-    EXPECT_EQ(Enabled(), "1111");
+    EXPECT_EQ(Enabled(), "record history sign big");
   }
   Answer({}, {{"QURYDAT"}});
   host.libraries.SetAnswer(Library::kPublicInformation, 82, {"COLUMN_INFO"}, fakehost::Refusal("gone"));
@@ -212,7 +216,7 @@ TEST_F(Enquiries, BringTheActionsBackAfterAFailure) {
     dialog.m_actHideColumn->Execute();
     EXPECT_EQ(host.failures.size(), 2u);
   }));
-  EXPECT_EQ(Enabled(), "1111");
+  EXPECT_EQ(Enabled(), "record history sign big");
 }
 
 }  // namespace

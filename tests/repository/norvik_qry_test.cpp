@@ -47,14 +47,16 @@ struct NorvikQry : testing::Test {
     form->BuildQueryRequest(stream);
     return stream.toString();
   }
-  // "on" or "off" of the four row actions, output, print and the check-all box.
+  // What is enabled of the row actions, output, print and the check-all box; "all" if the box is checked.
   std::string Enabled() const {
-    std::string text;
-    for (const TAction* action : {form->m_actTicketInfo, form->m_actECDSSignInfo, form->m_actECDSHistoryInfo,
-                                  form->m_actBigResult, form->m_actOutput, form->m_actPrint}) {
-      text += action->Enabled() ? '1' : '0';
-    }
-    return text + (form->m_crbAllCheck->Enabled() ? '1' : '0') + (form->m_crbAllCheck->Checked() ? '1' : '0');
+    return WhatIsOn({{"record", form->m_actTicketInfo->Enabled()},
+                     {"sign", form->m_actECDSSignInfo->Enabled()},
+                     {"history", form->m_actECDSHistoryInfo->Enabled()},
+                     {"big", form->m_actBigResult->Enabled()},
+                     {"output", form->m_actOutput->Enabled()},
+                     {"print", form->m_actPrint->Enabled()},
+                     {"box", form->m_crbAllCheck->Enabled()},
+                     {"all", form->m_crbAllCheck->Checked()}});
   }
   void Query(const corvane::List& rows = kBills) {
     host.SetAnswerRows(rows);
@@ -67,11 +69,9 @@ struct NorvikQry : testing::Test {
 
 // The fields that no condition fills.
 constexpr const char* kEmptyRequest =
-    "<ACCPNAM/><AGTBHNM/><AGTSTAT>02|03|12</AGTSTAT><AMTBEGN/><AMTENDS/><APLYDTE/><APLYDTS/><APPLYNO/"
-    "><APPREST/>"
-    "<APPTYPE/><BATCHNO/><BILLNUM/><BILLSID/><BILLTYP>AC00</BILLTYP><BKRMKTY/><BSNCODE>CB200310</"
-    "BSNCODE><BSNFLOW/>"
-    "<DSBKBNM/><DUEDATE/><DUEDATS/><HASIMPN/><PTENDNM/><SAVEDTE/><SAVEDTS/>";
+    "<ACCPNAM/><AGTBHNM/><AGTSTAT>02|03|12</AGTSTAT><AMTBEGN/><AMTENDS/><APLYDTE/><APLYDTS/><APPLYNO/>"
+    "<APPREST/><APPTYPE/><BATCHNO/><BILLNUM/><BILLSID/><BILLTYP>AC00</BILLTYP><BKRMKTY/>"
+    "<BSNCODE>CB200310</BSNCODE><BSNFLOW/><DSBKBNM/><DUEDATE/><DUEDATS/><HASIMPN/><PTENDNM/><SAVEDTE/><SAVEDTS/>";
 
 TEST_F(NorvikQry, SendsItsDefaults) {
   Open();
@@ -81,7 +81,7 @@ TEST_F(NorvikQry, SendsItsDefaults) {
   EXPECT_TRUE(form->m_pnlAdvance->RollState());
   EXPECT_FALSE(form->m_pnlNormal->RollState());
   EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
-  EXPECT_EQ(Enabled(), "00000000");
+  EXPECT_EQ(Enabled(), "nothing");
   EXPECT_EQ(Request(), std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?><stream>") + kEmptyRequest +
                            "<list name=\"resultList\"><row><CUSTACC>A1|A2</CUSTACC></row></list></stream>");
 }
@@ -109,12 +109,10 @@ TEST_F(NorvikQry, SendsEveryConditionAsTheBankMustGetIt) {
   const std::string expected = Ansi(
       "<AGTBHNM>313001000022</AGTBHNM><AGTSTAT>01|02|03|12</AGTSTAT><AMTBEGN>1</AMTBEGN><AMTENDS>2</AMTENDS>"
       "<APLYDTE/><APLYDTS/><APPLYNO/><APPREST/><APPTYPE/><BATCHNO>batch</BATCHNO><BILLNUM>no</BILLNUM>"
-      "<BILLSID> 12 "
-      "</BILLSID><BILLTYP>AC01</BILLTYP><BKRMKTY>01</BKRMKTY><BSNCODE>CB200310</BSNCODE><BSNFLOW/>"
+      "<BILLSID> 12 </BILLSID><BILLTYP>AC01</BILLTYP><BKRMKTY>01</BKRMKTY><BSNCODE>CB200310</BSNCODE><BSNFLOW/>"
       "<DSBKBNM/><DUEDATE>20260202</DUEDATE><DUEDATS>20260201</DUEDATS><HASIMPN/><PTENDNM>甲</PTENDNM>"
-      "<SAVEDTE>20260102</SAVEDTE><SAVEDTS>20260101</SAVEDTS><list "
-      "name=\"resultList\"><row><CUSTACC>A2</CUSTACC>"
-      "</row></list>");
+      "<SAVEDTE>20260102</SAVEDTE><SAVEDTS>20260101</SAVEDTS>"
+      "<list name=\"resultList\"><row><CUSTACC>A2</CUSTACC></row></list>");
   EXPECT_NE(Request().find(expected), std::string::npos) << Request();
   form->m_pnlAdvance->SetRollState(true);
   const std::string rolledUp = Request();
@@ -150,15 +148,15 @@ TEST_F(NorvikQry, AsksForTheInstitutionsOfAnAccount) {
   };
   form->m_cbxAcc->SetItemIndex(1);
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.entries);
     host.SetAnswerRows(ScreenHost::ListOf(c.rows));
     form->m_cbxAccChange(form);
     EXPECT_EQ(entries(), c.entries);
     EXPECT_EQ(form->m_cbxBankNo->ItemIndex(), 0);
   }
   EXPECT_EQ(host.Requests("EBBADQAH").back(),
-            "<?xml version=\"1.0\" encoding=\"GBK\"?><stream><SRC>1</SRC><list "
-            "name=\"userDataList\"><row><CUSTACC>A1"
-            "</CUSTACC></row></list></stream>");
+            "<?xml version=\"1.0\" encoding=\"GBK\"?><stream><SRC>1</SRC>"
+            "<list name=\"userDataList\"><row><CUSTACC>A1</CUSTACC></row></list></stream>");
   EXPECT_EQ(form->m_cbxAcc->Hint(), "A1-Name 1");
   host.RefuseExchange("ET90001");
   FailureOf([&] { form->m_cbxAccChange(form); });
@@ -211,7 +209,7 @@ TEST_F(NorvikQry, StartsAfreshAtEachShowButKeepsTheBillId) {
   EXPECT_EQ(form->m_cbxAcc->ItemIndex() + form->m_cbxType->ItemIndex() + form->m_cbxBankRmk->ItemIndex(), 0);
   EXPECT_EQ(form->m_rgSelDate->ItemIndex(), 4);
   EXPECT_EQ(form->m_pnStatusText->Caption(), "");
-  EXPECT_EQ(Enabled(), "00000000");
+  EXPECT_EQ(Enabled(), "nothing");
   EXPECT_FALSE(form->m_pnlNormal->RollState());
   EXPECT_EQ(form->m_edBatNo->Text() + form->m_edNo->Text() + form->m_edBackName->Text() +
                 form->m_edBillId->Text() + form->m_dtDeadStartDate->Text() + form->m_edMaxAmount->Text(),
@@ -287,6 +285,7 @@ TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
   host.SetErrorText("gone", "no accounts");
   enum Moment { kNextShow, kShowAfterAFailedOne, kQuery };
   for (const Moment moment : {kNextShow, kShowAfterAFailedOne, kQuery}) {
+    SCOPED_TRACE(moment);
     host.libraries.SetAnswer(Library::kPublicInformation, 40, {"CMLGBSNACC"}, fakehost::Refusal("gone"));
     if (moment == kShowAfterAFailedOne) host.Configure("APPLICATION.FONT", "Size", "large");
     EXPECT_EQ(FailureOf([&] { Open(); }), "no accounts");
@@ -300,9 +299,9 @@ TEST_F(NorvikQry, AsksAgainForTheAccountsThatItCouldNotRead) {
     host.SetAccounts(2);
     if (moment != kQuery) form->Close();
     moment == kQuery ? Query() : form->Show();
-    EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999") << moment;
-    EXPECT_EQ(form->m_cbxBankNo->GetKey(), "-9999") << moment;
-    EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos) << moment;
+    EXPECT_EQ(form->m_cbxAcc->GetKey(), "-9999");
+    EXPECT_EQ(form->m_cbxBankNo->GetKey(), "-9999");
+    EXPECT_NE(Request().find("<row><CUSTACC>A1|A2</CUSTACC></row>"), std::string::npos);
     EXPECT_EQ(host.Requests("EBBADQDB").size(), moment == kQuery ? 1u : 0u);
     DestroyForm(form);
   }
@@ -327,10 +326,10 @@ TEST_F(NorvikQry, LeavesNoRowActionOnOverAListThatAFailureEmptied) {
     Query();
     form->m_lvMain->Items()[0]->SetChecked(true);
     form->m_lvMainClick(form);
-    EXPECT_EQ(Enabled(), "11111110") << c.what;
+    EXPECT_EQ(Enabled(), "record sign history big output print box") << c.what;
     c.fail();
     EXPECT_EQ(form->m_lvMain->Items().Count(), 0) << c.what;
-    EXPECT_EQ(Enabled(), "00000000") << c.what;
+    EXPECT_EQ(Enabled(), "nothing") << c.what;
     host.SetTable("BUSINESSDICT", "BANKRMK", ScreenHost::ListOf({{"TYPEKEY", "TYPE"}, {"01", "UI46201"}}));
     form->Close();
     form->Show();
@@ -342,7 +341,7 @@ TEST_F(NorvikQry, LeavesNoRowActionOnOverAListThatAFailureEmptied) {
   host.libraries.SetAnswer(Library::kTranslate, 4, fakehost::Refusal("gone"));
   form->m_lvMain->Items()[1]->SetChecked(true);
   EXPECT_THROW(form->m_lvMainItemCheck(form->m_lvMain, form->m_lvMain->Items()[1]), corvane::TIOException);
-  EXPECT_EQ(Enabled(), "00001110");
+  EXPECT_EQ(Enabled(), "output print box");
 }
 
 TEST_F(NorvikQry, LeavesTheFocusOnTheButtonThatAsked) {
@@ -366,9 +365,9 @@ TEST_F(NorvikQry, FollowsTheRightMouseButtonButNotTheOthers) {
   Query();
   form->m_lvMain->Items()[0]->SetChecked(true);
   form->m_lvMainMouseDown(form->m_lvMain, mbLeft, {}, 0, 0);
-  EXPECT_EQ(Enabled(), "00000010");
+  EXPECT_EQ(Enabled(), "box");
   form->m_lvMainMouseDown(form->m_lvMain, mbRight, {}, 0, 0);
-  EXPECT_EQ(Enabled(), "11111110");
+  EXPECT_EQ(Enabled(), "record sign history big output print box");
 }
 
 TEST_F(NorvikQry, PrintsTheTickedRowsByItsColumnTable) {

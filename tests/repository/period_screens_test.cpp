@@ -67,6 +67,7 @@ void ExpectChecks(Opened<Screen>& screen, std::initializer_list<CheckCase> cases
   for (const bool rolledUp : {false, true}) {
     screen.form->m_pnlAdvance->SetRollState(rolledUp);
     for (const CheckCase& c : cases) {
+      SCOPED_TRACE(c.start + std::string(" to ") + c.end);
       screen.SetDates(c.start, c.end);
       screen.host.libraries.calls.clear();
       screen.host.SetAnswerRows(ScreenHost::ListOf({{"BILLNUM"}, {"1"}}));
@@ -116,8 +117,7 @@ TEST(NorvikELoanQry, SendsItsConditions) {
   screen.SetDates("20260101", "20260102");
   EXPECT_EQ(screen.Sent(),
             "APLYDTE=20260102 APLYDTS=20260101 APPLYNO= 2  APPREST=01 APPTYPE=01 BILLNUM= 1  BILLTYP=AC01 "
-            "BKRMKTY=01 "
-            "BSNCODE=CB200320 A1 of 24");
+            "BKRMKTY=01 BSNCODE=CB200320 A1 of 24");
   form->m_pnlAdvance->SetRollState(true);
   EXPECT_EQ(screen.Sent().find("APLYDT"), std::string::npos);
   form->Close();

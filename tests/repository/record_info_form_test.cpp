@@ -57,15 +57,16 @@ TEST_F(RecordInfoForm, FollowsTheTypeOfTheBill) {
   };
   const char* names[] = {"m_lbAccpName", "m_lbAccpAcc", "m_lbBankNum", "m_lbBankNM", "m_lbAccpAddr"};
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.type);
     Open<TfrmQryInfo>(RecordOf(c.type));
     EXPECT_EQ(Label("m_lbTypeVal")->Caption(), c.type);
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(Row(names[i]), c.rows[i]) << c.type;
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(Row(names[i]), c.rows[i]);
     auto* panel = dynamic_cast<TbsSkinExPanel*>(view->FindComponent("m_spBillInfo"));
     for (const bool rolledUp : {true, false}) {
       panel->SetRollState(rolledUp);
       panel->OnChangeRollState(panel);
     }
-    EXPECT_EQ(Row(names[0]), c.rows[0]) << c.type;
+    EXPECT_EQ(Row(names[0]), c.rows[0]);
     DestroyForm(view);
   }
 }
@@ -86,7 +87,7 @@ TEST_F(RecordInfoForm, ShowsValuesAsTheyStand) {
 
 TEST_F(RecordInfoForm, HasTheRowsOfItsKind) {
   // B: of a bill, A: of an application, E: of an event; the rows as name=caption=field. A bill's type and
-  // payer are told above.
+  // payer are tested above.
   const struct {
     std::string_view kinds;
     const char* rows;

@@ -1,3 +1,5 @@
+// The host side of a test of forms: fake libraries, services and a main window, and the means to act on a
+// form while it is shown. The tests of dialogs, frames and screens use it; the module is linked, not loaded.
 #pragma once
 
 #include <QPointer>
@@ -13,10 +15,10 @@
 #include "tests/support/fake_host.h"
 #include "toolkit/form.h"
 
-/// The world that a form lives in: registered host libraries that answer by key, the services bound to them,
-/// the layer's Application, and a main window of the host that writes its messages down. One at a time,
+/// What a form needs to live: registered host libraries that answer by key, the services bound to them, the
+/// layer's Application, and a main window of the host that records its messages. One at a time,
 /// user-interface thread. A modal window that nobody answers within four to eight seconds fails the test and
-/// is closed, so that a wrong answer never waits.
+/// is closed, so that no wrong answer makes a test hang.
 class FormHost {
  public:
   struct Message {
@@ -57,10 +59,10 @@ class FormHost {
   QPointer<QWidget> unanswered_;
 };
 
-/// The shown form of a class, the last made first; null if there is none.
+/// The shown form of a class, the newest first; null if there is none.
 TForm* ShownForm(const QMetaObject& type);
 
-/// Does something with the first form of class T that is shown, as soon as it is, once.
+/// Runs a step with the first form of class T that is shown, as soon as it is, once.
 template <class T>
 class WhenShown {
  public:

@@ -1,3 +1,5 @@
+// The built module library as a host loads it, and a host to load it: fake libraries, a main window and a
+// bank. The tests through the C boundary use it; it knows no class of the module.
 #pragma once
 
 #include <QTimer>
@@ -23,7 +25,7 @@ class ModuleLibrary {
   /// CallFunc with the row of an item.
   void Pick(const std::string& item) const;
 
-  /// MenuConfig, read and given back.
+  /// The text of MenuConfig; its buffer is released by FreeBuff.
   std::string Menu() const;
 
   norvik_init_module InitModule;
@@ -36,14 +38,14 @@ class ModuleLibrary {
   void* library_;
 };
 
-/// A fake host with all libraries and a main window that writes down its messages.
+/// A fake host with all libraries and a main window that records its messages.
 class WindowedHost : public fakehost::FakeHost {
  public:
   WindowedHost();
   ~WindowedHost();
 
-  /// Gives the screens two columns and a bank that answers everything with the bills B1 and B2, and the
-  /// repository screen the accounts A1 and A2 and a custody status.
+  /// Sets two columns for the screens and a bank that answers everything with the bills B1 and B2, and for
+  /// the repository screen the accounts A1 and A2 and a custody status.
   void OfferBills();
 
   /// Makes the main window and registers it; CloseMainWindow unregisters and destroys it.
@@ -53,7 +55,7 @@ class WindowedHost : public fakehost::FakeHost {
   norvik_handle publicInformation;
   std::unique_ptr<QWidget> mainWindow;
   std::vector<std::uint32_t> messages;
-  std::function<void(std::uint32_t)> duringMessage;  // runs inside each message, once it is written down
+  std::function<void(std::uint32_t)> duringMessage;  // runs inside each message, after it is recorded
 
  private:
   norvik_handle window_ = 0;
@@ -65,7 +67,7 @@ std::string ListText(const std::vector<std::vector<std::string>>& lines);
 /// The process's window with that object name, null if there is none or it was destroyed.
 QWidget* WindowOf(const std::string& name);
 
-/// Closes the module's dialogs as they come.
+/// Closes the module's dialogs as they appear.
 class DialogCloser {
  public:
   DialogCloser();

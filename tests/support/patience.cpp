@@ -29,7 +29,7 @@ class Patience : public testing::EmptyTestEventListener {
   void OnTestEnd(const testing::TestInfo&) override { alarm(0); }
 };
 
-const bool g_listens = [] {
+const bool kListens = [] {
   testing::UnitTest::GetInstance()->listeners().Append(new Patience);
   return true;
 }();

@@ -159,6 +159,14 @@ void ExpectCaptions(const TForm& form, const std::string& captions) {
   }
 }
 
+std::string WhatIsOn(std::initializer_list<std::pair<const char*, bool>> switches) {
+  std::string names;
+  for (const auto& [name, on] : switches) {
+    if (on) names += (names.empty() ? "" : " ") + std::string(name);
+  }
+  return names.empty() ? "nothing" : names;
+}
+
 std::string MessageOf(const std::function<void()>& action, bool yes) {
   std::string text;
   WhenShown<TFrmComMsg> answer([&](TFrmComMsg& message) {

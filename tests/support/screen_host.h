@@ -1,7 +1,11 @@
+// A host for the query screens, with the tables that they read, and what a test of a screen asks of it. The
+// tests of the frames and the screens use it; it makes no form.
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/support/form_host.h"
@@ -29,19 +33,22 @@ class ScreenHost : public FormHost {
 
   /// The texts of the requests sent under a transaction code.
   std::vector<std::string> Requests(const std::string& code) const;
-  /// How often a function of the public information library was called with this first argument.
+  /// The calls of a function of the public information library with this first argument.
   std::vector<fakehost::Call> Stored(std::uint32_t ordinal, const std::string& key) const;
 
   /// A list of rows; the first line names the columns.
   static corvane::List ListOf(const Table& lines);
 };
 
-/// Expects of a form's controls the captions that "name=caption" says, parted by blanks; no name is the form
-/// itself.
+/// Expects the captions of a form's controls that "name=caption" states, separated by blanks; an empty name
+/// is the form itself.
 void ExpectCaptions(const TForm& form, const std::string& captions);
 
-/// Runs an action and answers the message that it shows, yes where it is a question; gives the message's
-/// text, empty if none came.
+/// The names of the switches that are on, separated by blanks; "nothing" if all are off.
+std::string WhatIsOn(std::initializer_list<std::pair<const char*, bool>> switches);
+
+/// Runs an action and answers the message that it shows, with yes if it is a question; returns the message's
+/// text, empty if none was shown.
 std::string MessageOf(const std::function<void()>& action, bool yes = true);
 /// The same for a reported failure.
 std::string FailureOf(const std::function<void()>& action);

@@ -1,3 +1,5 @@
+// A host for the torture test: it answers all that the screens request until the call that is to fail. The
+// stage plays scenarios against it.
 #pragma once
 
 #include <map>
@@ -10,7 +12,7 @@
 /// A way in which a call fails.
 struct Fault {
   const char* name;
-  unsigned functions;  // that can fail so
+  unsigned functions;  // that can fail this way
   void (*apply)(fakehost::Answer& answer);
 };
 extern const std::vector<Fault> kFaults;
@@ -19,15 +21,15 @@ extern const std::vector<Fault> kFaults;
 /// can be reported.
 enum class Extent { kOnce, kOnward, kReported };
 
-/// A host with all that the screens ask for, one of whose calls fails, once or from there on. It keeps the
-/// column layouts that the module stores.
+/// A host with all that the screens request, one of whose calls fails, once or from there on. It stores the
+/// column layouts of the module.
 class FailingHost : public WindowedHost {
  public:
   FailingHost();
 
-  /// A play begins; without a fault nothing fails.
+  /// Begins a play; without a fault nothing fails.
   void Begin(std::size_t failingCall = 0, Extent extent = Extent::kOnce, const Fault* fault = nullptr);
-  /// The layouts are those of an earlier session again.
+  /// Restores the layouts of an earlier session.
   void ResetLayouts();
   void SpeakTraditionalChinese(bool on);
   /// The stored layout of each form.

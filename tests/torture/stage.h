@@ -1,4 +1,4 @@
-// Where the scenarios of the torture test are played: moves of the operator and the host against the built
+// Where the scenarios of the torture test are played: actions of the operator and the host against the built
 // module, each followed by a look at all that the user can see and by checks of what must hold whatever the
 // host does.
 #pragma once
@@ -9,7 +9,7 @@
 
 #include "tests/torture/failing_host.h"
 
-/// A scenario is a line of moves, parted by blanks; one whose control isn't there does nothing:
+/// A scenario is a line of moves, separated by blanks; one whose control isn't there does nothing:
 ///   start, release             InitModule unless the module runs, Release
 ///   pick:6                     the menu item ITEM6066
 ///   BUTTON                     presses it on the screen picked last
@@ -21,7 +21,7 @@ class Stage {
  public:
   Stage(const ModuleLibrary& module, FailingHost& host);
 
-  /// Plays the moves and then "close"; what the user saw and what was sent.
+  /// Plays the moves and then "close"; returns what the user saw and what was sent.
   std::string Play(const std::string& scenario);
 
   std::set<std::string> broken;  // what did not hold

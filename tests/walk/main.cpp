@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-// A desk of a usual size, drawn in memory; the cursor of an edit stands still, so that a picture tells only
+// A desk of a usual size, drawn in memory; the cursor of an edit stands still, so that a picture shows only
 // what the control holds.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
