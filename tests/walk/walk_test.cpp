@@ -48,7 +48,7 @@ std::set<std::string> FormClasses() {
   static const std::regex kClass("class (T\\w+) : public (T\\w+)");
   std::map<std::string, std::string> bases;
   for (const char* folder : {"dialogs", "framework", "repository"}) {
-    for (const auto& entry : fs::directory_iterator(fs::path(WALK_SOURCES) / folder)) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(WALK_SOURCES) / folder)) {
       std::ifstream file(entry.path());
       std::smatch found;
       for (std::string line; std::getline(file, line);) {
