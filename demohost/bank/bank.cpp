@@ -70,9 +70,10 @@ bool Bank::IsCode(std::string_view dictionary, std::string_view code) const {
   return codes_.count({std::string(dictionary), std::string(code)}) != 0;
 }
 
-std::vector<std::string> Bank::RequestedAccounts(corvane::CorvaneStream& request, const std::string& list) {
+std::vector<std::string> Bank::RequestedAccounts(const corvane::CorvaneStream& request,
+                                                 const std::string& list) {
   std::vector<std::string> accounts;
-  for (const corvane::Row& row : std::as_const(request.getList(list))) {
+  for (const corvane::Row& row : request.getList(list)) {
     const std::vector<std::string> group = Split(norvik::Utf8FromAnsi(row.getValue("CUSTACC")), '|');
     if (group.size() > kAccountsInRow) throw Refused(refusal::kTooManyAccounts);
     for (const std::string& account : group) {
@@ -84,7 +85,7 @@ std::vector<std::string> Bank::RequestedAccounts(corvane::CorvaneStream& request
   return accounts;
 }
 
-corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
+corvane::CorvaneStream Bank::QueryRecords(const corvane::CorvaneStream& request) {
   const Fields fields = FieldsOf(request);
   const std::string& code = Required(fields, "BSNCODE");
   const Business* business = FindBusiness(code);
@@ -100,7 +101,7 @@ corvane::CorvaneStream Bank::QueryRecords(corvane::CorvaneStream& request) {
   return Answer(ResultList(statement));
 }
 
-corvane::CorvaneStream Bank::QueryInstitutions(corvane::CorvaneStream& request) {
+corvane::CorvaneStream Bank::QueryInstitutions(const corvane::CorvaneStream& request) {
   if (Required(FieldsOf(request), "SRC") != kCustodySource) throw Refused(refusal::kUnknownCode, "SRC");
   const std::vector<std::string> accounts = RequestedAccounts(request, "userDataList");
   Where where;

@@ -37,13 +37,13 @@ class Bank {
   std::vector<BankAccount> Accounts();
 
  private:
-  using Handler = std::function<corvane::CorvaneStream(Bank& bank, corvane::CorvaneStream& request)>;
+  using Handler = std::function<corvane::CorvaneStream(Bank& bank, const corvane::CorvaneStream& request)>;
   static const std::map<std::string, Handler>& Handlers();
 
-  corvane::CorvaneStream QueryRecords(corvane::CorvaneStream& request);
-  corvane::CorvaneStream QueryInstitutions(corvane::CorvaneStream& request);
+  corvane::CorvaneStream QueryRecords(const corvane::CorvaneStream& request);
+  corvane::CorvaneStream QueryInstitutions(const corvane::CorvaneStream& request);
 
-  std::vector<std::string> RequestedAccounts(corvane::CorvaneStream& request, const std::string& list);
+  std::vector<std::string> RequestedAccounts(const corvane::CorvaneStream& request, const std::string& list);
   bool IsCode(std::string_view dictionary, std::string_view code) const;
 
   Database database_;

@@ -68,7 +68,7 @@ corvane::CorvaneStream EmptyAnswer() {
 corvane::CorvaneStream Answer(corvane::List list) {
   corvane::CorvaneStream answer = EmptyAnswer();
   answer.addField(corvane::Field("TOTALNM", std::to_string(list.size())));
-  answer.addList(list);
+  answer.addList(std::move(list));
   return answer;
 }
 

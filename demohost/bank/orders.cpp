@@ -22,10 +22,7 @@ constexpr const char* kOffHours = "RS60004";
 
 std::vector<Fields> RowsOf(const corvane::CorvaneStream& request) {
   std::vector<Fields> rows;
-  for (auto list = request.listsBegin(); list != request.listsEnd(); ++list) {
-    if (list->first != "userDataList") continue;
-    for (const corvane::Row& row : list->second) rows.push_back(FieldsOf(row));
-  }
+  for (const corvane::Row& row : request.getList("userDataList")) rows.push_back(FieldsOf(row));
   if (rows.empty()) throw Refused(refusal::kMissingField, "userDataList");
   return rows;
 }
