@@ -38,8 +38,10 @@ NORVIK_EXPORT std::u16string Widen(std::string_view text, unsigned codePage = 0)
 /// The bytes of `text` in the code page; 0 and failures as for Widen.
 NORVIK_EXPORT std::string Narrow(std::u16string_view text, unsigned codePage = 0);
 
-/// Narrow text to UTF-8 and back, by the rule above.
+/// Narrow text to UTF-8, by the rule above.
 NORVIK_EXPORT std::string Utf8FromAnsi(std::string_view text);
+
+/// UTF-8 to narrow text, by the rule above.
 NORVIK_EXPORT std::string AnsiFromUtf8(std::string_view utf8);
 
 /// Appends the narrow form of `utf8` to `out`.

@@ -83,9 +83,11 @@ NORVIK_EXPORT void norvik_window_unregister(norvik_handle window);
 
 /* --- Named mutexes, owned by threads --- */
 
-/** Results of norvik_mutex_wait. */
+/** Result of norvik_mutex_wait: the calling thread owns the mutex. */
 #define NORVIK_MUTEX_ACQUIRED 0u
+/** Result of norvik_mutex_wait: it owns the mutex, whose owner before ended without releasing it. */
 #define NORVIK_MUTEX_ABANDONED 0x80u
+/** Result of norvik_mutex_wait: it owns nothing. */
 #define NORVIK_MUTEX_FAILED 0xFFFFFFFFu
 
 /** The mutex of that name, made without an owner if there is none; each call gives a handle of its own, and
