@@ -11,12 +11,12 @@ namespace {
 
 // The attributes of a row whose only attribute is an empty "name", as every row of a list in a stream has it.
 const detail::Shared<detail::AttributePart>& emptyName() {
-  static const detail::Shared<detail::AttributePart> part = [] {
+  static const detail::Shared<detail::AttributePart> kPart = [] {
     detail::Shared<detail::AttributePart> made;
     made.edit().map["name"];
     return made;
   }();
-  return part;
+  return kPart;
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ using detail::Shared;
 namespace {
 
 const Label& defaultEncoding() {
-  static const detail::PermanentLabel label("UTF-8");
-  return label;
+  static const detail::PermanentLabel kLabel("UTF-8");
+  return kLabel;
 }
 
 // The attributes, none, of an element that was moved from.
@@ -108,8 +108,8 @@ const std::string& Element::encoding() const {
 }
 
 const AttributeMap& Element::attributes() const {
-  static const AttributeMap none;
-  return attributes_ ? attributes_->map : none;
+  static const AttributeMap kNone;
+  return attributes_ ? attributes_->map : kNone;
 }
 
 bool Element::hasExtra() const {

@@ -74,7 +74,7 @@ class WaitedByThread {
   std::vector<std::weak_ptr<NamedMutex>> mutexes_;
 };
 
-thread_local WaitedByThread t_waited;
+thread_local WaitedByThread g_waited;
 
 struct MutexHandle : HandleObject {
   explicit MutexHandle(std::shared_ptr<NamedMutex> shared) : mutex(std::move(shared)) {}
@@ -126,7 +126,7 @@ uint32_t norvik_mutex_wait(norvik_handle mutex) {
   if (!found) return NORVIK_MUTEX_FAILED;
   try {
     const auto shared = found->mutex;
-    norvik::t_waited.Add(shared);
+    norvik::g_waited.Add(shared);
     return shared->Wait() ? NORVIK_MUTEX_ABANDONED : NORVIK_MUTEX_ACQUIRED;
   } catch (const std::exception&) {
     return NORVIK_MUTEX_FAILED;

@@ -3,29 +3,31 @@
 
 #include "shell/module.h"
 
-#define NORVIK_ENTRY extern "C" __attribute__((visibility("default")))
+extern "C" {
 
-NORVIK_ENTRY uint32_t InitModule(norvik_handle publicInformationModule) {
+NORVIK_EXPORT uint32_t InitModule(norvik_handle publicInformationModule) {
   norvik::StartModule(publicInformationModule);
   return 0;
 }
 
-NORVIK_ENTRY void MenuConfig(char** buffer) {
+NORVIK_EXPORT void MenuConfig(char** buffer) {
   if (buffer) norvik::CopyMenu(buffer);
 }
 
-NORVIK_ENTRY int32_t FreeBuff(char* buffer) {
+NORVIK_EXPORT int32_t FreeBuff(char* buffer) {
   delete[] buffer;
   return 0;
 }
 
-NORVIK_ENTRY void CallFunc(const char* request, uint32_t /*reserved*/) {
+NORVIK_EXPORT void CallFunc(const char* request, uint32_t /*reserved*/) {
   norvik::CallItem(request ? request : "");
 }
 
-NORVIK_ENTRY void Release() {
+NORVIK_EXPORT void Release() {
   norvik::StopModule();
 }
+
+}  // extern "C"
 
 static_assert(std::is_same_v<decltype(&InitModule), norvik_init_module>);
 static_assert(std::is_same_v<decltype(&MenuConfig), norvik_menu_config>);

@@ -19,8 +19,8 @@ inline constexpr const char* kIniplusTag = "iniplus";
 /// The label of a tag, one for each `tag` above.
 template <const char* const& tag>
 const Label& tagLabel() {
-  static const PermanentLabel label(tag);
-  return label;
+  static const PermanentLabel kLabel(tag);
+  return kLabel;
 }
 
 }  // namespace corvane::detail

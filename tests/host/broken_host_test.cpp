@@ -40,7 +40,7 @@ struct BoundLibrary {
 
 const std::vector<BoundLibrary>& BoundLibraries() {
   using namespace norvik::ordinals;
-  static const std::vector<BoundLibrary> libraries = {
+  static const std::vector<BoundLibrary> kLibraries = {
       {Library::kPublicInformation,
        kPublicInformation,
        {"TException", {"CF15001"}},
@@ -50,7 +50,7 @@ const std::vector<BoundLibrary>& BoundLibraries() {
       {Library::kSafeCom, kSafeCom, {"TException", {"ET16024"}}, {"TException", {"ET16024"}}},
       {Library::kExcel, kExcel, {"TException", {"CF20023"}}, {"TException", {"CF20023"}}},
       {Library::kPrint, kPrint, {"TException", {"CF14010"}}, {"TException", {"CF14010"}}}};
-  return libraries;
+  return kLibraries;
 }
 
 TEST(Binding, FindsEachMissingOrdinalByItsLibrarysKey) {
@@ -114,7 +114,7 @@ struct Operation {
 
 const std::vector<Operation>& Reads() {
   constexpr auto kPub = Library::kPublicInformation;
-  static const std::vector<Operation> reads = {
+  static const std::vector<Operation> kReads = {
       {"GetField", kPub, 24, "<a>b</a>", [](auto& s, auto& text) { s.pubInfo.GetField("block", text); }},
       {"GetList", kPub, 40, "<list/>", [](auto& s, auto& text) { s.pubInfo.GetList(text); }},
       {"GetIni", kPub, 60, "<ini/>", [](auto& s, auto& text) { s.pubInfo.GetIni(text); }},
@@ -131,17 +131,17 @@ const std::vector<Operation>& Reads() {
       {"GetErrorText", Library::kError, 5, "t", [](auto& s, auto& text) { s.error->GetErrorText(text, 1); }},
       {"SendText", Library::kSafeCom, 5, "t",
        [](auto& s, auto& text) { s.safeCom->SendText("code", text, 1); }}};
-  return reads;
+  return kReads;
 }
 
 const corvane::List& NoRows() {
-  static const corvane::List list;
-  return list;
+  static const corvane::List kNoRows;
+  return kNoRows;
 }
 
 // Every operation that only succeeds or fails.
 const std::vector<Operation>& Orders() {
-  static const std::vector<Operation> orders = {
+  static const std::vector<Operation> kOrders = {
       {"SetField", Library::kPublicInformation, 23, "",
        [](auto& s, auto& text) { s.pubInfo.SetField(text, corvane::Field("NAME", "value")); }},
       {"ExportExcel", Library::kExcel, 2, "",
@@ -152,7 +152,7 @@ const std::vector<Operation>& Orders() {
          corvane::Row head;
          s.print->PrintList(text, "", head, NoRows());
        }}};
-  return orders;
+  return kOrders;
 }
 
 std::vector<Operation> All() {
