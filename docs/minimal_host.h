@@ -1,5 +1,5 @@
 /* The smallest host that NorvikQry runs in: its six libraries and its main window, made inside the program.
- */
+   A program of yours starts from minimal_host.c; minimal_host_main.cpp shows the window around it. */
 #ifndef NORVIK_DOCS_MINIMAL_HOST_H
 #define NORVIK_DOCS_MINIMAL_HOST_H
 

@@ -1,11 +1,4 @@
 // Keeps a picture moving in a window while the user-interface thread is blocked and pumps no messages.
-//
-// 1. The painter gets finished pictures of the complete window and draws them by itself, from a thread of its
-//    own and through a connection of its own to the display. The thread touches these pictures and nothing
-//    else.
-// 2. X11 is served. On every other platform, without a display, and for a window whose picture format is
-//    not true colour nothing is drawn and nothing fails: the window keeps what the toolkit painted last.
-// 3. All operations belong to the user-interface thread. The window must outlive the running painter.
 #pragma once
 
 #include <qwindowdefs.h>
@@ -14,6 +7,13 @@
 #include <vector>
 
 /// A painter for one window at a time.
+///
+/// 1. The painter gets finished pictures of the complete window and draws them by itself, from a thread of its
+///    own and through a connection of its own to the display. The thread touches these pictures and nothing
+///    else.
+/// 2. X11 is served. On every other platform, without a display, and for a window whose picture format is
+///    not true colour nothing is drawn and nothing fails: the window keeps what the toolkit painted last.
+/// 3. All operations belong to the user-interface thread. The window must outlive the running painter.
 class TBusyPainter {
  public:
   TBusyPainter();

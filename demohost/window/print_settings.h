@@ -1,4 +1,5 @@
-// The dialog of the print settings. What is chosen is used by libraries/print.cpp.
+// The dialog of the print settings, which the print library of the demonstration host opens. It prints
+// nothing: libraries/print.cpp reads what was chosen at each print.
 #pragma once
 
 #include <string>

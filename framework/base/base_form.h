@@ -1,13 +1,5 @@
 // The root of the module's forms. A form does not list its controls: each is translated, skinned and given
 // the host's font and input method because of the properties that it publishes.
-//
-// 1. Made by CreateForm: BuildControls makes the controls, SetCaptions sets their keys, Construct does the
-//    rest. A descendant's BuildControls, SetCaptions (if its base has one to call) and Construct call their
-//    base's first.
-// 2. Skin, texts and fonts are read from g_pPubInfo and g_pTranslate at each show; a failing read propagates
-//    as their exception and leaves that show unfinished.
-// 3. User-interface thread only. A message to the host returns when the host has answered it, and the host
-//    may call the form meanwhile; the form is consistent before it sends.
 #pragma once
 
 #include <cstdint>
@@ -41,6 +33,14 @@ inline constexpr int kLabelMark = 8;
 inline constexpr int kAnnouncedMark = 1;
 
 /// The base of every form of the module but the busy forms.
+///
+/// 1. Made by CreateForm: BuildControls makes the controls, SetCaptions sets their keys, Construct does the
+///    rest. A descendant's BuildControls, SetCaptions (if its base has one to call) and Construct call their
+///    base's first.
+/// 2. Skin, texts and fonts are read from g_pPubInfo and g_pTranslate at each show; a failing read propagates
+///    as their exception and leaves that show unfinished.
+/// 3. User-interface thread only. A message to the host returns when the host has answered it, and the host
+///    may call the form meanwhile; the form is consistent before it sends.
 class TBaseForm : public TForm {
   Q_OBJECT
 

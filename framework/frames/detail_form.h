@@ -1,16 +1,6 @@
 // The frame of a detail dialog: a list of records with a check box each below a head. It has no conditions
 // and no query: the dialog is opened with an answer in hand, and the caller fills m_lvMain before it is
 // shown.
-//
-// To be a detail dialog, a descendant
-// 1. places its head in m_pnCenter, above m_pnlData (BuildControls),
-// 2. sets its caption keys (SetCaptions),
-// 3. makes a CDetailCommon, builds its columns and sets m_strExportType (Construct),
-// 4. fills its head at each show (ResetForm),
-// and calls this class's operation of the same name first; in FormDestroy, where it deletes its
-// CDetailCommon, last.
-//
-// The layout of the list is saved at each close, and read again at the next show.
 #pragma once
 
 #include <memory>
@@ -20,6 +10,16 @@
 #include "framework/frames/list_form.h"
 
 /// The base of the detail dialogs.
+///
+/// To be a detail dialog, a descendant
+/// 1. places its head in m_pnCenter, above m_pnlData (BuildControls),
+/// 2. sets its caption keys (SetCaptions),
+/// 3. makes a CDetailCommon, builds its columns and sets m_strExportType (Construct),
+/// 4. fills its head at each show (ResetForm),
+/// and calls this class's operation of the same name first; in FormDestroy, where it deletes its
+/// CDetailCommon, last.
+///
+/// The layout of the list is saved at each close, and read again at the next show.
 class TDetailForm : public TListForm {
   Q_OBJECT
 

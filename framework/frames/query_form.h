@@ -1,17 +1,6 @@
 // The frame of a query screen: conditions above, a list of records with a check box each, a status line, and
 // the actions that work on the ticked records. It has no condition and no query: m_actQueryExecute is an
 // empty hook.
-//
-// To be a query screen, a descendant
-// 1. places its conditions in m_pnlNormal and m_pnlAdvance and its row buttons in m_pnRightBottom
-//    (BuildControls),
-// 2. sets its caption keys (SetCaptions),
-// 3. builds its columns, sets m_strBsnCode and m_strExportType, fills its account box and m_sumColumns
-//    (Construct),
-// 4. resets its conditions and its actions' visibility at each show (ResetForm),
-// 5. checks, sends and fills the list (m_actQueryExecute),
-// 6. enables its own row actions by the ticks (m_lvMainClick, SelectAll),
-// and calls this class's operation of the same name first; in FormDestroy and FormClose, last.
 #pragma once
 
 #include <initializer_list>
@@ -27,6 +16,17 @@ class TbsSkinExPanel;
 class TbsSkinMenuButton;
 
 /// The base of the query screens.
+///
+/// To be a query screen, a descendant
+/// 1. places its conditions in m_pnlNormal and m_pnlAdvance and its row buttons in m_pnRightBottom
+///    (BuildControls),
+/// 2. sets its caption keys (SetCaptions),
+/// 3. builds its columns, sets m_strBsnCode and m_strExportType, fills its account box and m_sumColumns
+///    (Construct),
+/// 4. resets its conditions and its actions' visibility at each show (ResetForm),
+/// 5. checks, sends and fills the list (m_actQueryExecute),
+/// 6. enables its own row actions by the ticks (m_lvMainClick, SelectAll),
+/// and calls this class's operation of the same name first; in FormDestroy and FormClose, last.
 class TQueryForm : public TListForm {
   Q_OBJECT
 

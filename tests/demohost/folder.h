@@ -1,4 +1,5 @@
-// A scratch folder for tests that need files; used all over the tests of the demonstration host.
+// A scratch folder for tests that need files; used all over the tests of the demonstration host. It holds no
+// files of its own accord.
 #pragma once
 
 #include <stdlib.h>
