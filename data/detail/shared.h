@@ -61,7 +61,7 @@ class PermanentPart {
 
  private:
   union {
-    T part_;
+    T part_;  // NOLINT(readability-identifier-naming): private, as the union is
   };
 };
 
